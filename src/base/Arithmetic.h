@@ -1,0 +1,31 @@
+// Failures of arithmetic, found through the floating-point status flags, and the roundings of the domain.
+#pragma once
+
+#include "base/Single.h"
+
+#include <cstdint>
+
+namespace velorix {
+
+// Forgets what earlier arithmetic raised; every calculation starts with it.
+void ClearArithmeticFlags();
+
+// True when a division by zero, an overflow or an invalid operation has happened since the flags were
+// cleared. Underflow and rounding are no failures.
+bool ArithmeticFailed();
+
+// Throws ArithmeticFailure when ArithmeticFailed(), and clears the flags.
+void CheckArithmetic();
+
+// The value rounded to 32 bits, ready to be stored. Throws ArithmeticFailure when the value's expression, or
+// its rounding, failed, so that the target keeps what it held.
+Single Checked(double Value);
+
+// Nearest integer, halves to the even neighbour.
+double RoundEven(double Value);
+
+// RoundEven to an integer of that width. Throws ArithmeticFailure for a value that doesn't fit.
+std::int16_t RoundToInt16(double Value);
+std::int32_t RoundToInt32(double Value);
+
+} // namespace velorix

@@ -1,0 +1,85 @@
+// Cells and the current cell of a grid.
+#include "platform/Grid.h"
+
+#include "base/Failure.h"
+
+#include <algorithm>
+
+namespace velorix {
+
+Grid::Grid(int DesignRows, int DesignCols, std::string Hint)
+    : Control(std::move(Hint))
+    , ColWidth(static_cast<std::size_t>(DesignCols), 0)
+    , DesignRowCount(DesignRows)
+    , ColCount(DesignCols)
+{
+    SetRows(DesignRows);
+}
+
+GridCell& Grid::At(int Row, int Col)
+{
+    if (Row < 0 || Row >= Rows()) throw SubscriptFailure(Row, 0, Rows() - 1);
+    if (Col < 0 || Col >= ColCount) throw SubscriptFailure(Col, 0, ColCount - 1);
+    return Cells[static_cast<std::size_t>(Row)][static_cast<std::size_t>(Col)];
+}
+
+const GridCell& Grid::At(int Row, int Col) const
+{
+    return const_cast<Grid*>(this)->At(Row, Col);
+}
+
+void Grid::SetRows(int Count)
+{
+    if (Count < 0) throw SubscriptFailure(Count, 0, 32767);
+    if (Count == Rows()) return;
+    Cells.resize(static_cast<std::size_t>(Count), std::vector<GridCell>(static_cast<std::size_t>(ColCount)));
+    CurrentRow = std::clamp(CurrentRow, 0, std::max(0, Count - 1));
+    ShapeView();
+}
+
+void Grid::SetText(int Row, int Col, std::string Text)
+{
+    GridCell& Cell = At(Row, Col);
+    if (Cell.Text == Text) return;
+    Cell.Text = std::move(Text);
+    CellView(Row, Col);
+}
+
+void Grid::SetBackColor(int Row, int Col, Color BackColor)
+{
+    At(Row, Col).BackColor = BackColor;
+    CellView(Row, Col);
+}
+
+void Grid::SetBold(int Row, int Col, bool Bold)
+{
+    At(Row, Col).Bold = Bold;
+    CellView(Row, Col);
+}
+
+int Grid::RowHeight(int Row) const
+{
+    return Row == 0 ? HeaderHeight : DataRowHeight;
+}
+
+void Grid::Select(int Row, int Col)
+{
+    if (Row == CurrentRow && Col == CurrentCol) return;
+    At(Row, Col);
+    LeaveCell();
+    CurrentRow = Row;
+    CurrentCol = Col;
+    ShapeView();
+    EnterCell();
+}
+
+void Grid::BackToDesign()
+{
+    Control::BackToDesign();
+    Cells.clear();
+    CurrentRow = CurrentCol = 0;
+    SetRows(DesignRowCount);
+    ShapeView();
+}
+
+} // namespace velorix

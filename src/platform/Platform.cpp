@@ -1,0 +1,37 @@
+// Access to the window system in use.
+#include "platform/Platform.h"
+
+#include <stdexcept>
+
+namespace velorix {
+namespace {
+
+Platform* Installed = nullptr;
+
+} // namespace
+
+Platform& System()
+{
+    if (!Installed) throw std::logic_error("no window system is installed");
+    return *Installed;
+}
+
+void InstallPlatform(Platform* InUse)
+{
+    Installed = InUse;
+}
+
+void Warn(const std::string& Text, const std::string& Title)
+{
+    System().Show({.Text = Text, .Title = Title});
+}
+
+bool Confirm(const std::string& Text, const std::string& Title)
+{
+    return System().Show({.Text = Text,
+                          .Title = Title,
+                          .Icon = MessageIcon::Question,
+                          .Buttons = MessageButtons::YesNo}) == Answer::Yes;
+}
+
+} // namespace velorix

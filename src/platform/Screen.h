@@ -1,0 +1,44 @@
+// A screen: a set of named controls that is shown, hidden, loaded and unloaded as a whole.
+#pragma once
+
+#include "platform/Property.h"
+
+#include <string>
+#include <vector>
+
+namespace velorix {
+
+struct Control;
+
+// The controls that a screen declares as its members register themselves in their order, which is also the
+// tab order. A screen's constructor ends with DesignEnds(), which notes what every control holds then.
+struct Screen {
+    Screen(std::string ScreenName, std::string ScreenCaption);
+    Screen(const Screen&) = delete;
+    Screen& operator=(const Screen&) = delete;
+
+    const std::string Name;
+    Property<std::string> Caption;
+    Property<bool> Visible{false};
+    Property<bool> Enabled{true};
+    std::vector<Control*> Controls;
+
+    Event<> Load; // raised when an unloaded screen is loaded
+
+    bool IsLoaded() const { return Loaded; }
+
+    // Loads the screen, hidden. Nothing happens when it is loaded already.
+    void LoadHidden();
+
+    // Hides the screen and puts every control back to its state at design. No control raises an event.
+    void Unload();
+
+protected:
+    void DesignEnds();
+
+private:
+    std::string DesignCaption;
+    bool Loaded = false;
+};
+
+} // namespace velorix

@@ -1,0 +1,55 @@
+// A window system without windows: it answers from a list and records what it was asked.
+#pragma once
+
+#include "platform/Platform.h"
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <vector>
+
+namespace velorix {
+
+// Message boxes without a scripted answer get their last button (OK, No, Cancel); dialogs without one are
+// cancelled; a modal screen without a script closes at once.
+class ScriptedPlatform : public Platform {
+public:
+    // What to answer, first in first out.
+    std::deque<Answer> Answers;
+    std::deque<std::optional<std::filesystem::path>> Files; // for both file dialogs
+    std::deque<std::optional<PrintChoice>> Prints;
+    std::map<std::string, std::function<void()>> ModalScripts; // by screen name: what the user does in it
+
+    // What was shown, oldest first.
+    std::vector<Message> Messages;
+    std::vector<FileDialog> FileDialogs;
+    std::vector<std::string> ModalScreens;
+    std::vector<int> HelpTopics;
+    Control* Focused = nullptr;
+    PointerShape Pointer = PointerShape::Default;
+    bool Ended = false;
+
+    std::string Clipboard;
+    Date TodaysDate{2005, 3, 3};
+    std::filesystem::path Folder;
+
+    Answer Show(const Message& Box) override;
+    void ShowModal(Screen& Dialog) override;
+    std::optional<std::filesystem::path> AskFileToOpen(const FileDialog& Dialog) override;
+    std::optional<std::filesystem::path> AskFileToSave(const FileDialog& Dialog) override;
+    std::optional<PrintChoice> AskPrinter(const PrintDialog& Dialog) override;
+    void SetFocus(Control& Target) override;
+    void SetPointer(PointerShape Shape) override { Pointer = Shape; }
+    void Repaint() override {}
+    std::string ClipboardText() override { return Clipboard; }
+    void SetClipboardText(const std::string& Text) override { Clipboard = Text; }
+    Date Today() override { return TodaysDate; }
+    std::filesystem::path ProgramFolder() override { return Folder; }
+    void ShowHelp(const std::filesystem::path& HelpFile, int Topic) override;
+    void EndProgram() override { Ended = true; }
+};
+
+// Raises the timer's tick, if the timer is running.
+void Fire(Timer& Clock);
+
+} // namespace velorix

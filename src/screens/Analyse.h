@@ -1,0 +1,25 @@
+// The dialog that starts an analysis and shows its progress.
+#pragma once
+
+#include "platform/Controls.h"
+#include "platform/Screen.h"
+
+namespace velorix {
+
+struct AnalyseScreen : Screen {
+    AnalyseScreen();
+
+    Label lblAnalyse{"The data has been verified, proceed with analysis"};
+    Label lbl0{"0 %"};
+    Label lbl100{"100 %"};
+    ProgressBar proBar;
+    CommandButton sscAnalyse{"&Analyse", "Click to analyse the project"};
+    CommandButton sscCancel{"&Cancel", "Click to return to the input data"};
+    CommandButton sscHelp{"", "Help"};
+    Timer tmrMatrix{100};
+    Timer tmrStopMatrix{2800};
+};
+
+inline AnalyseScreen frmAnalyse;
+
+} // namespace velorix

@@ -1,0 +1,90 @@
+// The input screen as it stands before a project is loaded.
+#include "screens/Lcc.h"
+
+namespace velorix {
+namespace {
+
+void SetUnits(ComboBox& Selector, const std::vector<std::string>& Units, const std::string& Hint)
+{
+    Selector.List = Units;
+    Selector.ToolTip = Hint;
+}
+
+void SetUnitSelectors(LccScreen& Screen)
+{
+    for (ComboBox* Each : {&Screen.comPFlowrateUnits, &Screen.comGFlowrateUnits,
+                           &Screen.comVaryingDemandUnits, &Screen.comPumpVaryingDemandUnits})
+        SetUnits(*Each, FlowUnitList, "Select the demand units");
+    SetUnits(Screen.comPumpOperatingFlowrateUnits, OperatingFlowUnitList,
+             "Select the operating flow rate units");
+    for (ComboBox* Each :
+         {&Screen.comTRWLUnits, &Screen.comBRWLUnits, &Screen.comPPRWLUnits, &Screen.comPERWLUnits})
+        SetUnits(*Each, DistanceUnitList, "Select the water level units");
+    SetUnits(Screen.comKsNewUnits, FineLengthUnitList, "Select the roughness units of a new pipe");
+    SetUnits(Screen.comKsOldUnits, FineLengthUnitList, "Select the roughness units of an old pipe");
+    SetUnits(Screen.comLiningThicknessUnits, FineLengthUnitList, "Select the lining thickness units");
+    SetUnits(Screen.comDiameterUnits, FineLengthUnitList, "Select the pipe diameter units");
+    SetUnits(Screen.comElevationUnits, DistanceUnitList, "Select the elevation units");
+    SetUnits(Screen.comLengthUnits, DistanceUnitList, "Select the accumulated length units");
+    SetUnits(Screen.comWallThicknessUnits, FineLengthUnitList, "Select the wall thickness units");
+    SetUnits(Screen.comWaterSalesUnits, TariffUnitList, "Select the water tariff units");
+    SetUnits(Screen.comHeadUnits, HeadUnitList, "Select the pump head units");
+    SetUnits(Screen.comFlowUnits, PumpFlowUnitList, "Select the pump flow rate units");
+}
+
+void SetPumpPoints(LccScreen& Screen)
+{
+    for (int Point = 0; Point < 6; ++Point) {
+        const std::string Number = std::to_string(Point + 1);
+        Screen.txtH[Point].ToolTip = "Enter the pump head of point " + Number;
+        Screen.txtQ[Point].ToolTip = "Enter the flow rate of point " + Number;
+        Screen.txtEfficiency[Point].ToolTip = "Enter the pump efficiency of point " + Number;
+    }
+}
+
+void SetHours(Array0<Label, 24>& Hours)
+{
+    for (int Hour = 0; Hour < 24; ++Hour) {
+        Hours[Hour].Caption = std::to_string(Hour + 1);
+        Hours[Hour].BackColor = OffpeakColor;
+        Hours[Hour].ToolTip = "Click to change applicable rate";
+    }
+}
+
+void SetGrid(Grid& Table, std::vector<int> Widths)
+{
+    Table.HeaderHeight = 500;
+    Table.DataRowHeight = 350;
+    Table.FixedCols = 1;
+    Table.ColWidth = std::move(Widths);
+}
+
+} // namespace
+
+LccScreen::LccScreen()
+    : Screen("frmLCC", "  LIFE CYCLE COSTING ANALYSIS INPUT DATA")
+{
+    SetUnitSelectors(*this);
+    SetPumpPoints(*this);
+    SetHours(lblSummerHour);
+    SetHours(lblWinterHour);
+    SetGrid(msgProfile, {900, 1200, 1200, 1000, 1000, 1000, 1200, 1900});
+    SetGrid(msgDemand, {1000, 1200});
+    SetGrid(msgPumpDemand, {1000, 1200});
+    SetGrid(msgLaying, {3300, 1600});
+    SetGrid(msgOperational, {1600, 1900, 1900});
+    SetGrid(msgOtherOperational, {2200, 1900});
+    msgLaying.MergeEqualCells = true;
+
+    GroupOptions({&optGSpecifiedFlowrate, &optGCalculatedFlowrate});
+    GroupOptions({&optPumpFixed, &optPumpVarying});
+    GroupOptions({&optFlowrate, &optPumpDetails});
+    GroupOptions({&optCopon, &optMortar});
+    for (Control* Each : std::initializer_list<Control*>{
+             &comNode, &txtCell, &txtLaying, &txtDemand, &txtPumpDemand, &txtCellOperational,
+             &txtCellOtherOperational, &fraLaying, &fraPumpDetails})
+        Each->Visible = false;
+    DesignEnds();
+}
+
+} // namespace velorix
