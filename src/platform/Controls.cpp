@@ -7,14 +7,14 @@ namespace velorix {
 
 void Control::NoteDesign()
 {
-    DesignVisible = Visible;
-    DesignEnabled = Enabled;
+    Visible.NoteDesign();
+    Enabled.NoteDesign();
 }
 
 void Control::BackToDesign()
 {
-    Visible.Restore(DesignVisible);
-    Enabled.Restore(DesignEnabled);
+    Visible.BackToDesign();
+    Enabled.BackToDesign();
     Tag.clear();
 }
 
@@ -27,20 +27,32 @@ Label::Label(std::string Text, std::string Hint)
 void Label::NoteDesign()
 {
     Control::NoteDesign();
-    DesignCaption = Caption;
-    DesignColor = BackColor;
+    Caption.NoteDesign();
+    BackColor.NoteDesign();
 }
 
 void Label::BackToDesign()
 {
     Control::BackToDesign();
-    Caption.Restore(DesignCaption);
-    BackColor.Restore(DesignColor);
+    Caption.BackToDesign();
+    BackColor.BackToDesign();
 }
 
 Frame::Frame(std::string Text)
     : Caption(std::move(Text))
 {
+}
+
+void Frame::NoteDesign()
+{
+    Control::NoteDesign();
+    Caption.NoteDesign();
+}
+
+void Frame::BackToDesign()
+{
+    Control::BackToDesign();
+    Caption.BackToDesign();
 }
 
 TextBox::TextBox(std::string Hint, int LongestText)
@@ -50,10 +62,16 @@ TextBox::TextBox(std::string Hint, int LongestText)
     Text.Changed = [this] { Change(); };
 }
 
+void TextBox::NoteDesign()
+{
+    Control::NoteDesign();
+    Text.NoteDesign();
+}
+
 void TextBox::BackToDesign()
 {
     Control::BackToDesign();
-    Text.Restore({});
+    Text.BackToDesign();
     SelStart = 0;
 }
 
@@ -76,15 +94,15 @@ std::string ComboBox::Text() const
 void ComboBox::NoteDesign()
 {
     Control::NoteDesign();
-    DesignList = List;
-    DesignIndex = ListIndex;
+    List.NoteDesign();
+    ListIndex.NoteDesign();
 }
 
 void ComboBox::BackToDesign()
 {
     Control::BackToDesign();
-    List.Restore(DesignList);
-    ListIndex.Restore(DesignIndex);
+    List.BackToDesign();
+    ListIndex.BackToDesign();
 }
 
 OptionButton::OptionButton(std::string Text, std::string Hint)
@@ -96,10 +114,18 @@ OptionButton::OptionButton(std::string Text, std::string Hint)
     };
 }
 
+void OptionButton::NoteDesign()
+{
+    Control::NoteDesign();
+    Caption.NoteDesign();
+    Value.NoteDesign();
+}
+
 void OptionButton::BackToDesign()
 {
     Control::BackToDesign();
-    Value.Restore(false);
+    Caption.BackToDesign();
+    Value.BackToDesign();
 }
 
 void GroupOptions(std::vector<OptionButton*> Members)
@@ -120,10 +146,18 @@ CheckBox::CheckBox(std::string Text, std::string Hint)
     Value.Changed = [this] { Click(); };
 }
 
+void CheckBox::NoteDesign()
+{
+    Control::NoteDesign();
+    Caption.NoteDesign();
+    Value.NoteDesign();
+}
+
 void CheckBox::BackToDesign()
 {
     Control::BackToDesign();
-    Value.Restore(false);
+    Caption.BackToDesign();
+    Value.BackToDesign();
 }
 
 CommandButton::CommandButton(std::string Text, std::string Hint)
@@ -135,13 +169,13 @@ CommandButton::CommandButton(std::string Text, std::string Hint)
 void CommandButton::NoteDesign()
 {
     Control::NoteDesign();
-    DesignCaption = Caption;
+    Caption.NoteDesign();
 }
 
 void CommandButton::BackToDesign()
 {
     Control::BackToDesign();
-    Caption.Restore(DesignCaption);
+    Caption.BackToDesign();
 }
 
 ScrollBar::ScrollBar(int Least, int Most, int LargeStep, std::string Hint)
@@ -161,23 +195,29 @@ ScrollBar::ScrollBar(int Least, int Most, int LargeStep, std::string Hint)
 void ScrollBar::NoteDesign()
 {
     Control::NoteDesign();
-    DesignMin = Min;
-    DesignMax = Max;
-    DesignValue = Value;
+    Min.NoteDesign();
+    Max.NoteDesign();
+    Value.NoteDesign();
 }
 
 void ScrollBar::BackToDesign()
 {
     Control::BackToDesign();
-    Min.Restore(DesignMin);
-    Max.Restore(DesignMax);
-    Value.Restore(DesignValue);
+    Min.BackToDesign();
+    Max.BackToDesign();
+    Value.BackToDesign();
+}
+
+void ProgressBar::NoteDesign()
+{
+    Control::NoteDesign();
+    Value.NoteDesign();
 }
 
 void ProgressBar::BackToDesign()
 {
     Control::BackToDesign();
-    Value.Restore(0);
+    Value.BackToDesign();
 }
 
 TabControl::TabControl(std::vector<std::string> Captions)
@@ -186,11 +226,18 @@ TabControl::TabControl(std::vector<std::string> Captions)
 {
 }
 
+void TabControl::NoteDesign()
+{
+    Control::NoteDesign();
+    Tab.NoteDesign();
+    TabVisible.NoteDesign();
+}
+
 void TabControl::BackToDesign()
 {
     Control::BackToDesign();
-    Tab.Restore(0);
-    TabVisible.Restore(std::vector<bool>(TabCaptions.size(), true));
+    Tab.BackToDesign();
+    TabVisible.BackToDesign();
 }
 
 DatePicker::DatePicker(std::string Hint)
@@ -199,10 +246,34 @@ DatePicker::DatePicker(std::string Hint)
     Value.Changed = [this] { Change(); };
 }
 
+void DatePicker::NoteDesign()
+{
+    Control::NoteDesign();
+    Value.NoteDesign();
+}
+
+void DatePicker::BackToDesign()
+{
+    Control::BackToDesign();
+    Value.BackToDesign();
+}
+
 Timer::Timer(int Milliseconds)
     : Interval(Milliseconds)
 {
     Enabled = false;
+}
+
+void Timer::NoteDesign()
+{
+    Control::NoteDesign();
+    Interval.NoteDesign();
+}
+
+void Timer::BackToDesign()
+{
+    Control::BackToDesign();
+    Interval.BackToDesign();
 }
 
 } // namespace velorix

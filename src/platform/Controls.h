@@ -31,10 +31,6 @@ struct Control {
     // control.
     virtual void NoteDesign();
     virtual void BackToDesign();
-
-private:
-    bool DesignVisible = true;
-    bool DesignEnabled = true;
 };
 
 // A line of text, or a coloured field that can be clicked.
@@ -46,15 +42,14 @@ struct Label : Control {
 
     void NoteDesign() override;
     void BackToDesign() override;
-
-private:
-    std::string DesignCaption;
-    Color DesignColor;
 };
 
 struct Frame : Control {
     explicit Frame(std::string Text = {});
     Property<std::string> Caption;
+
+    void NoteDesign() override;
+    void BackToDesign() override;
 };
 
 struct TextBox : Control {
@@ -66,6 +61,7 @@ struct TextBox : Control {
     KeyHandler KeyPress;
     KeyHandler KeyDown;
 
+    void NoteDesign() override;
     void BackToDesign() override;
 };
 
@@ -81,10 +77,6 @@ struct ComboBox : Control {
 
     void NoteDesign() override;
     void BackToDesign() override;
-
-private:
-    std::vector<std::string> DesignList;
-    int DesignIndex = -1;
 };
 
 // One of a group of which one is set.
@@ -94,6 +86,7 @@ struct OptionButton : Control {
     Property<bool> Value{false};
     Handler Click; // raised when the option is set, by the user or by code
 
+    void NoteDesign() override;
     void BackToDesign() override;
 };
 
@@ -106,6 +99,7 @@ struct CheckBox : Control {
     Property<bool> Value{false};
     Handler Click;
 
+    void NoteDesign() override;
     void BackToDesign() override;
 };
 
@@ -116,9 +110,6 @@ struct CommandButton : Control {
 
     void NoteDesign() override;
     void BackToDesign() override;
-
-private:
-    std::string DesignCaption;
 };
 
 // A bar that carries a whole number between Min and Max. A value outside is held at the bound.
@@ -133,15 +124,12 @@ struct ScrollBar : Control {
 
     void NoteDesign() override;
     void BackToDesign() override;
-
-private:
-    int DesignMin = 0;
-    int DesignMax = 0;
-    int DesignValue = 0;
 };
 
 struct ProgressBar : Control {
     Property<int> Value{0}; // percent
+
+    void NoteDesign() override;
     void BackToDesign() override;
 };
 
@@ -150,6 +138,8 @@ struct TabControl : Control {
     const std::vector<std::string> TabCaptions;
     Property<int> Tab{0}; // the page on top
     Property<std::vector<bool>> TabVisible;
+
+    void NoteDesign() override;
     void BackToDesign() override;
 };
 
@@ -157,6 +147,9 @@ struct DatePicker : Control {
     explicit DatePicker(std::string Hint = {});
     Property<Date> Value;
     Handler Change;
+
+    void NoteDesign() override;
+    void BackToDesign() override;
 };
 
 // Raises Tick every Interval milliseconds while it is enabled, from the event loop only.
@@ -164,6 +157,9 @@ struct Timer : Control {
     explicit Timer(int Milliseconds);
     Property<int> Interval;
     Handler Tick;
+
+    void NoteDesign() override;
+    void BackToDesign() override;
 };
 
 } // namespace velorix

@@ -10,10 +10,10 @@ namespace velorix {
 Grid::Grid(int DesignRows, int DesignCols, std::string Hint)
     : Control(std::move(Hint))
     , ColWidth(static_cast<std::size_t>(DesignCols), 0)
-    , DesignRowCount(DesignRows)
     , ColCount(DesignCols)
 {
     SetRows(DesignRows);
+    Grid::NoteDesign();
 }
 
 GridCell& Grid::At(int Row, int Col)
@@ -73,12 +73,19 @@ void Grid::Select(int Row, int Col)
     EnterCell();
 }
 
+void Grid::NoteDesign()
+{
+    Control::NoteDesign();
+    DesignCells = Cells;
+    DesignLayout = Layout();
+}
+
 void Grid::BackToDesign()
 {
     Control::BackToDesign();
-    Cells.clear();
+    Cells = DesignCells;
+    Layout() = DesignLayout;
     CurrentRow = CurrentCol = 0;
-    SetRows(DesignRowCount);
     ShapeView();
 }
 

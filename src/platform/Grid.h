@@ -4,6 +4,7 @@
 #include "platform/Controls.h"
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace velorix {
@@ -57,17 +58,25 @@ struct Grid : Control {
     Event<int, int> CellView; // tells the attached view that a cell has changed
     Handler ShapeView;        // tells it that rows or the current cell have
 
+    void NoteDesign() override;
     void BackToDesign() override;
 
 private:
+    // What the code may set about the grid beside its cells.
+    auto Layout()
+    {
+        return std::tie(ColWidth, HeaderHeight, DataRowHeight, FixedRows, FixedCols, MergeEqualCells);
+    }
+
     GridCell& At(int Row, int Col);
     const GridCell& At(int Row, int Col) const;
 
-    const int DesignRowCount;
     const int ColCount;
     std::vector<std::vector<GridCell>> Cells;
     int CurrentRow = 0;
     int CurrentCol = 0;
+    std::vector<std::vector<GridCell>> DesignCells;
+    std::tuple<std::vector<int>, int, int, int, int, bool> DesignLayout;
 };
 
 } // namespace velorix

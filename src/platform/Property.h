@@ -43,7 +43,7 @@ public:
     {
     }
     Property(const Property&) = delete;
-    Property& operator=(const Property&) = delete;
+    Property& operator=(const Property& Other) { return *this = Other.Current; }
 
     const T& Get() const { return Current; }
     operator const T&() const { return Current; }
@@ -64,7 +64,13 @@ public:
         Changed();
     }
 
-    // Takes the value as the field's state at the program's start: the view is told, no event is raised.
+    // Notes the present value as the one that BackToDesign returns to. Without it that is the first value.
+    void NoteDesign() { Design = Current; }
+
+    // Takes the value noted as the design: the view is told, no event is raised.
+    void BackToDesign() { Restore(Design); }
+
+    // Takes a value as BackToDesign does.
     void Restore(T Value)
     {
         if (Value == Current) return;
@@ -78,6 +84,7 @@ public:
 
 private:
     T Current{};
+    T Design{};
 };
 
 } // namespace velorix

@@ -1,0 +1,94 @@
+// Session state, new project defaults and the load step.
+#include "project/Session.h"
+
+#include "base/Text.h"
+#include "platform/Platform.h"
+#include "project/InputScreen.h"
+#include "project/ProjectFile.h"
+#include "project/WorkingSet.h"
+#include "screens/Lcc.h"
+#include "screens/MainWindow.h"
+#include "screens/Results.h"
+
+namespace velorix {
+
+std::int16_t ProjectOpen = 0;
+std::int16_t NewProject = 0;
+std::int16_t Saved = 0;
+std::int16_t Analysed = 0;
+std::int16_t SaveAs = 0;
+std::int16_t Committing = 0;
+std::int16_t ViewState = 1;
+std::string FileName;
+bool RedrawProfileView = false;
+
+namespace {
+
+void ShowProgress(int Percent)
+{
+    MDIProject.proProgressBar.Visible = true;
+    MDIProject.proProgressBar.Value = Percent;
+    System().Repaint();
+}
+
+void HideProgress()
+{
+    MDIProject.lblProgessBar.Visible = false;
+    MDIProject.proProgressBar.Visible = false;
+}
+
+void ShowFileAndTitle()
+{
+    frmLCC.lblFileName.Caption = Trim(FileName);
+    MDIProject.Caption = wProject.empty() ? "  Velorix" : "  Velorix (" + wProject + ")";
+}
+
+} // namespace
+
+void LoadProject()
+{
+    ShowProgress(0);
+    if (NewProject == 0) {
+        try {
+            ReadProjectRecord();
+        } catch (...) {
+            HideProgress();
+            throw;
+        }
+    }
+    ShowProgress(10);
+    CopyRecordToWorkingSet();
+    frmLCC.sstInput.TabVisible = std::vector<bool>(frmLCC.sstInput.TabCaptions.size(), true);
+    if (NewProject == 0) ShowFileAndTitle();
+    NewProject = 0;
+
+    ShowProgress(50);
+    FillInputScreen();
+    ShowProgress(70);
+    ShowProgress(100);
+
+    Analysed = 0;
+    ProjectOpen = 1;
+    Saved = 1;
+    SaveAs = 0;
+    RedrawProfileView = true;
+    HideProgress();
+    frmLCC.Visible = true;
+}
+
+void MarkChanged()
+{
+    if (Analysed == 1) frmResults.Unload();
+    Analysed = 0;
+    Saved = 0;
+}
+
+void ResetSession()
+{
+    ProjectOpen = NewProject = Saved = Analysed = SaveAs = Committing = 0;
+    ViewState = 1;
+    FileName.clear();
+    RedrawProfileView = false;
+}
+
+} // namespace velorix

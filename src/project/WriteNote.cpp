@@ -1,0 +1,165 @@
+// The note's form: a mark, where the record stands, its old and new bytes, and a checksum over all of it.
+#include "project/WriteNote.h"
+
+#include "base/Failure.h"
+
+#include <algorithm>
+#include <cstring>
+#include <fcntl.h>
+#include <optional>
+#include <string>
+#include <unistd.h>
+
+namespace velorix {
+namespace {
+
+constexpr std::size_t MarkLength = 8;
+constexpr char Mark[MarkLength + 1] = "VLXNOTE1";
+constexpr std::size_t NoteLength = MarkLength + 3 * sizeof(std::uint64_t) + 2 * RecordLength;
+
+// FNV-1a, 64 bits: enough to tell a torn note from a whole one.
+std::uint64_t Checksum(const char* Bytes, std::size_t Count)
+{
+    std::uint64_t Sum = 14695981039346656037U;
+    for (std::size_t Index = 0; Index < Count; ++Index)
+        Sum = (Sum ^ static_cast<unsigned char>(Bytes[Index])) * 1099511628211U;
+    return Sum;
+}
+
+std::string ToBytes(const PendingWrite& Change)
+{
+    std::string Bytes(Mark, MarkLength);
+    const auto PutNumber = [&Bytes](std::uint64_t Value) {
+        char Word[sizeof Value];
+        std::memcpy(Word, &Value, sizeof Value);
+        Bytes.append(Word, sizeof Word);
+    };
+    PutNumber(Change.Start);
+    PutNumber(Change.Length);
+    Bytes.append(Change.Old.data(), Change.Old.size());
+    Bytes.append(Change.New.data(), Change.New.size());
+    PutNumber(Checksum(Bytes.data(), Bytes.size()));
+    return Bytes;
+}
+
+std::optional<PendingWrite> FromBytes(const std::string& Bytes)
+{
+    if (Bytes.size() != NoteLength || Bytes.compare(0, MarkLength, Mark) != 0) return std::nullopt;
+    const char* At = Bytes.data() + MarkLength;
+    const auto TakeNumber = [&At] {
+        std::uint64_t Value = 0;
+        std::memcpy(&Value, At, sizeof Value);
+        At += sizeof Value;
+        return Value;
+    };
+    PendingWrite Change;
+    Change.Start = TakeNumber();
+    Change.Length = TakeNumber();
+    for (RecordImage* Each : {&Change.Old, &Change.New}) {
+        std::copy(At, At + RecordLength, Each->begin());
+        At += RecordLength;
+    }
+    const std::size_t Summed = NoteLength - sizeof(std::uint64_t);
+    return TakeNumber() == Checksum(Bytes.data(), Summed) ? std::optional(Change) : std::nullopt;
+}
+
+std::optional<PendingWrite> ReadNote(const std::filesystem::path& Project)
+{
+    const File Note = File::OpenToRead(NotePath(Project));
+    std::string Bytes(NoteLength, '\0');
+    if (Note.Length() != NoteLength || Note.Read(0, Bytes.data(), NoteLength) != NoteLength)
+        return std::nullopt;
+    return FromBytes(Bytes);
+}
+
+// A write cut short leaves every byte of the record either old or new, and the file no longer than complete.
+bool IsHalfWritten(const File& Target, const PendingWrite& Change)
+{
+    const std::uintmax_t Length = Target.Length();
+    if (Length < Change.Length || Length > std::max(Change.Length, Change.Start + RecordLength)) return false;
+    RecordImage Found{};
+    const std::size_t Held = Target.Read(Change.Start, Found.data(), Found.size());
+    for (std::size_t Index = 0; Index < Held; ++Index)
+        if (Found[Index] != Change.Old[Index] && Found[Index] != Change.New[Index]) return false;
+    return true;
+}
+
+// Makes the folder's entries last as well.
+void FlushFolder(const std::filesystem::path& Entry)
+{
+    const std::filesystem::path Folder = Entry.has_parent_path() ? Entry.parent_path() : ".";
+    const int Handle = ::open(Folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (Handle < 0) return;
+    ::fsync(Handle);
+    ::close(Handle);
+}
+
+bool FolderTakesFiles(const std::filesystem::path& Entry)
+{
+    const std::filesystem::path Folder = Entry.has_parent_path() ? Entry.parent_path() : ".";
+    return ::access(Folder.c_str(), W_OK | X_OK) == 0;
+}
+
+} // namespace
+
+std::filesystem::path NotePath(const std::filesystem::path& Project)
+{
+    // Beside the file itself, not beside a link to it: all names of the file must find the same note.
+    std::error_code Unresolved;
+    const std::filesystem::path Real = std::filesystem::canonical(Project, Unresolved);
+    const std::filesystem::path& Path = Unresolved ? Project : Real;
+    return Path.parent_path() / ("." + Path.filename().string() + ".saving");
+}
+
+void NoteWrite(const std::filesystem::path& Project, const PendingWrite& Change)
+{
+    const std::filesystem::path Path = NotePath(Project);
+    if (!FolderTakesFiles(Path)) return;
+    const std::string Bytes = ToBytes(Change);
+    try {
+        File Note = File::CreateNew(Path);
+        Note.Write(0, Bytes.data(), Bytes.size());
+        Note.Flush();
+    } catch (const FileFailure&) {
+        ForgetNote(Project);
+        throw;
+    }
+    FlushFolder(Path);
+}
+
+void CompleteInterruptedWrite(const std::filesystem::path& Project)
+{
+    std::error_code Missing;
+    if (!std::filesystem::exists(NotePath(Project), Missing)) return;
+    std::optional<PendingWrite> Change;
+    try {
+        Change = ReadNote(Project);
+        if (Change) {
+            File Target = File::OpenToWrite(Project);
+            if (IsHalfWritten(Target, *Change)) {
+                Target.Write(Change->Start, Change->New.data(), Change->New.size());
+                Target.Flush();
+            }
+        }
+    } catch (const FileFailure&) {
+        return; // the caller's own use of the file will tell what is wrong with it
+    }
+    ForgetNote(Project);
+}
+
+void UndoWrite(File& Target, const PendingWrite& Change)
+{
+    const std::uintmax_t Behind = Change.Length > Change.Start ? Change.Length - Change.Start : 0;
+    const auto Held = static_cast<std::size_t>(std::min<std::uintmax_t>(RecordLength, Behind));
+    Target.Write(Change.Start, Change.Old.data(), Held);
+    Target.Truncate(Change.Length);
+    Target.Flush();
+}
+
+void ForgetNote(const std::filesystem::path& Project)
+{
+    std::error_code Missing;
+    std::filesystem::remove(NotePath(Project), Missing);
+}
+
+} // namespace velorix

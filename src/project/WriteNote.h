@@ -1,0 +1,35 @@
+// The note of a write in progress, which keeps a project whole when the program or the machine stops in the
+// middle of a save.
+#pragma once
+
+#include "project/File.h"
+#include "project/ProjectRecord.h"
+
+namespace velorix {
+
+// A record that is about to be replaced.
+struct PendingWrite {
+    std::uintmax_t Start = 0;  // first byte of the record in the file
+    std::uintmax_t Length = 0; // bytes of the file before the write
+    RecordImage Old{};
+    RecordImage New{};
+};
+
+// The note of a project file stands beside it, hidden, under a name of its own.
+std::filesystem::path NotePath(const std::filesystem::path& Project);
+
+// Writes the note, on the disk when it returns. Where the folder takes no new file at all, the write goes on
+// without one. Throws FileFailure when there is no room for it: then there is none for the record either.
+void NoteWrite(const std::filesystem::path& Project, const PendingWrite& Change);
+
+// Finishes the write that a note tells of, if the file holds nothing but old and new bytes in the record's
+// place; a note that is torn itself, or that no longer fits its file, is dropped. Called ahead of every use
+// of a project file. A file that can't be written yet is left for the next time.
+void CompleteInterruptedWrite(const std::filesystem::path& Project);
+
+// Puts the old bytes and the old length back after a write that failed.
+void UndoWrite(File& Target, const PendingWrite& Change);
+
+void ForgetNote(const std::filesystem::path& Project);
+
+} // namespace velorix
