@@ -1,0 +1,49 @@
+// State of the plots.
+#include "results/PlotState.h"
+
+#include "base/Format.h"
+#include "project/WorkingSet.h"
+#include "screens/Lcc.h"
+#include "screens/Results.h"
+
+namespace velorix {
+
+ByRow Chainage;
+ByRow GroundLevel;
+std::int16_t PlotYear = 1;
+std::int16_t HideGradeline = 0;
+std::int16_t HideComponents = 0;
+
+void FillCombos()
+{
+    std::vector<std::string> Distances;
+    for (int Row = 1; Row <= NodeCount; ++Row) Distances.push_back(Format(Chainage[Row], "#0.000"));
+    frmResults.comBegin.List = Distances;
+    frmResults.comEnd.List = Distances;
+    frmResults.comBegin.ListIndex = 0;
+    frmResults.comEnd.ListIndex = NodeCount - 1;
+    PlotYear = 1;
+    HideGradeline = 0;
+    HideComponents = 0;
+}
+
+void TakeProfileForPlot()
+{
+    NodeCount = frmLCC.msgProfile.Rows() - 1;
+    for (int Row = 1; Row <= NodeCount; ++Row) {
+        Chainage[Row] = wAccLength[Row];
+        GroundLevel[Row] = wElevation[Row];
+    }
+    frmResults.hscYears.Max = wLife;
+}
+
+void ResetPlotState()
+{
+    Chainage.Fill(0.0);
+    GroundLevel.Fill(0.0);
+    PlotYear = 1;
+    HideGradeline = 0;
+    HideComponents = 0;
+}
+
+} // namespace velorix

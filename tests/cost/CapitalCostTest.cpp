@@ -1,0 +1,213 @@
+// Trenches, fees and the capital cost build-up.
+#include "cost/CostTest.h"
+
+#include "base/Failure.h"
+
+#include <cmath>
+
+namespace velorix {
+namespace {
+
+class CapitalCostTest : public CostTest {
+protected:
+    // Rates and conditions of the trench that the tests below work out by hand.
+    static void ReadUsualRates()
+    {
+        const double Values[] = {50, 40, 200, 120, 30, 110, 25, 20, 25, 60, 40, 0.9, 0.1};
+        for (int i = 0; i < 13; ++i) wLaying[i + 1] = Values[i];
+        ReadLayingRates();
+    }
+
+    // A pipeline with a pipe of 1 million, mechanical and electrical works of 4 million, 20 percent
+    // preliminary and general items, 10 percent contingencies, 12 percent escalation over two years.
+    static void DescribePipelineOfAMillion()
+    {
+        NodeCount = 2;
+        SectionLength[1] = 1000;
+        wPipeCost[1] = 1000;
+        wMechanical = 2500000;
+        wElectrical = 1500000;
+        wPG = 20;
+        wContingencies = 10;
+        wEscalation = 12;
+        BuildFor(2);
+    }
+
+    // Trench width for a bore, read off the backfill of 1 m of trench at 1 a cubic metre.
+    static double WidthFor(Single Diameter, Single Lining)
+    {
+        NodeCount = 2;
+        InternalDiameter[1] = Diameter;
+        LiningLoss = Lining;
+        SectionLength[1] = 1;
+        RateBackfilling = 1;
+        Cover = 1.1;
+        ComputeCapitalCost();
+        return BackfillCost[1];
+    }
+};
+
+// By hand for 100 m of a bore of 0.5 m: W = 1.1 m, T = 0.9 + 0.5 + 0.1 = 1.5 m; rates mixed by their shares
+// are 40 x 0.75 + 200 x 0.25 = 80, 30 x 0.4 + 120 x 0.6 = 84 and 25 x 0.6 + 110 x 0.4 = 59. The second
+// section is half as long. Stored values carry seven digits.
+TEST_F(CapitalCostTest, TrenchByHand)
+{
+    ReadUsualRates();
+    NodeCount = 3;
+    LiningLoss = 0.01;
+    for (int i = 1; i <= 2; ++i) InternalDiameter[i] = 0.49;
+    SectionLength[1] = 100;
+    SectionLength[2] = 50;
+    SectionLength[3] = 10; // no section of its own, but its pipe is bought
+    wPipeCost[1] = 900;
+    wPipeCost[2] = 800;
+    wPipeCost[3] = 30;
+    for (int Run = 1; Run <= 2; ++Run) ComputeCapitalCost(); // a second run starts from nothing
+
+    EXPECT_NEAR(ExcavationCost[1], 1.5 * 1.1 * 100 * 80, 0.01);
+    EXPECT_NEAR(BeddingCost[1], 1.1 * 0.1 * 100 * 84, 0.001);
+    EXPECT_NEAR(BlanketCost[1], (0.6 * 1.1 - 0.196349541) * 100 * 59, 0.003);
+    EXPECT_NEAR(BackfillCost[1], 20 * 1.1 * 100 * 0.8, 0.002);
+    EXPECT_EQ(PipeLayingCost[1], 5000);
+    EXPECT_NEAR(BlanketCost[2], BlanketCost[1] / 2, 0.001);
+    EXPECT_EQ(ExcavationCost[3], 0);
+
+    // 13200 + 924 + 2735.538 + 1760 + 5000 = 23619.538 for 100 m
+    EXPECT_NEAR(LayingCost, 23619.538 * 1.5, 0.02);
+    EXPECT_EQ(PipeSupplyCost, 90000 + 40000 + 300);
+}
+
+TEST_F(CapitalCostTest, TrenchWidensBeyondABoreOfExactly32Bits)
+{
+    EXPECT_NEAR(WidthFor(0.7, 0), 1.3, 1e-6);
+    EXPECT_NEAR(WidthFor(std::nextafter(0.7F, 1.0F), 0), 1.5, 1e-6);
+    EXPECT_NEAR(WidthFor(1, 0), 1.8, 1e-6);
+    EXPECT_NEAR(WidthFor(std::nextafter(1.0F, 2.0F), 0), 2.0, 1e-6);
+    EXPECT_NEAR(WidthFor(2, 0), 3.0, 1e-6);
+    EXPECT_NEAR(WidthFor(std::nextafter(2.0F, 3.0F), 0), 3.2, 1e-6);
+
+    // The double sum of these two lies above the 32 bits of 0.7, and rounds to them.
+    const Single Diameter = 0.68;
+    const Single Lining = 0.02;
+    ASSERT_GT(Diameter + Lining, Single(0.7));
+    EXPECT_NEAR(WidthFor(Diameter, Lining), 1.3, 1e-6);
+}
+
+// 150 percent of import at no cost leaves the trench's blanket a rate of -50: 100 m x 0.46365 m2 x -50.
+TEST_F(CapitalCostTest, BlanketMayGoBelowZeroAndBackfillMayNot)
+{
+    ReadUsualRates();
+    RateBlanketTrench = 100;
+    RateBlanketImport = 0;
+    PercentBlanketImport = 150;
+    Cover = 0.05;
+    NodeCount = 2;
+    InternalDiameter[1] = 0.5;
+    SectionLength[1] = 100;
+    ComputeCapitalCost();
+
+    EXPECT_NEAR(BlanketCost[1], -2318.2523, 0.001);
+    EXPECT_EQ(BackfillCost[1], 0);
+    EXPECT_NEAR(LayingCost, ExcavationCost[1] + BeddingCost[1] - 2318.2523 + 5000, 0.002);
+}
+
+// The sum of 1.01^m over 24 months is 1.01 (1.01^24 - 1) / 0.01 = 27.2431995, so the escalation is
+// (27.2431995 / 24 - 1) = 0.135133313 of the base of 5 x 1.2 x 1.1 = 6.6 million, civil work comes to
+// 1.32 x 1.135133313 = 1.49837597 million with a fee of 169837.6, mechanical and electrical work to
+// 5.28 x 1.135133313 = 5.99350389 million with a fee of 549480.3. The running sum is rounded to 0.06 each
+// month.
+TEST_F(CapitalCostTest, BuildUpByHand)
+{
+    DescribePipelineOfAMillion();
+    frmLCC.txtSupervision.Text = std::string("150000");
+    ComputeCapitalCost();
+
+    EXPECT_EQ(EscalationBase, Single(6600000));
+    EXPECT_NEAR(EscalationAmount, 891879.86, 0.8);
+    EXPECT_NEAR(ConsultingFees, 719317.9, 0.2);
+    EXPECT_EQ(SupervisionCost, 150000);
+    EXPECT_NEAR(TotalCapitalCost, 1.14 * (6600000 + 891879.86 + 719317.9 + 150000), 2);
+    EXPECT_NEAR(CapitalSeries[1], TotalCapitalCost / 2, 0.5);
+    EXPECT_EQ(CapitalSeries[2], CapitalSeries[1]);
+    EXPECT_EQ(CapitalSeries[3], 0);
+}
+
+TEST_F(CapitalCostTest, WithoutConstructionYearsNothingEscalates)
+{
+    DescribePipelineOfAMillion();
+    for (const int Years : {0, -3}) {
+        BuildFor(Years);
+        EscalationAmount = 1;
+        CapitalSeries[1] = 1;
+        ComputeCapitalCost();
+        EXPECT_EQ(EscalationAmount, 0) << Years;
+        // Fees of 1.32 and 5.28 million are 152000 and 492400.
+        EXPECT_NEAR(TotalCapitalCost, 1.14 * (6600000 + 152000 + 492400), 1) << Years;
+        EXPECT_EQ(CapitalSeries[1], 0) << Years;
+    }
+}
+
+// The fee at the end of a bracket is the sum of all brackets up to there; the next one starts from it.
+TEST_F(CapitalCostTest, FeeScalesAreContinuous)
+{
+    const auto ExpectEnd = [](double (*Fee)(double), double End, double Sum, double NextShare) {
+        EXPECT_NEAR(Fee(End), Sum, 1e-6);
+        EXPECT_NEAR(Fee(std::nextafter(End, 1e9)), Sum, 1e-6);
+        EXPECT_NEAR(Fee(End + 1000), Sum + 1000 * NextShare, 1e-6);
+    };
+    EXPECT_EQ(CivilFee(400000), 50000);
+    ExpectEnd(CivilFee, 800000, 100000, 0.1);
+    ExpectEnd(CivilFee, 3400000, 360000, 0.075);
+    ExpectEnd(CivilFee, 13100000, 1087500, 0.055);
+
+    EXPECT_EQ(MechanicalElectricalFee(400000), 50000);
+    ExpectEnd(MechanicalElectricalFee, 800000, 100000, 0.1);
+    ExpectEnd(MechanicalElectricalFee, 2500000, 270000, 0.08);
+    ExpectEnd(MechanicalElectricalFee, 7400000, 662000, 0.07);
+    ExpectEnd(MechanicalElectricalFee, 17100000, 1341000, 0.06);
+    ExpectEnd(MechanicalElectricalFee, 31400000, 2199000, 0.055);
+}
+
+TEST_F(CapitalCostTest, ConstructionThatCostsNothingFails)
+{
+    DescribePipelineOfAMillion();
+    ComputeCapitalCost();
+    const Single Total = TotalCapitalCost;
+    const Single Fees = ConsultingFees;
+
+    wPipeCost[1] = 0;
+    wMechanical = 0;
+    wElectrical = 0;
+    frmLCC.txtSupervision.Text = std::string("150000");
+    EXPECT_THROW(ComputeCapitalCost(), ArithmeticFailure);
+    EXPECT_EQ(PipeSupplyCost, 0);
+    EXPECT_EQ(EscalationAmount, 0);
+    EXPECT_EQ(ConsultingFees, Fees);
+    EXPECT_EQ(SupervisionCost, 0);
+    EXPECT_EQ(TotalCapitalCost, Total);
+}
+
+TEST_F(CapitalCostTest, SupervisionThatIsNoNumberFails)
+{
+    DescribePipelineOfAMillion();
+    SupervisionCost = 77;
+    for (const char* Text : {"", "R 150000", "a lot"}) {
+        ConsultingFees = 0;
+        frmLCC.txtSupervision.Text = std::string(Text);
+        EXPECT_THROW(ComputeCapitalCost(), ConversionFailure) << Text;
+        EXPECT_GT(ConsultingFees, 700000) << Text;
+        EXPECT_EQ(SupervisionCost, 77) << Text;
+        EXPECT_EQ(TotalCapitalCost, 0) << Text;
+    }
+}
+
+TEST_F(CapitalCostTest, MoreThanAHundredConstructionYearsFail)
+{
+    DescribePipelineOfAMillion();
+    BuildFor(101);
+    EXPECT_THROW(ComputeCapitalCost(), SubscriptFailure);
+    EXPECT_EQ(CapitalSeries[100], Single(TotalCapitalCost / 101));
+}
+
+} // namespace
+} // namespace velorix
