@@ -12,6 +12,11 @@ namespace velorix {
 template <typename T, int First, int Last>
 class BoundedArray {
 public:
+    // The names by which a standard container tells its types.
+    using value_type = T;
+    using iterator = typename std::array<T, Last - First + 1>::iterator;
+    using const_iterator = typename std::array<T, Last - First + 1>::const_iterator;
+
     static constexpr int FirstIndex = First;
     static constexpr int LastIndex = Last;
     static constexpr int Count = Last - First + 1;

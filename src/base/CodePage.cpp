@@ -49,6 +49,9 @@ std::optional<char32_t> TakeUtf8(std::string_view& Text)
         Sound = ByteAt(Index) >> 6 == 0x2;
         Code = Code << 6 | (ByteAt(Index) & 0x3F);
     }
+    // More bytes than the character needs: UTF-8 forbids it, and "/" or NUL could hide in it.
+    constexpr std::array<char32_t, 5> LeastOfLength = {0, 0, 0x80, 0x800, 0x10000};
+    Sound = Sound && Code >= LeastOfLength[Length];
     Text.remove_prefix(Sound ? Length : 1);
     return Sound ? std::optional(Code) : std::nullopt;
 }

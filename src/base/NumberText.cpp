@@ -4,6 +4,7 @@
 #include "base/Failure.h"
 #include "base/Text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -45,7 +46,7 @@ DecimalDigits DigitsOf(Number Value, Precision... Digits)
 std::string WithExponent(const DecimalDigits& Number)
 {
     std::string Result = Number.Digits.substr(0, 1);
-    if (Number.Digits.size() > 1) Result += "." + Number.Digits.substr(1);
+    if (Number.Digits.size() > 1) Result.append(1, '.').append(Number.Digits, 1);
     const int Power = Number.Point - 1;
     const std::string Size = std::to_string(std::abs(Power));
     return Result + (Power < 0 ? "E-" : "E+") + (Size.size() < 2 ? "0" : "") + Size;
@@ -111,6 +112,22 @@ std::size_t NumberLength(std::string_view Text)
     return At;
 }
 
+// Which end of the range a number is beyond, as from_chars doesn't say. The number isn't zero.
+bool IsBelowOne(std::string_view Text)
+{
+    const std::string_view Mantissa = Text.substr(0, Text.find_first_of("Ee"));
+    const auto Point = static_cast<long long>(std::min(Mantissa.find('.'), Mantissa.size()));
+    const auto First = static_cast<long long>(Mantissa.find_first_of("123456789"));
+    const long long Power = First < Point ? Point - First - 1 : Point - First;
+    if (Mantissa.size() == Text.size()) return Power < 0;
+
+    std::string_view Digits = Text.substr(Mantissa.size() + 1);
+    if (Digits.front() == '+') Digits.remove_prefix(1);
+    int Exponent = 0;
+    const auto Read = std::from_chars(Digits.data(), Digits.data() + Digits.size(), Exponent);
+    return Read.ec == std::errc() ? Power + Exponent < 0 : Digits.front() == '-';
+}
+
 // Reads a text that NumberLength has measured.
 template <typename Number>
 Number ReadNumber(std::string_view Text)
@@ -120,12 +137,8 @@ Number ReadNumber(std::string_view Text)
     const auto Read = std::from_chars(Text.data(), Text.data() + Text.size(), Value);
     if (Read.ec != std::errc::result_out_of_range) return Value;
 
-    // Too small to be told from zero is no failure. from_chars doesn't say which end of the range it was.
-    long double Wide = 0;
-    std::from_chars(Text.data(), Text.data() + Text.size(), Wide);
-    const bool Tiny =
-        Wide != 0 ? std::fabs(Wide) < 1 : Text.find("E-") != Text.npos || Text.find("e-") != Text.npos;
-    if (Tiny) return Text.front() == '-' ? -Number(0) : Number(0);
+    // Too small to be told from zero is no failure.
+    if (IsBelowOne(Text)) return Text.front() == '-' ? -Number(0) : Number(0);
     throw ArithmeticFailure("overflow: " + std::string(Text) + " is too large");
 }
 

@@ -128,7 +128,7 @@ void OptionButton::BackToDesign()
     Value.BackToDesign();
 }
 
-void GroupOptions(std::vector<OptionButton*> Members)
+void GroupOptions(const std::vector<OptionButton*>& Members)
 {
     for (OptionButton* Each : Members)
         Each->Value.Changed = [Each, Members] {

@@ -91,7 +91,7 @@ struct OptionButton : Control {
 };
 
 // Makes options exclude each other: setting one clears the others.
-void GroupOptions(std::vector<OptionButton*> Members);
+void GroupOptions(const std::vector<OptionButton*>& Members);
 
 struct CheckBox : Control {
     explicit CheckBox(std::string Text = {}, std::string Hint = {});

@@ -11,7 +11,8 @@
 namespace velorix {
 namespace {
 
-constexpr double TaxRate = 0.14;
+constexpr double Tax = 0.14;
+constexpr double WithTax = 1.14;
 
 void PutAmount(int Row, const std::string& Name, Single Amount)
 {
@@ -43,8 +44,8 @@ void FillCapitalCosts()
     PutAmount(10, "Consulting fees (SAACE) 2002)", ConsultingFees);
     PutAmount(11, "Administration and management", SupervisionCost);
     PutAmount(12, "Total construction cost", Construction);
-    PutAmount(13, "VAT 14%", TaxRate * Construction);
-    PutAmount(14, "Total capital cost", (1.0 + TaxRate) * Construction);
+    PutAmount(13, "VAT 14%", Tax * Construction);
+    PutAmount(14, "Total capital cost", WithTax * Construction);
 }
 
 void PutAnnualRow(int Row, const std::string& Group, const std::string& Part)

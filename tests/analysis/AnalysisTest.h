@@ -1,0 +1,47 @@
+// A started program without windows, and projects put into it.
+#pragma once
+
+#include "SampleRecords.h"
+#include "analysis/AnalyseProject.h"
+#include "analysis/Program.h"
+#include "platform/ScriptedPlatform.h"
+#include "project/Session.h"
+#include "project/WorkingSet.h"
+#include "screens/Analyse.h"
+#include "screens/Lcc.h"
+#include "screens/Results.h"
+
+#include <gtest/gtest.h>
+
+namespace velorix {
+
+class AnalysisTest : public testing::Test {
+protected:
+    AnalysisTest()
+    {
+        InstallPlatform(&Windows);
+        ResetProgram();
+        StartSession();
+    }
+
+    // The record as an opened file's would be loaded.
+    static void Open(const ProjectFields& Record)
+    {
+        ProjectRecord = Record;
+        NewProject = 1;
+        LoadProject();
+    }
+
+    void Analyse(const ProjectFields& Record)
+    {
+        Open(Record);
+        Windows.Messages.clear();
+        AnalyseProject();
+    }
+
+    std::string LastMessage() const { return Windows.Messages.empty() ? "" : Windows.Messages.back().Text; }
+
+    ScriptedPlatform Windows;
+};
+
+} // namespace velorix

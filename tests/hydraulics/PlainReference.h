@@ -1,0 +1,95 @@
+// The scalar loops that the fast routines stand in for, written straight from the formulas and with their own
+// arithmetic. Tests and benchmarks hold the stored results of both against each other, bit for bit.
+#pragma once
+
+#include "base/Arithmetic.h"
+#include "hydraulics/DutyPoint.h"
+#include "hydraulics/Flows.h"
+#include "hydraulics/Normalise.h"
+#include "project/WorkingSet.h"
+
+#include <cmath>
+#include <vector>
+
+namespace velorix::plain {
+
+inline double Friction(int Row, int Year, double Q)
+{
+    const double D = InternalDiameter[Row];
+    const double V = Q / (3.14159265359 * D * D / 4);
+    return Lambda(Row, Year) * SectionLength[Row] * V * V / (D * 19.62);
+}
+
+inline double Secondary(int Row, double Q)
+{
+    const double D = InternalDiameter[Row];
+    const double V = Q / (3.14159265359 * D * D / 4);
+    return wSecondaryLoss[Row] * V * V / 19.62;
+}
+
+inline Single SystemHeadAt(Single Q, int Year)
+{
+    Array1<Single, MaxRows> FrictionAt, SecondaryAt, Head;
+    for (int i = 1; i <= NodeCount; ++i) {
+        FrictionAt[i] = Friction(i, Year, Q);
+        SecondaryAt[i] = Secondary(i, Q);
+    }
+    Head[NodeCount] = DownstreamLevel;
+    for (int j = NodeCount - 1; j >= 1; --j) Head[j] = Head[j + 1] + FrictionAt[j] + SecondaryAt[j];
+    Single Lowest = -1;
+    for (int j = 1; j <= NodeCount; ++j) {
+        const Single Pressure = Head[j] - wElevation[j];
+        if (Pressure < Lowest) Lowest = Pressure;
+    }
+    if (Lowest < -1)
+        for (int j = 1; j <= NodeCount; ++j) Head[j] = Head[j] - (Lowest + 1);
+    return Head[1] - UpstreamLevel;
+}
+
+struct Curve {
+    std::vector<Single> Head;
+    std::vector<Single> Flow;
+};
+
+// The points of the year's system curve, up to the first at which the arithmetic fails.
+inline Curve SystemCurve(int Year)
+{
+    Curve Points;
+    const double First = wPumpCurve[2];
+    const double Last = wPumpCurve[17];
+    ClearArithmeticFlags();
+    for (int i = 1; i <= 10000; ++i) {
+        const Single Q = (First + (Last - First) * i / 10000) * FlowFactor;
+        const Single Head = SystemHeadAt(Q, Year);
+        if (ArithmeticFailed()) break;
+        Points.Head.push_back(Head);
+        Points.Flow.push_back(Q);
+    }
+    ClearArithmeticFlags();
+    return Points;
+}
+
+inline bool ClearsHighPoints(int Year, double Q)
+{
+    Single FrictionSum, SecondarySum;
+    for (int i = 1; i <= NodeCount - 1; ++i) {
+        FrictionSum += Friction(i, Year, Q);
+        SecondarySum += Secondary(i, Q);
+        const Single P = UpstreamLevel - ElevationFactor * wElevation[i + 1] - FrictionSum - SecondarySum;
+        if (P <= -1) return false;
+    }
+    return true;
+}
+
+// The flows Start - s / 1000000 one after another; the first that clears, or the last at MostTries.
+inline Single FlowClearOfHighPoints(int Year, Single Start, int MostTries)
+{
+    Single Q;
+    for (int s = 1; s <= MostTries; ++s) {
+        Q = Start - s / 1000000.0;
+        if (ClearsHighPoints(Year, Q)) break;
+    }
+    return Q;
+}
+
+} // namespace velorix::plain
