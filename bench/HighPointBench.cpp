@@ -53,8 +53,8 @@ void NoFlowClears(benchmark::State& State)
 }
 BENCHMARK(NoFlowClears)->Unit(benchmark::kMillisecond);
 
-// The worst that data can do: losses that cancel but for a millionth, and a hill that no flow clears by as little.
-// Hardly a range of flows is decided as a whole, and all ten million are tried.
+// The worst that data can do: losses that cancel but for a millionth, and a hill that no flow clears by as
+// little. Hardly a range of flows is decided as a whole, and all ten million are tried.
 void NothingDecidedAsAWhole(benchmark::State& State)
 {
     LoadHill(0);

@@ -13,18 +13,21 @@
 #include "project/WorkingSet.h"
 #include "results/PlotState.h"
 #include "screens/Analyse.h"
+#include "screens/Dialogs.h"
 #include "screens/DutyPointScreen.h"
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
 #include "screens/Results.h"
+#include "screens/Viewers.h"
 
 namespace velorix {
 
 void ResetProgram()
 {
     ClearArithmeticFlags();
-    for (Screen* Each :
-         std::initializer_list<Screen*>{&frmAnalyse, &frmDutyPoint, &frmLCC, &frmResults, &MDIProject})
+    for (Screen* Each : std::initializer_list<Screen*>{
+             &frmAbout, &frmAgree, &frmAnalyse, &frmDeleteRow, &frmDisclaimer, &frmDutyPoint, &frmIntro,
+             &frmLCC, &frmLCCType, &frmPref, &frmPumpView, &frmResults, &frmView, &MDIProject})
         Each->Unload();
     ResetProjectRecord();
     ResetWorkingSet();

@@ -25,11 +25,12 @@ constexpr int PumpValues = 3; // of one point of the pump curve: head, flow rate
 
 // --- to JSON ---
 
-// Rows up to the last one that isn't marked unused.
+// Rows up to the last one that isn't marked unused. A new project has the first two in use, so these are told
+// whatever they hold.
 int UsedRows(const ProjectFields& Record)
 {
     int Row = Record.Elevation.LastIndex;
-    while (Row > 0 && Record.Elevation[Row] == UnusedNode && Record.AccLength[Row] == UnusedNode) --Row;
+    while (Row > 2 && Record.Elevation[Row] == UnusedNode && Record.AccLength[Row] == UnusedNode) --Row;
     return Row;
 }
 
@@ -147,8 +148,7 @@ void TakeValue(const std::string& Key, const Json& Value, Single& Target)
         {"Infinity", std::numeric_limits<float>::infinity()},
         {"-Infinity", -std::numeric_limits<float>::infinity()}};
     if (Value.is_number()) {
-        Target =
-            Value.is_number_float() ? Value.get<float>() : static_cast<double>(Value.get<std::int64_t>());
+        Target = Value.get<double>();
         return;
     }
     const auto Word = Value.is_string() ? Words.find(Value.get<std::string>()) : Words.end();

@@ -178,6 +178,12 @@ void CommandButton::BackToDesign()
     Caption.BackToDesign();
 }
 
+MenuItem::MenuItem(std::string Text, std::string Hint)
+    : Control(std::move(Hint))
+    , Caption(std::move(Text))
+{
+}
+
 ScrollBar::ScrollBar(int Least, int Most, int LargeStep, std::string Hint)
     : Control(std::move(Hint))
     , Min(Least)

@@ -112,6 +112,13 @@ struct CommandButton : Control {
     void BackToDesign() override;
 };
 
+// An entry of a menu; "&" marks its letter.
+struct MenuItem : Control {
+    explicit MenuItem(std::string Text, std::string Hint = {});
+    Property<std::string> Caption;
+    Handler Click;
+};
+
 // A bar that carries a whole number between Min and Max. A value outside is held at the bound.
 struct ScrollBar : Control {
     ScrollBar(int Least, int Most, int LargeStep, std::string Hint = {});

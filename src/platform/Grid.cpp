@@ -2,6 +2,7 @@
 #include "platform/Grid.h"
 
 #include "base/Failure.h"
+#include "platform/Keys.h"
 
 #include <algorithm>
 
@@ -71,6 +72,27 @@ void Grid::Select(int Row, int Col)
     CurrentCol = Col;
     ShapeView();
     EnterCell();
+}
+
+bool Grid::Navigate(int Key)
+{
+    constexpr int Page = 10;
+    int NewRow = CurrentRow;
+    int NewCol = CurrentCol;
+    switch (Key) {
+    case Keys::Left: --NewCol; break;
+    case Keys::Right: ++NewCol; break;
+    case Keys::Up: --NewRow; break;
+    case Keys::Down: ++NewRow; break;
+    case Keys::PageUp: NewRow -= Page; break;
+    case Keys::PageDown: NewRow += Page; break;
+    case Keys::Home: NewCol = 0; break;
+    case Keys::End: NewCol = ColCount; break;
+    default: return false;
+    }
+    if (Rows() <= FixedRows || ColCount <= FixedCols) return true;
+    Select(std::clamp(NewRow, FixedRows, Rows() - 1), std::clamp(NewCol, FixedCols, ColCount - 1));
+    return true;
 }
 
 void Grid::NoteDesign()

@@ -48,6 +48,10 @@ struct Grid : Control {
     // when the cell is current already.
     void Select(int Row, int Col);
 
+    // What a grid does by itself with a pressed key (platform/Keys.h): arrows, Home, End and the page keys
+    // move the current cell inside the cells that aren't fixed. False for any other key.
+    bool Navigate(int Key);
+
     Handler EnterCell;
     Handler LeaveCell;
     KeyHandler KeyPress;

@@ -39,6 +39,12 @@ struct PrintChoice {
     int Copies = 1;
 };
 
+struct PixelSize {
+    int Width = 800;
+    int Height = 600;
+    bool operator==(const PixelSize&) const = default;
+};
+
 enum class PointerShape { Default, Hourglass, Cross };
 
 class Platform {
@@ -66,6 +72,11 @@ public:
     virtual void SetClipboardText(const std::string& Text) = 0;
 
     virtual Date Today() = 0;
+    virtual PixelSize ScreenSize() = 0;
+
+    // Starts the platform's own tool that tells about the machine; false when there is none.
+    virtual bool ShowSystemInformation() = 0;
+
     virtual std::filesystem::path ProgramFolder() = 0;
     virtual void ShowHelp(const std::filesystem::path& HelpFile, int Topic) = 0;
     virtual void EndProgram() = 0;

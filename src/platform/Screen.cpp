@@ -32,6 +32,14 @@ void Screen::LoadHidden()
     Load();
 }
 
+void Screen::CloseByFrame()
+{
+    if (Close)
+        Close();
+    else
+        Unload();
+}
+
 void Screen::Unload()
 {
     Loaded = false;

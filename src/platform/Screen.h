@@ -23,12 +23,16 @@ struct Screen {
     Property<bool> Enabled{true};
     std::vector<Control*> Controls;
 
-    Event<> Load; // raised when an unloaded screen is loaded
+    Event<> Load;  // raised when an unloaded screen is loaded
+    Event<> Close; // answers the user who closes the screen by its frame; unset, the screen is unloaded
 
     bool IsLoaded() const { return Loaded; }
 
     // Loads the screen, hidden. Nothing happens when it is loaded already.
     void LoadHidden();
+
+    // The user closes the screen by its frame.
+    void CloseByFrame();
 
     // Hides the screen and puts every control back to its state at design. No control raises an event.
     void Unload();

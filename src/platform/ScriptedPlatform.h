@@ -31,6 +31,8 @@ public:
 
     std::string Clipboard;
     Date TodaysDate{2005, 3, 3};
+    PixelSize Pixels;
+    bool HasSystemInformation = false;
     std::filesystem::path Folder;
 
     Answer Show(const Message& Box) override;
@@ -44,6 +46,8 @@ public:
     std::string ClipboardText() override { return Clipboard; }
     void SetClipboardText(const std::string& Text) override { Clipboard = Text; }
     Date Today() override { return TodaysDate; }
+    PixelSize ScreenSize() override { return Pixels; }
+    bool ShowSystemInformation() override { return HasSystemInformation; }
     std::filesystem::path ProgramFolder() override { return Folder; }
     void ShowHelp(const std::filesystem::path& HelpFile, int Topic) override;
     void EndProgram() override { Ended = true; }

@@ -1,5 +1,7 @@
-// The working variables and their filling from the record.
+// The working variables, and the copying between them and the record.
 #include "project/WorkingSet.h"
+
+#include "base/Text.h"
 
 namespace velorix {
 
@@ -15,10 +17,49 @@ int NodeCount = 0;
 
 namespace {
 
+// clang-format off
+// What both kinds of system use.
+#define VELORIX_COMMON_FIELDS(FIELD)                                                                        \
+    FIELD(SystemType) FIELD(Currency) FIELD(Units) FIELD(PG) FIELD(Contingencies)                           \
+    FIELD(Project) FIELD(Designer) FIELD(Date) FIELD(Description)                                           \
+    FIELD(Life) FIELD(BaseYear) FIELD(SupplyStart) FIELD(Supervision) FIELD(WallThicknessUnits)             \
+    FIELD(Flowrate) FIELD(FlowrateUnits) FIELD(VaryingDemand) FIELD(Demand) FIELD(DemandUnits)              \
+    FIELD(TRWL) FIELD(BRWL) FIELD(TRWLUnits) FIELD(BRWLUnits)                                               \
+    FIELD(NodeNr) FIELD(Elevation) FIELD(AccLength) FIELD(Diameter) FIELD(PipeCost)                         \
+    FIELD(SecondaryLoss) FIELD(NodeDesc) FIELD(WallThickness)                                               \
+    FIELD(LiningType) FIELD(LiningThickness) FIELD(LiningThicknessUnits)                                    \
+    FIELD(KsNew) FIELD(KsOld) FIELD(KsOldYears) FIELD(KsNewUnits) FIELD(KsOldUnits)                         \
+    FIELD(DiameterUnits) FIELD(ElevationUnits) FIELD(LengthUnits) FIELD(Laying)                             \
+    FIELD(DiscountRate) FIELD(Escalation) FIELD(EnergyEscalation)                                           \
+    FIELD(MMechanical) FIELD(MElectrical) FIELD(MPipeline) FIELD(Mechanical) FIELD(Electrical)              \
+    FIELD(WaterSales) FIELD(WaterSalesUnits) FIELD(WaterIncrease)                                           \
+    FIELD(StaffPackage) FIELD(StaffTime) FIELD(Expenses)
+
+// What only a pumping system uses, PumpEfficiency apart.
+#define VELORIX_PUMPING_FIELDS(FIELD)                                                                       \
+    FIELD(PumpDetails) FIELD(PumpOperatingFlowrate) FIELD(PumpOperatingFlowrateUnits)                       \
+    FIELD(Pumptype) FIELD(PumpDescription) FIELD(Summer) FIELD(PumpingHours)                                \
+    FIELD(SPeak) FIELD(SStandard) FIELD(SOffpeak) FIELD(WPeak) FIELD(WStandard) FIELD(WOffpeak)             \
+    FIELD(SummerHour) FIELD(WinterHour) FIELD(PumpCurve) FIELD(HeadUnits) FIELD(FlowUnits)
+// clang-format on
+
+// Every field is copied but Reserved1, which stays in the record. PumpEfficiency has a rule of its own.
+#define VELORIX_COUNT(...) +1
+static_assert(2 VELORIX_COMMON_FIELDS(VELORIX_COUNT) VELORIX_PUMPING_FIELDS(VELORIX_COUNT) ==
+                  0 VELORIX_RECORD_FIELDS(VELORIX_COUNT, VELORIX_COUNT, VELORIX_COUNT),
+              "a field of the record is copied once");
+#undef VELORIX_COUNT
+
 template <int Width>
 void Copy(const FixedText<Width>& From, std::string& To)
 {
     To = TextOf(From);
+}
+
+template <int Width>
+void Copy(const std::string& From, FixedText<Width>& To)
+{
+    SetText(To, Trimmed(From));
 }
 
 template <typename T>
@@ -29,93 +70,32 @@ void Copy(const T& From, T& To)
 
 } // namespace
 
-#define VELORIX_COPY(Name) Copy(ProjectRecord.Name, w##Name)
+#define VELORIX_LOAD(Name) Copy(ProjectRecord.Name, w##Name);
+#define VELORIX_STORE(Name) Copy(w##Name, ProjectRecord.Name);
 
 void CopyRecordToWorkingSet()
 {
-    VELORIX_COPY(SystemType);
-    VELORIX_COPY(Currency);
-    VELORIX_COPY(Units);
-    VELORIX_COPY(PG);
-    VELORIX_COPY(Contingencies);
-    VELORIX_COPY(Project);
-    VELORIX_COPY(Designer);
-    VELORIX_COPY(Date);
-    VELORIX_COPY(Description);
-    VELORIX_COPY(Life);
-    VELORIX_COPY(BaseYear);
-    VELORIX_COPY(SupplyStart);
-    VELORIX_COPY(Supervision);
-    VELORIX_COPY(WallThicknessUnits);
-
-    VELORIX_COPY(Flowrate);
-    VELORIX_COPY(FlowrateUnits);
-    VELORIX_COPY(VaryingDemand);
-    VELORIX_COPY(Demand);
-    VELORIX_COPY(DemandUnits);
-    VELORIX_COPY(TRWL);
-    VELORIX_COPY(BRWL);
-    VELORIX_COPY(TRWLUnits);
-    VELORIX_COPY(BRWLUnits);
-
-    VELORIX_COPY(NodeNr);
-    VELORIX_COPY(Elevation);
-    VELORIX_COPY(AccLength);
-    VELORIX_COPY(Diameter);
-    VELORIX_COPY(PipeCost);
-    VELORIX_COPY(SecondaryLoss);
-    VELORIX_COPY(NodeDesc);
-    VELORIX_COPY(WallThickness);
-    VELORIX_COPY(LiningType);
-    VELORIX_COPY(LiningThickness);
-    VELORIX_COPY(LiningThicknessUnits);
-    VELORIX_COPY(KsNew);
-    VELORIX_COPY(KsOld);
-    VELORIX_COPY(KsOldYears);
-    VELORIX_COPY(KsNewUnits);
-    VELORIX_COPY(KsOldUnits);
-    VELORIX_COPY(DiameterUnits);
-    VELORIX_COPY(ElevationUnits);
-    VELORIX_COPY(LengthUnits);
-    VELORIX_COPY(Laying);
-    VELORIX_COPY(DiscountRate);
-    VELORIX_COPY(Escalation);
-    VELORIX_COPY(EnergyEscalation);
-    VELORIX_COPY(MMechanical);
-    VELORIX_COPY(MElectrical);
-    VELORIX_COPY(MPipeline);
-    VELORIX_COPY(Mechanical);
-    VELORIX_COPY(Electrical);
-    VELORIX_COPY(WaterSales);
-    VELORIX_COPY(WaterSalesUnits);
-    VELORIX_COPY(WaterIncrease);
-    VELORIX_COPY(StaffPackage);
-    VELORIX_COPY(StaffTime);
-    VELORIX_COPY(Expenses);
-
+    VELORIX_COMMON_FIELDS(VELORIX_LOAD)
     if (wSystemType != 1) return;
-    VELORIX_COPY(PumpDetails);
-    VELORIX_COPY(PumpOperatingFlowrate);
-    VELORIX_COPY(PumpOperatingFlowrateUnits);
-    VELORIX_COPY(PumpEfficiency);
-    VELORIX_COPY(Pumptype);
-    VELORIX_COPY(PumpDescription);
-    VELORIX_COPY(Summer);
-    VELORIX_COPY(PumpingHours);
-    VELORIX_COPY(SPeak);
-    VELORIX_COPY(SStandard);
-    VELORIX_COPY(SOffpeak);
-    VELORIX_COPY(WPeak);
-    VELORIX_COPY(WStandard);
-    VELORIX_COPY(WOffpeak);
-    VELORIX_COPY(SummerHour);
-    VELORIX_COPY(WinterHour);
-    VELORIX_COPY(PumpCurve);
-    VELORIX_COPY(HeadUnits);
-    VELORIX_COPY(FlowUnits);
+    VELORIX_PUMPING_FIELDS(VELORIX_LOAD)
+    VELORIX_LOAD(PumpEfficiency)
 }
 
-#undef VELORIX_COPY
+void CopyWorkingSetToRecord()
+{
+    VELORIX_COMMON_FIELDS(VELORIX_STORE)
+    VELORIX_STORE(PumpEfficiency)
+    if (wSystemType == 1) {
+        VELORIX_PUMPING_FIELDS(VELORIX_STORE)
+    } else {
+        ProjectRecord.EnergyEscalation = 0.0;
+    }
+}
+
+#undef VELORIX_LOAD
+#undef VELORIX_STORE
+#undef VELORIX_COMMON_FIELDS
+#undef VELORIX_PUMPING_FIELDS
 
 void ResetWorkingSet()
 {

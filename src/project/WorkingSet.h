@@ -21,6 +21,11 @@ extern int NodeCount; // nodes of the open project, rows 1 to NodeCount of the p
 // uses stays as it was when the record holds a gravity system.
 void CopyRecordToWorkingSet();
 
+// Copies the working set to the record, texts trimmed, cut and padded. What only a pumping system uses stays
+// in the record as it was when the working set holds a gravity system, but for PumpEfficiency, which is
+// copied, and EnergyEscalation, which becomes 0.
+void CopyWorkingSetToRecord();
+
 void ResetWorkingSet();
 
 } // namespace velorix

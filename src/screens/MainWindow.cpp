@@ -4,10 +4,11 @@
 namespace velorix {
 
 MainWindowScreen::MainWindowScreen()
-    : Screen("MDIProject", "  Velorix")
+    : Screen("MDIProject", ProgramTitle)
 {
-    lblProgessBar.Visible = false;
-    proProgressBar.Visible = false;
+    for (Control* Each : std::initializer_list<Control*>{&mnuExit1, &mnuRoughness, &mnuFGridRows, &lblWelcome,
+                                                         &lblProgessBar, &proProgressBar})
+        Each->Visible = false;
     DesignEnds();
 }
 

@@ -1,0 +1,293 @@
+// The course of each file command: its questions, its messages and the screens that it leaves.
+#include "project/FileCommands.h"
+
+#include "base/Failure.h"
+#include "base/Text.h"
+#include "platform/Platform.h"
+#include "project/Commit.h"
+#include "project/ProjectFile.h"
+#include "project/Session.h"
+#include "project/ViewState.h"
+#include "project/WorkingSet.h"
+#include "screens/Dialogs.h"
+#include "screens/Lcc.h"
+#include "screens/MainWindow.h"
+#include "screens/Results.h"
+
+namespace velorix {
+namespace {
+
+constexpr const char* ProjectExtension = ".vlx";
+constexpr int ProjectFilter = 2; // the second filter of both dialogs
+
+void ShowProgress(const std::string& Doing)
+{
+    MDIProject.lblProgessBar.Caption = Doing;
+    MDIProject.lblProgessBar.Visible = true;
+    System().Repaint();
+}
+
+void ShowPercent(int Percent)
+{
+    MDIProject.proProgressBar.Visible = true;
+    MDIProject.proProgressBar.Value = Percent;
+    System().Repaint();
+}
+
+void HideProgress()
+{
+    MDIProject.lblProgessBar.Visible = false;
+    MDIProject.lblProgessBar.Caption = "";
+    MDIProject.proProgressBar.Visible = false;
+}
+
+// A command has failed: the user is told, and the project that stays open is shown again.
+void ReportFailure(const std::string& Reason)
+{
+    HideProgress();
+    Warn(Reason);
+    if (ProjectOpen == 1) ShowInputScreen();
+}
+
+void StopWelcome()
+{
+    MDIProject.tmrWelcome.Enabled = false;
+    MDIProject.Caption = ProgramTitle;
+}
+
+void LeaveForOpening()
+{
+    StopWelcome();
+    LeaveProjectScreens();
+    ShowProgress("Opening project");
+}
+
+void LeaveForSaving()
+{
+    LeaveProjectScreens();
+    if (Analysed == 1) frmResults.Visible = false; // with no project open as well
+}
+
+// False, with a message, when there is no project to save.
+bool SavingStarts()
+{
+    LeaveForSaving();
+    if (ProjectOpen != 1) {
+        Warn("First open an existing project or start a new project");
+        return false;
+    }
+    ShowProgress("Saving project");
+    return true;
+}
+
+void SaveInPlace()
+{
+    try {
+        CommitProject();
+        HideProgress();
+    } catch (const Failure& Problem) {
+        Saved = 0;
+        ReportFailure(Problem.what());
+    }
+}
+
+FileDialog SaveDialog()
+{
+    return {.Title = "SAVE THE VELORIX PROJECT",
+            .Folder = ProjectsFolder(),
+            .Filter = "All Files (*.*)|*.* |Velorix Files (*.vlx)|*.vlx",
+            .FilterIndex = ProjectFilter,
+            .OverwritePrompt = true};
+}
+
+bool HasExtension(const std::filesystem::path& Path)
+{
+    return Path.extension().string().size() > 1;
+}
+
+// The dialog has asked about replacing the file of the name as typed; once the extension is added it may be
+// another file.
+std::optional<std::filesystem::path> AskWhereToSave(const FileDialog& Dialog)
+{
+    while (true) {
+        std::optional<std::filesystem::path> Chosen = System().AskFileToSave(Dialog);
+        if (!Chosen || HasExtension(*Chosen)) return Chosen;
+        Chosen->replace_extension(ProjectExtension);
+        std::error_code Unknown;
+        if (!std::filesystem::exists(*Chosen, Unknown) ||
+            Confirm(Chosen->filename().string() + " already exists. Do you want to replace it ?"))
+            return Chosen;
+    }
+}
+
+void SaveTo(const std::filesystem::path& Path)
+{
+    const std::string FileBefore = FileName;
+    const std::string CaptionBefore = frmLCC.lblFileName.Caption;
+    try {
+        ShowPercent(80);
+        FileName = Path.string();
+        ShowPercent(90);
+        WriteProjectFile(FileName, ProjectRecord, ShortFile::TakesRecordOne);
+        ShowPercent(100);
+
+        frmLCC.lblFileName.Caption = Trim(FileName);
+        frmLCC.Visible = true;
+        ShowProgress("Opening project");
+        LoadProject();
+    } catch (const Failure& Problem) {
+        FileName = FileBefore;
+        frmLCC.lblFileName.Caption = CaptionBefore;
+        ReportFailure(Problem.what());
+    }
+}
+
+// Files only: a folder, or a file that isn't there, can't be deleted.
+bool DeleteFile(const std::filesystem::path& Path)
+{
+    std::error_code Refused;
+    return std::filesystem::is_regular_file(Path, Refused) && std::filesystem::remove(Path, Refused);
+}
+
+} // namespace
+
+std::filesystem::path ProjectsFolder()
+{
+    std::filesystem::path Folder = System().ProgramFolder() / "Projects";
+    std::error_code Refused; // beside a program that isn't the user's own; the dialog starts elsewhere then
+    std::filesystem::create_directories(Folder, Refused);
+    return Folder;
+}
+
+void NewProjectCommand()
+{
+    StopWelcome();
+    frmLCC.Visible = false;
+    if (ProjectOpen == 1) {
+        if (Confirm("Do you want to save the project ?")) SaveCommand();
+        MDIProject.Caption = ProgramTitle; // a save has shown the old project's name
+        frmLCC.Visible = false;
+        if (Analysed == 1) frmResults.Visible = false;
+    }
+    System().ShowModal(frmLCCType);
+}
+
+void LccTypeContinue()
+{
+    wSystemType = frmLCCType.optPumping.Value ? 1 : 0;
+    frmLCCType.Unload();
+    frmLCC.Visible = true;
+    NewProjectDefaults();
+}
+
+void LccTypeCancel()
+{
+    frmLCCType.Unload();
+}
+
+void OpenProjectCommand()
+{
+    LeaveForOpening();
+    OpenProject();
+}
+
+void OpenProject()
+{
+    std::optional<std::filesystem::path> Chosen;
+    try {
+        Chosen = System().AskFileToOpen({.Title = "OPEN AN EXISTING VELORIX PROJECT",
+                                         .Folder = ProjectsFolder(),
+                                         .Filter = "All Files (*.*)|*.*|Velorix Files (*.vlx)|*.vlx",
+                                         .FilterIndex = ProjectFilter});
+    } catch (const Failure&) {
+        return ReportFailure(" Can't open project !");
+    }
+    if (!Chosen) return HideProgress();
+    OpenProjectFile(*Chosen);
+}
+
+void OpenProjectFile(const std::filesystem::path& Path)
+{
+    LeaveForOpening(); // for a file that didn't come from the dialog
+    const std::string FileBefore = FileName;
+    try {
+        FileName = Path.string();
+        LoadProject();
+    } catch (const Failure& Problem) {
+        FileName = FileBefore;
+        ReportFailure(Problem.what());
+    }
+}
+
+void SaveCommand()
+{
+    if (!SavingStarts()) return;
+    if (frmLCC.lblFileName.Caption.Get() == NewProjectCaption)
+        SaveProjectAs();
+    else
+        SaveInPlace();
+}
+
+void SaveAsCommand()
+{
+    if (SavingStarts()) SaveProjectAs();
+}
+
+void SaveProjectAs()
+{
+    std::optional<std::filesystem::path> Chosen;
+    try {
+        ShowPercent(0);
+        const FileDialog Dialog = SaveDialog();
+        ShowPercent(10);
+        Committing = 0;
+        SaveAs = 1;
+        CommitProject();
+        if (Committing == 1) return HideProgress();
+        Chosen = AskWhereToSave(Dialog);
+    } catch (const Failure&) {
+        return ReportFailure("Can't Save the project !");
+    }
+    if (!Chosen) return HideProgress();
+    SaveTo(*Chosen);
+}
+
+void DeleteCommand()
+{
+    LeaveForSaving();
+    DeleteProject();
+}
+
+void DeleteProject()
+{
+    if (ProjectOpen != 1) return Warn("First open the project that you want to delete");
+    if (Saved == 0) {
+        System().Show(
+            {.Text = "The project has not been saved and thus cannot be deleted", .Icon = MessageIcon::None});
+        return;
+    }
+    if (!Confirm("Are you sure you want to delete the current project ?")) {
+        frmLCC.Visible = true;
+        return;
+    }
+    if (!DeleteFile(Trim(FileName))) {
+        System().Show(
+            {.Text = "Could not delete the project.", .Title = "Error !", .Icon = MessageIcon::None});
+        return;
+    }
+    ProjectOpen = 0;
+    Saved = 0;
+    frmLCC.Visible = false;
+    if (Analysed == 1) frmResults.Visible = false;
+    Warn("The current project was successfully deleted");
+}
+
+void ExitCommand()
+{
+    if (!Confirm("Are you sure you want to quit ?")) return;
+    MDIProject.Visible = false;
+    MDIProject.Unload();
+    System().EndProgram();
+}
+
+} // namespace velorix

@@ -1,0 +1,374 @@
+// The events of the grids and of the editors over them.
+#include "shell/GridEditor.h"
+
+#include "platform/Keys.h"
+#include "platform/Platform.h"
+#include "project/ProfileTable.h"
+#include "project/Session.h"
+#include "screens/Lcc.h"
+#include "screens/MainWindow.h"
+#include "shell/KeyFilters.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace velorix {
+namespace {
+
+// Texts are UTF-8; a typed key and the caret count characters.
+
+constexpr bool StartsCharacter(char Byte)
+{
+    return (static_cast<unsigned char>(Byte) & 0xC0) != 0x80;
+}
+
+int Length(const std::string& Text)
+{
+    return static_cast<int>(std::count_if(Text.begin(), Text.end(), StartsCharacter));
+}
+
+// The typed character; nothing for a control key and for a code that is no character.
+std::string Character(int Key)
+{
+    constexpr int FirstPrintable = 32;
+    const bool Control = Key < FirstPrintable || (Key >= 0x7F && Key < 0xA0);
+    const bool Surrogate = Key >= 0xD800 && Key <= 0xDFFF;
+    if (Control || Surrogate || Key > 0x10FFFF) return {};
+    const auto Tail = [Key](int Shift) { return static_cast<char>(0x80 | (Key >> Shift & 0x3F)); };
+    if (Key < 0x80) return {static_cast<char>(Key)};
+    if (Key < 0x800) return {static_cast<char>(0xC0 | Key >> 6), Tail(0)};
+    if (Key < 0x10000) return {static_cast<char>(0xE0 | Key >> 12), Tail(6), Tail(0)};
+    return {static_cast<char>(0xF0 | Key >> 18), Tail(12), Tail(6), Tail(0)};
+}
+
+// The text without the character before the caret.
+std::string WithoutCharacterBefore(std::string Text, int Caret)
+{
+    int Seen = 0;
+    for (std::size_t Start = 0; Start < Text.size(); ++Start) {
+        if (!StartsCharacter(Text[Start]) || ++Seen != Caret) continue;
+        std::size_t End = Start + 1;
+        while (End < Text.size() && !StartsCharacter(Text[End])) ++End;
+        return Text.erase(Start, End - Start);
+    }
+    return Text;
+}
+
+bool Contains(const std::vector<int>& Numbers, int Number)
+{
+    return std::find(Numbers.begin(), Numbers.end(), Number) != Numbers.end();
+}
+
+bool OnDataCell(const Grid& Table)
+{
+    return Table.Row() >= Table.FixedRows && Table.Col() >= Table.FixedCols;
+}
+
+bool OnListCell(const CellEditing& Editing)
+{
+    return Editing.List && OnDataCell(Editing.Table) && Editing.Table.Col() == Editing.ListCol;
+}
+
+bool OnEditableCell(const CellEditing& Editing)
+{
+    const Grid& Table = Editing.Table;
+    return OnDataCell(Table) && Contains(Editing.EditableCols, Table.Col()) &&
+           !Contains(Editing.ClosedRows, Table.Row());
+}
+
+const std::string& CurrentText(const Grid& Table)
+{
+    return Table.Text(Table.Row(), Table.Col());
+}
+
+// Everything that the user does to a cell ends here.
+void Write(Grid& Table, std::string Text)
+{
+    if (Text == CurrentText(Table)) return;
+    MarkChanged();
+    Table.SetText(Table.Row(), Table.Col(), std::move(Text));
+}
+
+// The list shows the cell's own entry, or none when the cell holds another text.
+void FillList(const CellEditing& Editing)
+{
+    const std::vector<std::string> Entries = Editing.ListEntries();
+    const auto Own = std::find(Entries.begin(), Entries.end(), CurrentText(Editing.Table));
+    Editing.List->List = Entries;
+    Editing.List->ListIndex = Own == Entries.end() ? -1 : static_cast<int>(Own - Entries.begin());
+}
+
+void TakeCurrentCell(const CellEditing& Editing)
+{
+    Grid& Table = Editing.Table;
+    Editing.Editor.Visible = false;
+    Table.Tag = CurrentText(Table);
+    Table.SetBackColor(Table.Row(), Table.Col(), CurrentCellColor);
+    if (Editing.List) Editing.List->Visible = false;
+    if (!OnListCell(Editing)) return;
+    FillList(Editing);
+    Editing.List->Visible = true;
+}
+
+void CellLeft(Grid& Table)
+{
+    const bool Data = Table.Row() >= Table.FixedRows;
+    Table.SetBackColor(Table.Row(), Table.Col(), Data ? WindowColor : ButtonColor);
+}
+
+// A column on, and from the last column a row on. On the last cell nothing.
+void Advance(Grid& Table)
+{
+    if (Table.Col() < Table.Cols() - 1)
+        Table.Select(Table.Row(), Table.Col() + 1);
+    else if (Table.Row() < Table.Rows() - 1)
+        Table.Select(Table.Row() + 1, Table.Col());
+}
+
+void OpenEditor(const CellEditing& Editing)
+{
+    TextBox& Editor = Editing.Editor;
+    Editor.Text = CurrentText(Editing.Table);
+    Editor.SelStart = Length(Editor.Text);
+    Editor.Visible = true;
+    System().SetFocus(Editor);
+}
+
+// Writes the editor's text into the cell and closes the editor.
+void Commit(const CellEditing& Editing)
+{
+    Write(Editing.Table, Editing.Editor.Text);
+    Editing.Editor.Visible = false;
+}
+
+void KeyDownInGrid(const CellEditing& Editing, int& Key)
+{
+    if (Key != Keys::F2 || !OnEditableCell(Editing)) return;
+    if (!Contains(Editing.FilteredInGrid, Editing.Table.Col())) return;
+    Key = 0;
+    OpenEditor(Editing);
+}
+
+void KeyPressInGrid(const CellEditing& Editing, int& Key)
+{
+    if (Key == Keys::Escape) return;
+    Grid& Table = Editing.Table;
+    const int Typed = std::exchange(Key, 0);
+    if (Typed == Keys::Enter) return Advance(Table);
+    const std::string Typing = Character(Typed);
+    if (Typed != Keys::Backspace && Typing.empty()) return;
+
+    if (OnListCell(Editing)) {
+        Editing.List->Visible = true;
+        return System().SetFocus(*Editing.List);
+    }
+    if (!OnEditableCell(Editing)) return;
+    if (Contains(Editing.FilteredInGrid, Table.Col()) && !IsCellNumberKey(Typed)) return;
+    const std::string& Old = CurrentText(Table);
+    Write(Table, Typed == Keys::Backspace ? WithoutCharacterBefore(Old, Length(Old)) : Typing);
+    OpenEditor(Editing);
+}
+
+// The view shows the menu at the pointer and hides it again.
+void MouseDownInGrid(const CellEditing& Editing, int Button)
+{
+    constexpr int RightButton = 2;
+    Editing.Editor.Visible = false;
+    if (Button == RightButton && Editing.Menu && OnDataCell(Editing.Table)) Editing.Menu->Visible = true;
+}
+
+void KeyPressInEditor(const CellEditing& Editing, int& Key)
+{
+    Grid& Table = Editing.Table;
+    const TextBox& Editor = Editing.Editor;
+    if (Contains(Editing.FilteredInEditor, Table.Col()) && !IsCellNumberKey(Key)) {
+        Key = 0;
+        return;
+    }
+    switch (Key) {
+    case Keys::Enter:
+        Key = 0;
+        Commit(Editing);
+        Advance(Table);
+        System().SetFocus(Table);
+        break;
+    case Keys::Backspace: Write(Table, WithoutCharacterBefore(Editor.Text, Editor.SelStart)); break;
+    case Keys::Escape:
+    case Keys::Left:
+    case Keys::Up:
+    case Keys::Right:
+    case Keys::Down: Write(Table, Editor.Text); break;
+    default: Write(Table, Editor.Text.Get() + Character(Key));
+    }
+}
+
+// True when the pressed key leads out of the editor's text.
+bool LeavesText(const TextBox& Editor, int Key)
+{
+    switch (Key) {
+    case Keys::Left: return Editor.SelStart == 0;
+    case Keys::Right: return Editor.SelStart >= Length(Editor.Text);
+    case Keys::Up:
+    case Keys::Down: return true;
+    default: return false;
+    }
+}
+
+// Column 1 is the first that the arrows reach, row 1 too; over their ends they go on in the next row.
+void MoveCursor(Grid& Table, int Key)
+{
+    const int Row = Table.Row();
+    const int Col = Table.Col();
+    const int LastRow = Table.Rows() - 1;
+    const int LastCol = Table.Cols() - 1;
+    if (Key == Keys::Left && Col >= 2) return Table.Select(Row, Col - 1);
+    if (Key == Keys::Left && Row >= 2) return Table.Select(Row - 1, LastCol);
+    if (Key == Keys::Up && Row >= 2) return Table.Select(Row - 1, Col);
+    if (Key == Keys::Right && Col < LastCol) return Table.Select(Row, Col + 1);
+    if (Key == Keys::Right && Row < LastRow) return Table.Select(Row + 1, 1);
+    if (Key == Keys::Down && Row < LastRow) return Table.Select(Row + 1, Col);
+}
+
+void KeyDownInEditor(const CellEditing& Editing, int& Key)
+{
+    TextBox& Editor = Editing.Editor;
+    if (Key == Keys::Escape) {
+        Editor.Text = Editing.Table.Tag;
+        Editor.SelStart = Length(Editor.Text);
+    } else if (LeavesText(Editor, Key)) {
+        const int Arrow = std::exchange(Key, 0);
+        Commit(Editing);
+        MoveCursor(Editing.Table, Arrow);
+        System().SetFocus(Editing.Table);
+    }
+}
+
+// The key events see a text before the key is in it. What went into its middle, was pasted or deleted reaches
+// the cell here, so that the cell is right however the editor is left.
+void EditorChanged(const CellEditing& Editing)
+{
+    if (Editing.Editor.Visible) Write(Editing.Table, Editing.Editor.Text);
+}
+
+// Filled anew, the list shows what the cell then holds.
+void EntryChosen(const CellEditing& Editing)
+{
+    const ComboBox& List = *Editing.List;
+    if (!List.Visible || List.ListIndex < 0 || !OnListCell(Editing)) return;
+    Write(Editing.Table, List.Text());
+    FillList(Editing);
+}
+
+std::vector<std::string> ComponentEntries()
+{
+    constexpr int NamedComponents = 10;
+    return {ComponentTable.begin(), ComponentTable.begin() + NamedComponents};
+}
+
+void AddRowAndGoThere()
+{
+    ChangeProfileRows(AddProfileRow);
+    frmLCC.msgProfile.Select(frmLCC.msgProfile.Rows() - 1, 1);
+}
+
+const std::array<CellEditing, 6> InputGrids = {{
+    {.Table = frmLCC.msgProfile,
+     .Editor = frmLCC.txtCell,
+     .EditableCols = {1, 2, 3, 4, 5, 6},
+     .FilteredInGrid = {1, 2, 5, 6},
+     .FilteredInEditor = {1, 2, 4},
+     .List = &frmLCC.comNode,
+     .ListCol = 7,
+     .ListEntries = ComponentEntries,
+     .EnterOnLastRow = AddRowAndGoThere,
+     .Menu = &MDIProject.mnuFGridRows},
+    {.Table = frmLCC.msgLaying,
+     .Editor = frmLCC.txtLaying,
+     .EditableCols = {1},
+     .FilteredInGrid = {1},
+     .FilteredInEditor = {1},
+     .ClosedRows = {9, 10}},
+    {.Table = frmLCC.msgOperational,
+     .Editor = frmLCC.txtCellOperational,
+     .EditableCols = {1, 2},
+     .FilteredInGrid = {1, 2},
+     .FilteredInEditor = {1, 2}},
+    {.Table = frmLCC.msgOtherOperational,
+     .Editor = frmLCC.txtCellOtherOperational,
+     .EditableCols = {1},
+     .FilteredInGrid = {1},
+     .FilteredInEditor = {1}},
+    {.Table = frmLCC.msgDemand,
+     .Editor = frmLCC.txtDemand,
+     .EditableCols = {1},
+     .FilteredInGrid = {1},
+     .FilteredInEditor = {1}},
+    {.Table = frmLCC.msgPumpDemand,
+     .Editor = frmLCC.txtPumpDemand,
+     .EditableCols = {1},
+     .FilteredInGrid = {1},
+     .FilteredInEditor = {1}},
+}};
+
+void Settle(const CellEditing& Editing)
+{
+    Editing.Editor.Visible = false;
+    if (OnDataCell(Editing.Table)) TakeCurrentCell(Editing);
+}
+
+void InputScreenShownOrHidden()
+{
+    if (!frmLCC.Visible) return;
+    for (const CellEditing& Each : InputGrids) Settle(Each);
+}
+
+} // namespace
+
+void ConnectGridEditor(const CellEditing& Editing)
+{
+    Grid& Table = Editing.Table;
+    Table.EnterCell = {};
+    if (!OnDataCell(Table)) Table.Select(Table.FixedRows, Table.FixedCols); // before anyone listens
+
+    Table.EnterCell = [&Editing] {
+        MarkChanged();
+        TakeCurrentCell(Editing);
+    };
+    Table.LeaveCell = [&Table] { CellLeft(Table); };
+    Table.KeyDown = [&Editing](int& Key) { KeyDownInGrid(Editing, Key); };
+    Table.KeyPress = [&Editing](int& Key) { KeyPressInGrid(Editing, Key); };
+    Table.KeyUp = [&Editing, &Table](int& Key) {
+        if (Key == Keys::Enter && Editing.EnterOnLastRow && Table.Row() == Table.Rows() - 1)
+            Editing.EnterOnLastRow();
+    };
+    Table.MouseDown = [&Editing](int Button) { MouseDownInGrid(Editing, Button); };
+
+    Editing.Editor.KeyDown = [&Editing](int& Key) { KeyDownInEditor(Editing, Key); };
+    Editing.Editor.KeyPress = [&Editing](int& Key) { KeyPressInEditor(Editing, Key); };
+    Editing.Editor.Change = [&Editing] { EditorChanged(Editing); };
+    if (Editing.List) Editing.List->Change = [&Editing] { EntryChosen(Editing); };
+}
+
+void ConnectGridEditors()
+{
+    for (const CellEditing& Each : InputGrids) ConnectGridEditor(Each);
+    frmLCC.Visible.Changed = InputScreenShownOrHidden;
+}
+
+void SettleGridEditor(const Grid& Table)
+{
+    for (const CellEditing& Each : InputGrids)
+        if (&Each.Table == &Table) Settle(Each);
+}
+
+void ChangeProfileRows(void (*Operation)())
+{
+    const int Before = frmLCC.msgProfile.Rows();
+    Operation();
+    if (frmLCC.msgProfile.Rows() == Before) return;
+    MarkChanged();
+    SettleGridEditor(frmLCC.msgProfile);
+}
+
+} // namespace velorix

@@ -1,0 +1,223 @@
+// What the controls of the input screen do.
+#include "shell/InputEvents.h"
+
+#include "project/CostTables.h"
+#include "project/HourPattern.h"
+#include "project/InputScreen.h"
+#include "project/ProfileTable.h"
+#include "project/Session.h"
+#include "project/WorkingSet.h"
+#include "screens/Lcc.h"
+#include "screens/MainWindow.h"
+#include "shell/DeleteRow.h"
+#include "shell/GridEditor.h"
+#include "shell/Help.h"
+#include "shell/KeyFilters.h"
+
+namespace velorix {
+namespace {
+
+void ShowHint(const Control& Source)
+{
+    MDIProject.StatusText.Caption = Source.ToolTip;
+}
+
+// The hint of an input shows when it gets the focus, that of a button when the pointer comes over it.
+void ConnectHints()
+{
+    for (Control* Each : frmLCC.Controls) {
+        if (Each->ToolTip.empty()) continue;
+        Each->GotFocus = [Each] { ShowHint(*Each); };
+        if (dynamic_cast<CommandButton*>(Each) || dynamic_cast<OptionButton*>(Each))
+            Each->MouseMove = [Each] { ShowHint(*Each); };
+    }
+}
+
+// What is typed and chosen stays on the screen until the commit reads it.
+void ConnectEdits()
+{
+    for (Control* Each : frmLCC.Controls) {
+        if (auto* Box = dynamic_cast<TextBox*>(Each)) Box->Change = MarkChanged;
+        if (auto* Selector = dynamic_cast<ComboBox*>(Each)) Selector->Change = MarkChanged;
+    }
+    frmLCC.dtpDate.Change = MarkChanged;
+}
+
+// Nothing chosen is a unit that the list doesn't know: the working set keeps it.
+void StoreUnit(std::int16_t& Stored, const ComboBox& Selector)
+{
+    if (Selector.ListIndex >= 0) Stored = static_cast<std::int16_t>(Selector.ListIndex.Get());
+}
+
+void DiameterUnitsChosen()
+{
+    MarkChanged();
+    StoreUnit(wDiameterUnits, frmLCC.comDiameterUnits);
+    FillProfileGrid();
+    SettleGridEditor(frmLCC.msgProfile);
+}
+
+// The commit reads the selector of the gravity frame for both kinds of system.
+void PumpDemandUnitsChosen()
+{
+    MarkChanged();
+    StoreUnit(wDemandUnits, frmLCC.comPumpVaryingDemandUnits);
+    frmLCC.comVaryingDemandUnits.ListIndex = frmLCC.comPumpVaryingDemandUnits.ListIndex.Get();
+}
+
+// txtGFlowrate takes any key.
+void ConnectNumberKeys()
+{
+    for (TextBox* Each : {&frmLCC.txtKsNew,
+                          &frmLCC.txtKsOld,
+                          &frmLCC.txtKsOldYears,
+                          &frmLCC.txtTRWL,
+                          &frmLCC.txtBRWL,
+                          &frmLCC.txtPPRWL,
+                          &frmLCC.txtPERWL,
+                          &frmLCC.txtPFlowrate,
+                          &frmLCC.txtPumpOperatingFlowrate,
+                          &frmLCC.txtSPeak,
+                          &frmLCC.txtPumpEfficiency,
+                          &frmLCC.txtLiningThickness,
+                          &frmLCC.txtSStandard,
+                          &frmLCC.txtSOffpeak,
+                          &frmLCC.txtWPeak,
+                          &frmLCC.txtWStandard,
+                          &frmLCC.txtWOffpeak,
+                          &frmLCC.txtEscalation,
+                          &frmLCC.txtElectrical,
+                          &frmLCC.txtEnergyEscalation,
+                          &frmLCC.txtDiscountRate,
+                          &frmLCC.txtMechanical,
+                          &frmLCC.txtWaterSales,
+                          &frmLCC.txtWaterIncrease,
+                          &frmLCC.txtSupervision})
+        Each->KeyPress = KeepNumberKey;
+    for (auto* Column : {&frmLCC.txtH, &frmLCC.txtQ, &frmLCC.txtEfficiency})
+        for (TextBox& Each : *Column) Each.KeyPress = KeepNumberKey;
+}
+
+std::string PlainCaption(int Value)
+{
+    return std::to_string(Value);
+}
+
+// A bar shows its value and stores it at once.
+void ConnectBar(ScrollBar& Bar, Label& Reading, std::int16_t& Stored, std::string (*Caption)(int),
+                void (*Then)() = nullptr)
+{
+    Bar.Change = [&Bar, &Reading, &Stored, Caption, Then] {
+        MarkChanged();
+        Reading.Caption = Caption(Bar.Value);
+        Stored = static_cast<std::int16_t>(Bar.Value.Get());
+        if (Then) Then();
+    };
+}
+
+void RefillDemand()
+{
+    FillDemandGrid(frmLCC.msgDemand);
+    SettleGridEditor(frmLCC.msgDemand);
+}
+
+void ConnectBars()
+{
+    ConnectBar(frmLCC.hscLife, frmLCC.lblLife, wLife, PlainCaption, RefillDemand);
+    ConnectBar(frmLCC.hscBaseYear, frmLCC.lblBaseYear, wBaseYear, PlainCaption);
+    ConnectBar(frmLCC.hscSupplyStart, frmLCC.lblSupplyStart, wSupplyStart, PlainCaption, RefillDemand);
+    ConnectBar(frmLCC.fsbSummer, frmLCC.lblSummer, wSummer, PlainCaption);
+    ConnectBar(frmLCC.fsbPumpingHours, frmLCC.lblPumpingHours, wPumpingHours, PlainCaption);
+    ConnectBar(frmLCC.hscMPipeline, frmLCC.lblMPipeline, wMPipeline, PercentCaption);
+    ConnectBar(frmLCC.hscMMechanical, frmLCC.lblMMechanical, wMMechanical, PercentCaption);
+    ConnectBar(frmLCC.hscMElectrical, frmLCC.lblMElectrical, wMElectrical, PercentCaption);
+}
+
+void ConnectOption(OptionButton& Option, void (*ShowOption)())
+{
+    Option.Click = [ShowOption] {
+        MarkChanged();
+        ShowOption();
+    };
+}
+
+void ConnectOptions()
+{
+    ConnectOption(frmLCC.optGSpecifiedFlowrate, ShowGravityDemandOption);
+    ConnectOption(frmLCC.optGCalculatedFlowrate, ShowGravityDemandOption);
+    ConnectOption(frmLCC.optPumpFixed, ShowPumpDemandOption);
+    ConnectOption(frmLCC.optPumpVarying, ShowPumpDemandOption);
+    ConnectOption(frmLCC.optFlowrate, ShowPumpingOption);
+    ConnectOption(frmLCC.optPumpDetails, ShowPumpingOption);
+    ConnectOption(frmLCC.optCopon, ShowLiningOption);
+    ConnectOption(frmLCC.optMortar, ShowLiningOption);
+}
+
+// The pattern isn't marked as an edit; the commit reads it from the colours.
+void ConnectHours()
+{
+    for (auto* Season : {&frmLCC.lblSummerHour, &frmLCC.lblWinterHour})
+        for (Label& Each : *Season)
+            Each.Click = [&Each] {
+                CycleHour(Each);
+                ShowHint(Each);
+            };
+}
+
+void CloseLaying()
+{
+    frmLCC.txtLaying.Visible = false;
+    frmLCC.fraLaying.Visible = false;
+}
+
+void ConnectFrames()
+{
+    frmLCC.sscPumpcurve.Click = [] { frmLCC.fraPumpDetails.Visible = true; };
+    frmLCC.sscOK.Click = [] { frmLCC.fraPumpDetails.Visible = false; };
+    frmLCC.sscLaying.Click = [] { frmLCC.fraLaying.Visible = true; };
+    frmLCC.sscHideLaying.Click = [] {
+        ReadLayingGrid();
+        CloseLaying();
+    };
+    frmLCC.sscCancelLaying.Click = CloseLaying; // what was typed stays in the grid
+}
+
+void ConnectRows()
+{
+    frmLCC.sscAdd.Click = [] { ChangeProfileRows(InsertProfileRow); };
+    frmLCC.sscDelete.Click = AskToDeleteRow;
+    MDIProject.mnuFGridAddRow.Click = [] { ChangeProfileRows(AddProfileRow); };
+    MDIProject.mnuFGridInsRow.Click = [] { ChangeProfileRows(InsertProfileRow); };
+    MDIProject.mnuFGridDelRow.Click = [] { ChangeProfileRows(DeleteLastProfileRow); };
+    MDIProject.mnuFGridExtrRow.Click = [] { ChangeProfileRows(DeleteProfileRow); };
+    ConnectDeleteRow();
+}
+
+void ConnectHelp()
+{
+    HelpOn(frmLCC.sscHelp, 3050);
+    HelpOn(frmLCC.sscHelp1, 3060);
+    HelpOn(frmLCC.sscHelp3, 3065);
+    HelpOn(frmLCC.sscHelp2, 3070);
+    HelpOn(frmLCC.sscMechanical, 3090);
+    HelpOn(frmLCC.sscElectrical, 3100);
+}
+
+} // namespace
+
+void ConnectInputScreen()
+{
+    ConnectHints();
+    ConnectEdits();
+    frmLCC.comDiameterUnits.Change = DiameterUnitsChosen;
+    frmLCC.comPumpVaryingDemandUnits.Change = PumpDemandUnitsChosen;
+    ConnectNumberKeys();
+    ConnectBars();
+    ConnectOptions();
+    ConnectHours();
+    ConnectFrames();
+    ConnectRows();
+    ConnectHelp();
+}
+
+} // namespace velorix

@@ -1,0 +1,10 @@
+// The events of the input screen, its grids excepted.
+#pragma once
+
+namespace velorix {
+
+// Connects the controls of frmLCC and the row menu of the profile table: edits that mark the project as
+// changed, hints, key filters, bars, options, hours, frames and help.
+void ConnectInputScreen();
+
+} // namespace velorix

@@ -1,0 +1,211 @@
+// Menus, tool buttons and the welcome line.
+#include "shell/MainCommands.h"
+
+#include "platform/Platform.h"
+#include "project/CostTables.h"
+#include "project/FileCommands.h"
+#include "project/InputScreen.h"
+#include "project/Session.h"
+#include "project/ViewState.h"
+#include "project/WorkingSet.h"
+#include "screens/Analyse.h"
+#include "screens/Dialogs.h"
+#include "screens/Lcc.h"
+#include "screens/MainWindow.h"
+#include "screens/Results.h"
+#include "screens/Viewers.h"
+#include "shell/Help.h"
+#include "shell/Shell.h"
+
+namespace velorix {
+namespace {
+
+constexpr int WelcomeTicks = 82; // how long the welcome line runs
+
+int TicksDone = 0;
+std::size_t LettersShown = 0;
+
+// True when a project is open; otherwise the user is told, and the command ends.
+bool RequireProject(const std::string& Otherwise)
+{
+    if (ProjectOpen == 1) return true;
+    Warn(Otherwise);
+    return false;
+}
+
+// A dialog that its frame closed must not leave the window empty.
+void BringInputBackIfNothingStands()
+{
+    if (ProjectOpen == 1 && !frmLCC.Visible && !frmResults.Visible) frmLCC.Visible = true;
+}
+
+void RefreshCurrency()
+{
+    MDIProject.tmrCurrency.Enabled = false;
+    ShowCurrencySigns();
+    FillCostHeadings();
+}
+
+// The hint of a control stands in the status bar while the pointer is over it.
+void ShowHints()
+{
+    for (Control* Each : MDIProject.Controls)
+        if (!Each->ToolTip.empty())
+            Each->MouseMove = [Each] { MDIProject.StatusText.Caption = Each->ToolTip; };
+}
+
+void ConnectMenus()
+{
+    MDIProject.mnuNew.Click = NewProjectCommand;
+    MDIProject.mnuOpen.Click = OpenProjectCommand;
+    MDIProject.mnuSave.Click = SaveCommand;
+    MDIProject.mnuSaveAs.Click = SaveAsCommand;
+    MDIProject.mnuDelete.Click = DeleteCommand;
+    MDIProject.mnuImport.Click = ImportCommand;
+    MDIProject.mnuGeneral.Click = InputDataCommand;
+    MDIProject.mnuResults.Click = ResultsCommand;
+    MDIProject.mnuPrint.Click = PrintCommand;
+    MDIProject.mnuExit.Click = ExitCommand;
+    MDIProject.mnuExit1.Click = ExitCommand;
+    MDIProject.mnuAnalyse.Click = AnalyseCommand;
+    MDIProject.mnuRoughness.Click = RoughnessCommand;
+    MDIProject.mnuPreferences.Click = PreferencesCommand;
+    MDIProject.mnuContents.Click = [] { ShowHelpTopic(1000); };
+    MDIProject.mnuHelpOn.Click = [] { ShowHelpTopic(1000); };
+    MDIProject.mnuStep.Click = [] { ShowGuide(); };
+    MDIProject.mnuConvert.Click = ConvertCommand;
+    MDIProject.mnuMethod.Click = [] { ShowHelpTopic(7000); };
+    MDIProject.mnuDisclaimer.Click = DisclaimerCommand;
+    MDIProject.mnuAbout.Click = AboutCommand;
+}
+
+// A command whose screen isn't part of this program can't be chosen.
+void DisableWhatIsMissing()
+{
+    const std::pair<Control*, const Handler*> Commands[] = {
+        {&MDIProject.mnuPrint, &ShowPrintScreen},   {&MDIProject.sscPrint, &ShowPrintScreen},
+        {&MDIProject.mnuImport, &ShowImportWizard}, {&MDIProject.mnuConvert, &ShowConverter},
+        {&MDIProject.mnuStep, &ShowGuide},          {&MDIProject.mnuRoughness, &ShowRoughness},
+        {&frmLCC.sscViewProfile, &ShowProfile},     {&frmLCC.sscViewCurve, &ShowPumpCurve}};
+    for (const auto& [Command, Screen] : Commands) Command->Enabled = static_cast<bool>(*Screen);
+}
+
+} // namespace
+
+void ConnectMainWindow()
+{
+    ConnectMenus();
+    MDIProject.sscNew.Click = NewProjectCommand;
+    MDIProject.sscOpen.Click = OpenProjectCommand;
+    MDIProject.sscSave.Click = SaveCommand;
+    MDIProject.sscPrint.Click = PrintCommand;
+    HelpOn(MDIProject.sscHelp, 1000);
+    MDIProject.tmrWelcome.Tick = WelcomeTick;
+    MDIProject.tmrCurrency.Tick = RefreshCurrency;
+    MDIProject.sspProject.MouseMove = [] { MDIProject.StatusText.Caption = ""; };
+    ShowHints();
+    DisableWhatIsMissing();
+}
+
+void MainWindowLoads()
+{
+    MDIProject.LoadHidden();
+    MDIProject.Visible = true;
+    MDIProject.StatusText.Caption = "Open a project or start a new project";
+    ResetMainCommands();
+    MDIProject.tmrWelcome.Enabled = true;
+    for (Control* Each : std::initializer_list<Control*>{&MDIProject.mnuFile, &MDIProject.mnuMethod,
+                                                         &MDIProject.mnuAnalyse, &MDIProject.mnuPreferences,
+                                                         &MDIProject.mnuStep, &MDIProject.sspProject})
+        Each->Visible = true;
+    MDIProject.mnuExit1.Visible = false;
+    ViewState = 1;
+}
+
+void AnalyseCommand()
+{
+    LeaveProjectScreens();
+    if (!RequireProject("First open an existing project or start a new project")) return;
+    System().ShowModal(frmAnalyse);
+    BringInputBackIfNothingStands();
+}
+
+void InputDataCommand()
+{
+    LeaveProjectScreens();
+    if (RequireProject("No project has been opened.")) ShowInputScreen();
+}
+
+void ResultsCommand()
+{
+    if (Analysed != 1) {
+        Warn("Project has not been analysed.");
+        frmLCC.Visible = true;
+        return;
+    }
+    frmLCC.Visible = false;
+    frmResults.Visible = true;
+}
+
+void PrintCommand()
+{
+    LeaveProjectScreens();
+    if (RequireProject("First open an existing project or start a new project and then print the data."))
+        ShowPrintScreen();
+}
+
+void ImportCommand()
+{
+    LeaveProjectScreens();
+    if (RequireProject("First open an existing project or start a new project and then import the profile"))
+        ShowImportWizard();
+}
+
+void ConvertCommand()
+{
+    LeaveProjectScreens();
+    ShowConverter();
+}
+
+void RoughnessCommand()
+{
+    frmView.Visible = false;
+    ShowRoughness();
+}
+
+void PreferencesCommand()
+{
+    System().ShowModal(frmPref);
+}
+
+void DisclaimerCommand()
+{
+    LeaveProjectScreens();
+    System().ShowModal(frmDisclaimer);
+}
+
+void AboutCommand()
+{
+    LeaveProjectScreens();
+    System().ShowModal(frmAbout);
+}
+
+void WelcomeTick()
+{
+    const std::string Line = MDIProject.lblWelcome.Caption;
+    if (++TicksDone >= WelcomeTicks) {
+        MDIProject.tmrWelcome.Enabled = false;
+        MDIProject.Caption = ProgramTitle;
+        return;
+    }
+    LettersShown = LettersShown < Line.size() ? LettersShown + 1 : 0;
+    MDIProject.Caption = Line.substr(0, LettersShown);
+}
+
+void ResetMainCommands()
+{
+    TicksDone = 0;
+    LettersShown = 0;
+}
+
+} // namespace velorix

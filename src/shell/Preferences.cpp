@@ -1,0 +1,79 @@
+// Handlers of frmPref.
+#include "shell/Preferences.h"
+
+#include "project/CostTables.h"
+#include "project/InputScreen.h"
+#include "project/ViewState.h"
+#include "project/WorkingSet.h"
+#include "screens/Dialogs.h"
+#include "screens/MainWindow.h"
+#include "shell/Help.h"
+
+#include <cmath>
+
+namespace velorix {
+namespace {
+
+// The bar counts hundredths of a percent. A foreign file may hold anything: the bar is held at its range.
+int BarValue(Single Percent)
+{
+    constexpr double Most = 5000.0;
+    const double Hundredths = Percent * 100.0;
+    return std::isnan(Hundredths)
+               ? 0
+               : static_cast<int>(std::lround(std::fmin(std::fmax(Hundredths, 0.0), Most)));
+}
+
+void ShowAllowances()
+{
+    frmPref.lblPG.Caption = PercentCaption(frmPref.hsbPG.Value);
+    frmPref.lblContingencies.Caption = PercentCaption(frmPref.hsbContingencies.Value);
+}
+
+void LeaveDialog()
+{
+    MDIProject.StatusText.Caption = "";
+    frmPref.Unload();
+    RestoreScreens();
+}
+
+} // namespace
+
+void ConnectPreferences()
+{
+    frmPref.Load = PreferencesLoad;
+    frmPref.Close = PreferencesCancelled;
+    frmPref.hsbPG.Change = ShowAllowances;
+    frmPref.hsbContingencies.Change = ShowAllowances;
+    frmPref.sscOK.Click = PreferencesAccepted;
+    frmPref.sscCancel.Click = PreferencesCancelled;
+    HelpOn(frmPref.sscHelp, 4000);
+}
+
+void PreferencesLoad()
+{
+    HideScreens();
+    (wUnits == 0 ? frmPref.optMetric : frmPref.optUS).Value = true;
+    (wCurrency == 0 ? frmPref.optRand : frmPref.optDollars).Value = true;
+    frmPref.hsbPG.Value = BarValue(wPG);
+    frmPref.hsbContingencies.Value = BarValue(wContingencies);
+    ShowAllowances();
+}
+
+void PreferencesAccepted()
+{
+    wUnits = frmPref.optMetric.Value ? 0 : 1;
+    wCurrency = frmPref.optDollars.Value ? 1 : 0;
+    wContingencies = frmPref.hsbContingencies.Value / 100.0;
+    wPG = frmPref.hsbPG.Value / 100.0;
+    ShowCurrencySigns();
+    FillCostHeadings();
+    LeaveDialog();
+}
+
+void PreferencesCancelled()
+{
+    LeaveDialog();
+}
+
+} // namespace velorix

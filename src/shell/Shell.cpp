@@ -1,0 +1,79 @@
+// Start-up and the connecting of all screens.
+#include "shell/Shell.h"
+
+#include "analysis/AnalyseDialog.h"
+#include "analysis/Program.h"
+#include "platform/Platform.h"
+#include "project/WorkingSet.h"
+#include "results/CostTable.h"
+#include "results/PlotState.h"
+#include "screens/Analyse.h"
+#include "screens/Dialogs.h"
+#include "screens/MainWindow.h"
+#include "screens/Results.h"
+#include "shell/GridEditor.h"
+#include "shell/Help.h"
+#include "shell/InputEvents.h"
+#include "shell/MainCommands.h"
+#include "shell/Notices.h"
+#include "shell/Preferences.h"
+
+namespace velorix {
+namespace {
+
+void ConnectAnalyseDialog()
+{
+    frmAnalyse.Load = AnalyseDialogLoads;
+    frmAnalyse.Close = AnalyseCancelled;
+    frmAnalyse.tmrStopMatrix.Tick = EndDecoration;
+    frmAnalyse.sscAnalyse.Click = AnalysePressed;
+    frmAnalyse.sscCancel.Click = AnalyseCancelled;
+    HelpOn(frmAnalyse.sscHelp, 5000);
+}
+
+// The bar only chooses the year of the next plot.
+void YearOfPlotChosen()
+{
+    PlotYear = static_cast<std::int16_t>(frmResults.hscYears.Value.Get());
+    frmResults.lblYear.Caption = std::to_string(wSupplyStart + PlotYear - 1);
+}
+
+void ConnectResults()
+{
+    frmResults.hsbAnnual.Change = ShowAnnualCost;
+    frmResults.hscYears.Change = YearOfPlotChosen;
+}
+
+} // namespace
+
+Handler ShowPrintScreen;
+Handler ShowImportWizard;
+Handler ShowConverter;
+Handler ShowGuide;
+Handler ShowRoughness;
+Handler ShowProfile;
+Handler ShowPumpCurve;
+
+void ConnectScreens()
+{
+    ConnectMainWindow();
+    ConnectInputScreen();
+    ConnectGridEditors();
+    ConnectPreferences();
+    ConnectNotices();
+    ConnectAnalyseDialog();
+    ConnectResults();
+}
+
+bool StartProgram()
+{
+    if (!AgreementAccepted()) {
+        System().EndProgram();
+        return false;
+    }
+    MainWindowLoads();
+    StartSession();
+    return true;
+}
+
+} // namespace velorix

@@ -1,0 +1,142 @@
+// A whole project from the screen to its file and back.
+#include "ProjectTest.h"
+#include "project/CostTables.h"
+#include "project/FileCommands.h"
+#include "project/ProfileTable.h"
+#include "project/ProjectFile.h"
+
+#include <algorithm>
+
+namespace velorix {
+namespace {
+
+using RoundTripTest = ProjectTest;
+
+// What a pumping project doesn't store: the floating editors and the gravity system's own boxes.
+bool IsStored(const Control* Each)
+{
+    const std::vector<const Control*> Others = {&frmLCC.txtCell,
+                                                &frmLCC.txtLaying,
+                                                &frmLCC.txtCellOperational,
+                                                &frmLCC.txtCellOtherOperational,
+                                                &frmLCC.txtDemand,
+                                                &frmLCC.txtPumpDemand,
+                                                &frmLCC.comNode,
+                                                &frmLCC.txtGFlowrate,
+                                                &frmLCC.txtTRWL,
+                                                &frmLCC.txtBRWL,
+                                                &frmLCC.msgDemand,
+                                                &frmLCC.optGSpecifiedFlowrate,
+                                                &frmLCC.optGCalculatedFlowrate};
+    return std::find(Others.begin(), Others.end(), Each) == Others.end();
+}
+
+void TypeIntoGrid(Grid& Table, int Base)
+{
+    for (int Row = Table.FixedRows; Row < Table.Rows(); ++Row)
+        for (int Col = Table.FixedCols; Col < Table.Cols(); ++Col)
+            if (&Table != &frmLCC.msgLaying || (Row != 9 && Row != 10)) // headings in the middle
+                Table.SetText(Row, Col, std::to_string(Base + 10 * Row + Col) + ".5");
+}
+
+// A value of its own into every control of a pumping project.
+void TypeEverything()
+{
+    for (OptionButton* Each : {&frmLCC.optPumpVarying, &frmLCC.optPumpDetails, &frmLCC.optMortar})
+        Each->Value = true;
+    wLife = 7;
+    FillDemandGrid(frmLCC.msgPumpDemand);
+    frmLCC.msgProfile.SetRows(6);
+    int Number = 0;
+    for (Control* Each : frmLCC.Controls) {
+        ++Number;
+        if (auto* Box = dynamic_cast<TextBox*>(Each))
+            Box->Text = std::to_string(Number) + ".25";
+        else if (auto* Selector = dynamic_cast<ComboBox*>(Each); Selector && IsStored(Selector))
+            Selector->ListIndex = 1 + Number % (static_cast<int>(Selector->List.Get().size()) - 1);
+        else if (auto* Bar = dynamic_cast<ScrollBar*>(Each))
+            Bar->Value = Bar->Min + Number % (Bar->Max - Bar->Min + 1);
+        else if (auto* Table = dynamic_cast<Grid*>(Each))
+            TypeIntoGrid(*Table, 1000 * Number);
+    }
+    frmLCC.hscLife.Value = 7;
+    frmLCC.dtpDate.Value = Date{2011, 11, 9};
+    for (int Row = 1; Row < 6; ++Row) {
+        frmLCC.msgProfile.SetText(Row, 0, std::to_string(Row));
+        frmLCC.msgProfile.SetText(Row, 7, ComponentTable[Row + 2]);
+    }
+    const std::array<Color, 3> Classes = {PeakColor, StandardColor, OffpeakColor};
+    for (std::size_t Hour = 0; Hour < 24; ++Hour) {
+        frmLCC.lblSummerHour[static_cast<int>(Hour)].BackColor = Classes.at(Hour % 3);
+        frmLCC.lblWinterHour[static_cast<int>(Hour)].BackColor = Classes.at(Hour / 8);
+    }
+    // Both kinds of system have selectors over these fields.
+    frmLCC.comTRWLUnits.ListIndex = frmLCC.comPPRWLUnits.ListIndex;
+    frmLCC.comBRWLUnits.ListIndex = frmLCC.comPERWLUnits.ListIndex;
+    frmLCC.comGFlowrateUnits.ListIndex = frmLCC.comPFlowrateUnits.ListIndex;
+    frmLCC.comPumpVaryingDemandUnits.ListIndex = frmLCC.comVaryingDemandUnits.ListIndex;
+}
+
+std::string ShownBy(const Control& Each)
+{
+    if (const auto* Box = dynamic_cast<const TextBox*>(&Each)) return Box->Text;
+    if (const auto* Selector = dynamic_cast<const ComboBox*>(&Each)) return Selector->Text();
+    if (const auto* Bar = dynamic_cast<const ScrollBar*>(&Each)) return std::to_string(Bar->Value);
+    if (const auto* Option = dynamic_cast<const OptionButton*>(&Each)) return Option->Value ? "set" : "";
+    if (const auto* Picker = dynamic_cast<const DatePicker*>(&Each)) return ShortDate(Picker->Value);
+    std::string Cells;
+    if (const auto* Table = dynamic_cast<const Grid*>(&Each))
+        for (int Row = 0; Row < Table->Rows(); ++Row)
+            for (int Col = 0; Col < Table->Cols(); ++Col) Cells += Table->Text(Row, Col) + "|";
+    return Cells;
+}
+
+// What the user sees of the project, control by control.
+std::vector<std::string> ShownProject()
+{
+    std::vector<std::string> Shown;
+    for (const Control* Each : frmLCC.Controls)
+        if (IsStored(Each)) Shown.push_back(Each->ToolTip + ": " + ShownBy(*Each));
+    for (int Hour = 0; Hour < 24; ++Hour) {
+        const auto Colors = {frmLCC.lblSummerHour[Hour].BackColor.Get(),
+                             frmLCC.lblWinterHour[Hour].BackColor.Get()};
+        for (const Color Each : Colors)
+            Shown.push_back(Each == PeakColor ? "peak" : Each == StandardColor ? "standard" : "off-peak");
+    }
+    return Shown;
+}
+
+TEST_F(RoundTripTest, EveryFieldComesBackAsTyped)
+{
+    const std::filesystem::path File = Folder / "pump.vlx";
+    StartNew(1);
+    TypeEverything();
+    const std::vector<std::string> Typed = ShownProject();
+    Windows.Files = {File};
+    SaveCommand(); // no file yet, so the dialog asks for one
+    EXPECT_EQ(Windows.FileDialogs.size(), 1U);
+    EXPECT_EQ(ShownProject(), Typed);
+
+    ResetProjectRecord();
+    ResetWorkingSet();
+    ResetSession();
+    for (Screen* Each : std::initializer_list<Screen*>{&frmLCC, &MDIProject}) Each->Unload();
+    StartNew(0);
+    OpenProjectFile(File);
+    EXPECT_EQ(ShownProject(), Typed);
+    EXPECT_EQ(frmLCC.lblFileName.Caption.Get(), File.string());
+    EXPECT_EQ(MDIProject.lblSystem.Caption.Get(), "Pumping system");
+
+    frmLCC.txtWOffpeak.Text = "0.123456789"; // more digits than are stored
+    MarkChanged();
+    SaveCommand();
+    EXPECT_EQ(Windows.FileDialogs.size(), 1U);
+    EXPECT_EQ(frmLCC.txtWOffpeak.Text.Get(), "0.12345679");
+    EXPECT_EQ(ReadProjectFile(File).WOffpeak, Single(0.123456789));
+    EXPECT_EQ(Saved, 1);
+    EXPECT_TRUE(frmLCC.Visible);
+    EXPECT_TRUE(Windows.Messages.empty());
+}
+
+} // namespace
+} // namespace velorix

@@ -1,0 +1,109 @@
+// The connected input screen, and a user at the keyboard.
+#pragma once
+
+#include "analysis/Program.h"
+#include "platform/Keys.h"
+#include "platform/ScriptedPlatform.h"
+#include "project/Session.h"
+#include "project/WorkingSet.h"
+#include "screens/Dialogs.h"
+#include "screens/Lcc.h"
+#include "screens/MainWindow.h"
+#include "screens/Results.h"
+#include "shell/GridEditor.h"
+#include "shell/InputEvents.h"
+
+#include <gtest/gtest.h>
+
+namespace velorix {
+
+class InputTest : public testing::Test {
+protected:
+    InputTest()
+    {
+        InstallPlatform(&Windows);
+        ResetProgram();
+        ConnectInputScreen();
+        ConnectGridEditors();
+        StartSession();
+    }
+
+    // A new project of that kind.
+    static void Start(int SystemType)
+    {
+        wSystemType = static_cast<std::int16_t>(SystemType);
+        NewProjectDefaults();
+    }
+
+    static void ExpectMarked(bool Marked, const std::string& After)
+    {
+        EXPECT_EQ(Saved == 0, Marked) << After;
+        Saved = 1;
+    }
+
+    // Selects the cell and gives the grid the focus.
+    void Go(Grid& Table, int Row, int Col)
+    {
+        Table.Select(Row, Col);
+        Windows.SetFocus(Table);
+    }
+
+    // Types the characters, one key after the other, wherever the focus is.
+    void Type(const std::u32string& Text)
+    {
+        for (const char32_t Each : Text) Send(OtherKey, static_cast<int>(Each));
+    }
+
+    // Presses and lets go a key that has a code of its own.
+    void Press(int Key)
+    {
+        const bool Types = Key == Keys::Backspace || Key == Keys::Enter || Key == Keys::Escape;
+        Send(Key, Types ? Key : 0);
+    }
+
+    ScriptedPlatform Windows;
+
+private:
+    static constexpr int OtherKey = 1; // the code of a pressed key is of no matter where a character follows
+
+    // The events in the order in which a view raises them. The key is let go where the focus is by then.
+    void Send(int Code, int Character)
+    {
+        if (auto* Table = dynamic_cast<Grid*>(Windows.Focused))
+            SendToGrid(*Table, Code, Character);
+        else if (auto* Box = dynamic_cast<TextBox*>(Windows.Focused))
+            SendToBox(*Box, Code, Character);
+        if (auto* Table = dynamic_cast<Grid*>(Windows.Focused)) Table->KeyUp(Code);
+    }
+
+    static void SendToGrid(Grid& Table, int Code, int Character)
+    {
+        Table.KeyDown(Code);
+        if (Code != 0) Table.Navigate(Code);
+        if (Character != 0) Table.KeyPress(Character);
+    }
+
+    static void SendToBox(TextBox& Box, int Code, int Character)
+    {
+        Box.KeyDown(Code);
+        if (Code == Keys::Left && Box.SelStart > 0) --Box.SelStart;
+        if (Code == Keys::Right && Box.SelStart < static_cast<int>(Box.Text.Get().size())) ++Box.SelStart;
+        if (Character == 0) return;
+        Box.KeyPress(Character);
+        if (Character == 0 || Character == Keys::Escape) return;
+
+        // Plain text is enough here: one byte a character.
+        std::string Text = Box.Text;
+        const auto Caret = static_cast<std::size_t>(Box.SelStart);
+        if (Character != Keys::Backspace) {
+            Text.insert(Caret, 1, static_cast<char>(Character));
+            ++Box.SelStart;
+        } else if (Caret > 0) {
+            Text.erase(Caret - 1, 1);
+            --Box.SelStart;
+        }
+        Box.Text = Text;
+    }
+};
+
+} // namespace velorix

@@ -1,0 +1,38 @@
+// A connected program without windows, past its opening dialogs.
+#pragma once
+
+#include "analysis/Program.h"
+#include "platform/ScriptedPlatform.h"
+#include "project/Session.h"
+#include "project/WorkingSet.h"
+#include "screens/Analyse.h"
+#include "screens/Dialogs.h"
+#include "screens/Lcc.h"
+#include "screens/MainWindow.h"
+#include "screens/Results.h"
+#include "shell/Shell.h"
+
+#include <gtest/gtest.h>
+
+namespace velorix {
+
+class ShellTest : public testing::Test {
+protected:
+    ShellTest()
+    {
+        InstallPlatform(&Windows);
+        ResetProgram();
+        ConnectScreens();
+        Windows.ModalScripts["frmAgree"] = [] { frmAgree.sscAccept.Click(); };
+        Windows.ModalScripts["frmIntro"] = [] { Fire(frmIntro.tmrIntro); };
+        StartProgram();
+        Windows.Messages.clear();
+        Windows.ModalScreens.clear();
+    }
+
+    std::string LastMessage() const { return Windows.Messages.empty() ? "" : Windows.Messages.back().Text; }
+
+    ScriptedPlatform Windows;
+};
+
+} // namespace velorix
