@@ -42,6 +42,8 @@ void SendAll(int Pipe, const std::string& Bytes)
         Report = "+" + Work(Index);
     } catch (const std::exception& Problem) {
         Report = std::string("-") + Problem.what();
+    } catch (...) { // nothing may unwind into the parent's code, which runs in the parent
+        Report = "-the analysis ended with an unknown failure";
     }
     SendAll(Pipe, Report);
     ::_exit(0);

@@ -48,10 +48,17 @@ void ReadDemand(const Grid& Table)
 
 void FillDemandGrid(Grid& Table)
 {
+    Table.SetRows(1); // the heading
+    FitDemandGrid(Table);
+}
+
+void FitDemandGrid(Grid& Table)
+{
+    const int Kept = std::min<int>(Table.Rows() - 1, wLife);
     Table.SetRows(wLife + 1);
     Table.SetText(0, 0, "Year");
     Table.SetText(0, 1, "Demand");
-    for (int Year = 1; Year <= wLife; ++Year) {
+    for (int Year = Kept + 1; Year <= wLife; ++Year) {
         Table.SetText(Year, 0, std::to_string(Year));
         Table.SetText(Year, 1, GeneralText(wDemand[Year]));
     }

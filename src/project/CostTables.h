@@ -7,6 +7,7 @@ namespace velorix {
 
 // Working set to grid.
 void FillDemandGrid(Grid& Table); // msgDemand or msgPumpDemand: one row for each year of the life
+void FitDemandGrid(Grid& Table);  // the same after a change of the life: cells that stay keep what was typed
 void FillLayingGrid();
 void FillStaffGrid();
 void FillExpensesGrid();

@@ -255,7 +255,7 @@ void EditorChanged(const CellEditing& Editing)
 void EntryChosen(const CellEditing& Editing)
 {
     const ComboBox& List = *Editing.List;
-    if (!List.Visible || List.ListIndex < 0 || !OnListCell(Editing)) return;
+    if (List.ListIndex < 0 || !OnListCell(Editing)) return;
     Write(Editing.Table, List.Text());
     FillList(Editing);
 }

@@ -49,9 +49,13 @@ void StoreUnit(std::int16_t& Stored, const ComboBox& Selector)
     if (Selector.ListIndex >= 0) Stored = static_cast<std::int16_t>(Selector.ListIndex.Get());
 }
 
+// The table is read first, so that what was typed since the last reading shows again. The load step sets the
+// selector to what is stored, ahead of filling the table: there is nothing to read then.
 void DiameterUnitsChosen()
 {
     MarkChanged();
+    if (frmLCC.comDiameterUnits.ListIndex == wDiameterUnits) return;
+    ReadProfileGrid();
     StoreUnit(wDiameterUnits, frmLCC.comDiameterUnits);
     FillProfileGrid();
     SettleGridEditor(frmLCC.msgProfile);
@@ -117,7 +121,7 @@ void ConnectBar(ScrollBar& Bar, Label& Reading, std::int16_t& Stored, std::strin
 
 void RefillDemand()
 {
-    FillDemandGrid(frmLCC.msgDemand);
+    FitDemandGrid(frmLCC.msgDemand);
     SettleGridEditor(frmLCC.msgDemand);
 }
 

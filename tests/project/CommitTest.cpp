@@ -172,6 +172,7 @@ TEST_F(CommitTest, GravitySystemKeepsThePumpFieldsOfTheRecord)
     Expected.EnergyEscalation = 0.0;
     Expected.PumpEfficiency = 64.0;
     EXPECT_EQ(BytesOf(ProjectRecord), BytesOf(Expected));
+    EXPECT_EQ(wEnergyEscalation, 0.0);
 }
 
 TEST_F(CommitTest, UnitsComeFromTheSelectorsThatCount)

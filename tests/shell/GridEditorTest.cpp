@@ -227,6 +227,7 @@ TEST_F(GridEditorTest, TheComponentIsChosenFromTheList)
     EXPECT_FALSE(frmLCC.comNode.Visible);
     frmLCC.comNode.ListIndex = 2;
     EXPECT_EQ(Profile.Text(3, 7), ComponentTable[2]);
+    EXPECT_EQ(Profile.Text(3, 6), "0");
     ReadProfileGrid();
     EXPECT_EQ(wNodeDesc[2], 6);
     EXPECT_EQ(wNodeDesc[3], 1);
@@ -256,6 +257,9 @@ TEST_F(GridEditorTest, EnterOnTheLastRowOfTheProfileAddsOne)
 TEST_F(GridEditorTest, HeadingsInsideTheLayingTableAreClosed)
 {
     Grid& Laying = frmLCC.msgLaying;
+    Windows.SetFocus(Laying);
+    Type(U"99"); // a table that nobody has been in yet stands on its first cell
+    EXPECT_EQ(Laying.Text(1, 1), "99");
     Go(Laying, 8, 1);
     Type(U"12");
     Press(Keys::Enter);
@@ -266,6 +270,8 @@ TEST_F(GridEditorTest, HeadingsInsideTheLayingTableAreClosed)
     EXPECT_FALSE(frmLCC.txtLaying.Visible);
     EXPECT_EQ(Laying.Text(9, 1), "Anticipated laying conditions");
     Press(Keys::Down);
+    Type(U"5");
+    EXPECT_EQ(Laying.Text(10, 1), "Percentage expected");
     Press(Keys::Enter);
     Type(U"30");
     EXPECT_EQ(Laying.Text(11, 1), "30");

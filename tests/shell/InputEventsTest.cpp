@@ -84,14 +84,15 @@ TEST_F(InputEventsTest, TheGravityDemandTableFollowsTheLifeAndTheSupplyStart)
 {
     Start(1);
     const int PumpRows = frmLCC.msgPumpDemand.Rows();
-    wDemand[2] = 3.5;
+    frmLCC.hscLife.Value = 10;
+    frmLCC.msgDemand.SetText(2, 1, "3.5"); // typed, and not committed yet
+    wDemand[12] = 4.5;
     frmLCC.hscLife.Value = 15;
+    frmLCC.hscSupplyStart.Value = 2030;
     EXPECT_EQ(frmLCC.msgDemand.Rows(), 16);
     EXPECT_EQ(frmLCC.msgDemand.Text(2, 1), "3.5");
+    EXPECT_EQ(frmLCC.msgDemand.Text(12, 1), "4.5");
     EXPECT_EQ(frmLCC.msgPumpDemand.Rows(), PumpRows);
-    wDemand[2] = 4.5;
-    frmLCC.hscSupplyStart.Value = 2030;
-    EXPECT_EQ(frmLCC.msgDemand.Text(2, 1), "4.5");
 }
 
 TEST_F(InputEventsTest, OptionsShowTheirFields)
@@ -123,8 +124,8 @@ TEST_F(InputEventsTest, TheDiameterUnitIsStoredAtOnceAndRefillsTheProfile)
     frmLCC.comDiameterUnits.ListIndex = 3;
     ExpectMarked(true, "a unit");
     EXPECT_EQ(wDiameterUnits, 3);
-    EXPECT_EQ(frmLCC.msgProfile.Text(1, 1), "0"); // the arrays hold what was read last
-    EXPECT_EQ(frmLCC.msgProfile.Tag, "0");
+    EXPECT_EQ(frmLCC.msgProfile.Text(1, 1), "88"); // what was typed isn't lost
+    EXPECT_EQ(frmLCC.msgProfile.Tag, "88");
     EXPECT_FALSE(frmLCC.txtCell.Visible);
 }
 

@@ -1,33 +1,13 @@
-// The connected input screen, and a user at the keyboard.
+// The input screen of a started program, and a user at the keyboard.
 #pragma once
 
-#include "analysis/Program.h"
+#include "ShellTest.h"
 #include "platform/Keys.h"
-#include "platform/ScriptedPlatform.h"
-#include "project/Session.h"
-#include "project/WorkingSet.h"
-#include "screens/Dialogs.h"
-#include "screens/Lcc.h"
-#include "screens/MainWindow.h"
-#include "screens/Results.h"
-#include "shell/GridEditor.h"
-#include "shell/InputEvents.h"
-
-#include <gtest/gtest.h>
 
 namespace velorix {
 
-class InputTest : public testing::Test {
+class InputTest : public ShellTest {
 protected:
-    InputTest()
-    {
-        InstallPlatform(&Windows);
-        ResetProgram();
-        ConnectInputScreen();
-        ConnectGridEditors();
-        StartSession();
-    }
-
     // A new project of that kind.
     static void Start(int SystemType)
     {
@@ -61,19 +41,18 @@ protected:
         Send(Key, Types ? Key : 0);
     }
 
-    ScriptedPlatform Windows;
-
 private:
     static constexpr int OtherKey = 1; // the code of a pressed key is of no matter where a character follows
 
-    // The events in the order in which a view raises them. The key is let go where the focus is by then.
+    // The events in the order in which a view raises them.
     void Send(int Code, int Character)
     {
-        if (auto* Table = dynamic_cast<Grid*>(Windows.Focused))
+        if (auto* Table = dynamic_cast<Grid*>(Windows.Focused)) {
             SendToGrid(*Table, Code, Character);
-        else if (auto* Box = dynamic_cast<TextBox*>(Windows.Focused))
+            if (Windows.Focused == Table) Table->KeyUp(Code); // let go where it was pressed
+        } else if (auto* Box = dynamic_cast<TextBox*>(Windows.Focused)) {
             SendToBox(*Box, Code, Character);
-        if (auto* Table = dynamic_cast<Grid*>(Windows.Focused)) Table->KeyUp(Code);
+        }
     }
 
     static void SendToGrid(Grid& Table, int Code, int Character)
