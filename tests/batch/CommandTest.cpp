@@ -62,7 +62,7 @@ TEST_F(CommandTest, ExitStatusTellsTheWorstThatHappened)
     WriteTooHigh("fails.vlx");
     EXPECT_EQ(Batch("analyse stands.vlx").Status, 0);
     EXPECT_EQ(Batch("analyse fails.vlx stands.vlx").Status, 2);
-    EXPECT_EQ(Batch("analyse fails.vlx missing.vlx stands.vlx").Status, 1);
+    EXPECT_EQ(Batch("analyse missing.vlx fails.vlx stands.vlx").Status, 1);
     EXPECT_EQ(Batch("analyse stands.vlx --json no/such/folder.json").Status, 1);
     for (const char* Wrong :
          {"", "analyse", "analyze stands.vlx", "analyse --jobs 0 stands.vlx", "analyse --jsn - stands.vlx",
