@@ -79,8 +79,8 @@ void ComputeEnergy(int y)
 {
     const Single C = KilowattCost(y);
     const Single G = Checked(Gradeline(1, y) - ElevationFactor * wTRWL); // the level as entered (m)
-    const double Q = wPumpDetails == 1 ? Flow[y] : DemandFlow[y];
-    const double Percent = wPumpDetails == 1 ? Efficiency[y] : wPumpEfficiency;
+    const double Q = wPumpDetails != 0 ? Flow[y] : DemandFlow[y];
+    const double Percent = wPumpDetails != 0 ? Efficiency[y] : wPumpEfficiency;
 
     EnergyCostWork[y] = Checked(G * (Q * UnitWeight) * C / (Percent / 100 * MotorEfficiency));
     EnergyCostWork[y] = Checked(EnergyCostWork[y] * Escalated(wEnergyEscalation, y));

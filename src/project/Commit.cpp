@@ -26,7 +26,6 @@ void CommitProject()
 
     WriteProjectFile(FileName, ProjectRecord, ShortFile::Fails);
     LoadProject();
-    RedrawProfileView = true;
 }
 
 } // namespace velorix

@@ -36,34 +36,29 @@ bool Always()
     return true;
 }
 
-bool Pumping()
-{
-    return wSystemType == 1;
-}
-
 bool Gravity()
 {
-    return !Pumping();
+    return !IsPumping();
 }
 
 bool PumpingAFixedDemand()
 {
-    return Pumping() && wVaryingDemand == 0;
+    return IsPumping() && wVaryingDemand == 0;
 }
 
 bool PumpingAVaryingDemand()
 {
-    return Pumping() && wVaryingDemand != 0;
+    return IsPumping() && wVaryingDemand != 0;
 }
 
 bool PumpCurveGiven()
 {
-    return Pumping() && wPumpDetails == 1;
+    return IsPumping() && wPumpDetails == 1;
 }
 
 bool OperatingPointGiven()
 {
-    return Pumping() && wPumpDetails == 0;
+    return IsPumping() && wPumpDetails == 0;
 }
 
 bool FlowSpecified()
@@ -102,8 +97,8 @@ Checks GeneralChecks()
         {Always, FillDescription},
         {PumpingAFixedDemand, frmLCC.txtPFlowrate, "Enter the fixed demand (must be greater than zero) !"},
         {PumpingAVaryingDemand, ReadPumpDemandGrid},
-        {Pumping, frmLCC.txtPPRWL, "Enter the pumpstation reservoir water level !"},
-        {Pumping, frmLCC.txtPERWL, "Enter the end reservoir water level !"},
+        {IsPumping, frmLCC.txtPPRWL, "Enter the pumpstation reservoir water level !"},
+        {IsPumping, frmLCC.txtPERWL, "Enter the end reservoir water level !"},
     };
 }
 
@@ -143,12 +138,12 @@ Checks PipelineChecks()
 Checks RateChecks()
 {
     return {
-        {Pumping, frmLCC.txtSPeak, "Enter the peak summer demand rate !"},
-        {Pumping, frmLCC.txtSStandard, "Enter the standard summer demand rate !"},
-        {Pumping, frmLCC.txtSOffpeak, "Enter the off-peak summer demand rate !"},
-        {Pumping, frmLCC.txtWPeak, "Enter the peak winter demand rate !"},
-        {Pumping, frmLCC.txtWStandard, "Enter the standard winter demand rate !"},
-        {Pumping, frmLCC.txtWOffpeak, "Enter the off-peak winter demand rate !"},
+        {IsPumping, frmLCC.txtSPeak, "Enter the peak summer demand rate !"},
+        {IsPumping, frmLCC.txtSStandard, "Enter the standard summer demand rate !"},
+        {IsPumping, frmLCC.txtSOffpeak, "Enter the off-peak summer demand rate !"},
+        {IsPumping, frmLCC.txtWPeak, "Enter the peak winter demand rate !"},
+        {IsPumping, frmLCC.txtWStandard, "Enter the standard winter demand rate !"},
+        {IsPumping, frmLCC.txtWOffpeak, "Enter the off-peak winter demand rate !"},
         {Always, frmLCC.txtEscalation, "Enter the estimated escalation rate !"},
         {Always, frmLCC.txtDiscountRate, "Enter the estimated discount rate !"},
         {Always, frmLCC.txtWaterSales, "Enter the current cost of water !"},
@@ -156,7 +151,7 @@ Checks RateChecks()
         {Always, frmLCC.txtElectrical, "Enter the estimated electrical works cost !"},
         {Always, frmLCC.txtMechanical, "Enter the estimated mechanical works cost !"},
         {Always, frmLCC.txtSupervision, "Enter the estimated supervision cost !"},
-        {Pumping, frmLCC.txtEnergyEscalation, "Enter the estimated energy escalation rate !"},
+        {IsPumping, frmLCC.txtEnergyEscalation, "Enter the estimated energy escalation rate !"},
     };
 }
 

@@ -13,11 +13,6 @@
 namespace velorix {
 namespace {
 
-bool IsPumping()
-{
-    return wSystemType == 1;
-}
-
 struct NumberField {
     TextBox* Box;
     Single* Target;
@@ -100,11 +95,6 @@ bool ReadNumbers()
     return true;
 }
 
-void ReadUnit(const ComboBox& Selector, std::int16_t& Index)
-{
-    if (Selector.ListIndex >= 0) Index = static_cast<std::int16_t>(Selector.ListIndex.Get());
-}
-
 void ReadBar(const ScrollBar& Bar, std::int16_t& Value)
 {
     Value = static_cast<std::int16_t>(Bar.Value.Get());
@@ -173,6 +163,11 @@ void ReadRatesPage()
 }
 
 } // namespace
+
+void ReadUnit(const ComboBox& Selector, std::int16_t& Index)
+{
+    if (Selector.ListIndex >= 0) Index = static_cast<std::int16_t>(Selector.ListIndex.Get());
+}
 
 void ReadOptions()
 {

@@ -1,7 +1,15 @@
 // From the controls of the input screen to the working set. The tables have their own readers.
 #pragma once
 
+#include "platform/Controls.h"
+
+#include <cstdint>
+
 namespace velorix {
+
+// The unit index of a selector. One without a choice, which stands for a unit that its list doesn't know,
+// leaves the index as it was.
+void ReadUnit(const ComboBox& Selector, std::int16_t& Index);
 
 // What the demand and the pump are given by.
 void ReadOptions();

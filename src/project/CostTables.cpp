@@ -48,26 +48,25 @@ void ReadDemand(const Grid& Table)
 
 void FillDemandGrid(Grid& Table)
 {
-    Table.SetRows(1); // the heading
-    FitDemandGrid(Table);
-}
-
-void FitDemandGrid(Grid& Table)
-{
-    const int Kept = std::min<int>(Table.Rows() - 1, wLife);
     Table.SetRows(wLife + 1);
     Table.SetText(0, 0, "Year");
     Table.SetText(0, 1, "Demand");
-    for (int Year = Kept + 1; Year <= wLife; ++Year) {
+    for (int Year = 1; Year <= wLife; ++Year) {
         Table.SetText(Year, 0, std::to_string(Year));
         Table.SetText(Year, 1, GeneralText(wDemand[Year]));
     }
 }
 
+void KeepTypedDemand(const Grid& Table)
+{
+    const int Years = std::min<int>(Table.Rows() - 1, wDemand.LastIndex);
+    for (int Year = 1; Year <= Years; ++Year) ReadCell(Table, Year, 1, wDemand[Year]);
+}
+
 void FillCostHeadings()
 {
     const std::string Sign = CurrencySign();
-    const bool US = wUnits == 1;
+    const bool US = UsesUSUnits();
     frmLCC.msgLaying.SetText(0, 1, "Cost (" + Sign + (US ? "/ft³)" : "/m³)"));
     frmLCC.msgLaying.SetText(14, 0, US ? "Required cover (ft)" : "Required cover (m)");
     frmLCC.msgLaying.SetText(
@@ -79,7 +78,6 @@ void FillCostHeadings()
 void FillLayingGrid()
 {
     Grid& Table = frmLCC.msgLaying;
-    FillCostHeadings();
     Table.SetText(0, 0, "Description");
     FillNames(Table, LayingRateRow, LayingRates);
     Table.SetText(9, 0, "Anticipated laying conditions");
@@ -96,7 +94,6 @@ void FillLayingGrid()
 void FillStaffGrid()
 {
     Grid& Table = frmLCC.msgOperational;
-    FillCostHeadings();
     Table.SetText(0, 0, "Staff");
     Table.SetText(0, 2, "Percentage of time (%)");
     FillNames(Table, 1, StaffRows);
@@ -109,7 +106,6 @@ void FillStaffGrid()
 void FillExpensesGrid()
 {
     Grid& Table = frmLCC.msgOtherOperational;
-    FillCostHeadings();
     Table.SetText(0, 0, "Description of expenses");
     FillNames(Table, 1, ExpenseRows);
     for (int Row = 1; Row <= wExpenses.LastIndex; ++Row) Table.SetText(Row, 1, GeneralText(wExpenses[Row]));

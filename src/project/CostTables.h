@@ -7,13 +7,15 @@ namespace velorix {
 
 // Working set to grid.
 void FillDemandGrid(Grid& Table); // msgDemand or msgPumpDemand: one row for each year of the life
-void FitDemandGrid(Grid& Table);  // the same after a change of the life: cells that stay keep what was typed
 void FillLayingGrid();
 void FillStaffGrid();
 void FillExpensesGrid();
 
 // The headings that follow the currency and the units of the working set.
 void FillCostHeadings();
+
+// Takes the demand that the grid shows, ahead of a refill; the years that it hasn't got stay as they are.
+void KeepTypedDemand(const Grid& Table);
 
 // Grid to working set; what the grid doesn't hold becomes 0.
 void ReadDemandGrid();

@@ -64,7 +64,7 @@ void SetUnitDefaults()
 {
     ProjectFields& New = ProjectRecord;
     const bool US = New.Units == 1;
-    const bool Dollar = wCurrency == 1;
+    const bool Dollar = PaysInDollars();
 
     for (std::int16_t* Length :
          {&New.TRWLUnits, &New.BRWLUnits, &New.ElevationUnits, &New.LengthUnits, &New.KsNewUnits,

@@ -5,6 +5,7 @@
 #include "base/Text.h"
 #include "platform/Platform.h"
 #include "project/Commit.h"
+#include "project/Progress.h"
 #include "project/ProjectFile.h"
 #include "project/Session.h"
 #include "project/ViewState.h"
@@ -19,27 +20,6 @@ namespace {
 
 constexpr const char* ProjectExtension = ".vlx";
 constexpr int ProjectFilter = 2; // the second filter of both dialogs
-
-void ShowProgress(const std::string& Doing)
-{
-    MDIProject.lblProgessBar.Caption = Doing;
-    MDIProject.lblProgessBar.Visible = true;
-    System().Repaint();
-}
-
-void ShowPercent(int Percent)
-{
-    MDIProject.proProgressBar.Visible = true;
-    MDIProject.proProgressBar.Value = Percent;
-    System().Repaint();
-}
-
-void HideProgress()
-{
-    MDIProject.lblProgessBar.Visible = false;
-    MDIProject.lblProgessBar.Caption = "";
-    MDIProject.proProgressBar.Visible = false;
-}
 
 // A command has failed: the user is told, and the project that stays open is shown again.
 void ReportFailure(const std::string& Reason)
@@ -59,7 +39,7 @@ void LeaveForOpening()
 {
     StopWelcome();
     LeaveProjectScreens();
-    ShowProgress("Opening project");
+    ShowDoing("Opening project");
 }
 
 void LeaveForSaving()
@@ -76,7 +56,7 @@ bool SavingStarts()
         Warn("First open an existing project or start a new project");
         return false;
     }
-    ShowProgress("Saving project");
+    ShowDoing("Saving project");
     return true;
 }
 
@@ -125,15 +105,15 @@ void SaveTo(const std::filesystem::path& Path)
     const std::string FileBefore = FileName;
     const std::string CaptionBefore = frmLCC.lblFileName.Caption;
     try {
-        ShowPercent(80);
+        ShowProgress(80);
         FileName = Path.string();
-        ShowPercent(90);
+        ShowProgress(90);
         WriteProjectFile(FileName, ProjectRecord, ShortFile::TakesRecordOne);
-        ShowPercent(100);
+        ShowProgress(100);
 
         frmLCC.lblFileName.Caption = Trim(FileName);
         frmLCC.Visible = true;
-        ShowProgress("Opening project");
+        ShowDoing("Opening project");
         LoadProject();
     } catch (const Failure& Problem) {
         FileName = FileBefore;
@@ -237,9 +217,9 @@ void SaveProjectAs()
 {
     std::optional<std::filesystem::path> Chosen;
     try {
-        ShowPercent(0);
+        ShowProgress(0);
         const FileDialog Dialog = SaveDialog();
-        ShowPercent(10);
+        ShowProgress(10);
         Committing = 0;
         SaveAs = 1;
         CommitProject();

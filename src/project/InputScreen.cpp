@@ -3,6 +3,7 @@
 
 #include "base/Format.h"
 #include "base/NumberText.h"
+#include "project/CommitFields.h"
 #include "project/CostTables.h"
 #include "project/HourPattern.h"
 #include "project/ProfileTable.h"
@@ -14,21 +15,17 @@ namespace {
 
 constexpr int EnergyPage = 2;
 
-bool IsPumping()
-{
-    return wSystemType == 1;
-}
-
 void ShowNumber(TextBox& Box, Single Value)
 {
     Box.Text = GeneralText(Value);
 }
 
-// The bar holds the value in its range, the working set takes what the bar shows.
+// The working set takes what the bar can hold, ahead of the bar: a bar that shows what is stored already
+// hasn't been moved by the user.
 void ShowInBar(ScrollBar& Bar, std::int16_t& Value)
 {
+    Value = static_cast<std::int16_t>(Bar.Value.Fit(Value));
     Bar.Value = Value;
-    Value = static_cast<std::int16_t>(Bar.Value.Get());
 }
 
 void HideOptionFrames()
@@ -106,10 +103,11 @@ void FillEnergyPage()
 void FillPumpingSystem()
 {
     (wVaryingDemand == 1 ? frmLCC.optPumpVarying : frmLCC.optPumpFixed).Value = true;
-    (wPumpDetails == 1 ? frmLCC.optPumpDetails : frmLCC.optFlowrate).Value = true;
+    (wPumpDetails != 0 ? frmLCC.optPumpDetails : frmLCC.optFlowrate).Value = true;
     frmLCC.fraPumpOption.Visible = true;
     frmLCC.FraPumpingOption.Visible = true;
     frmLCC.fraPumpReservoir.Visible = true;
+    ReadOptions();
     ShowPumpDemandOption();
     ShowPumpingOption();
 
@@ -132,6 +130,7 @@ void FillPumpingSystem()
 void FillGravitySystem()
 {
     (wVaryingDemand == 1 ? frmLCC.optGCalculatedFlowrate : frmLCC.optGSpecifiedFlowrate).Value = true;
+    ReadOptions();
     frmLCC.fraGravityOption.Visible = true;
     frmLCC.fraGravityFlowrate.Visible = true;
     frmLCC.fraVaryingDemand.Visible = true;
@@ -193,6 +192,7 @@ void FillInputScreen()
     HideOptionFrames();
     ShowKindOfSystem();
     ShowCurrencySigns();
+    FillCostHeadings();
     FillGeneralPage();
     if (IsPumping())
         FillPumpingSystem();
@@ -240,7 +240,7 @@ void ShowCurrencySigns()
 
 std::string CurrencySign()
 {
-    return wCurrency == 0 ? "R" : "$";
+    return PaysInDollars() ? "$" : "R";
 }
 
 std::string PercentCaption(int Hundredths)

@@ -1,7 +1,6 @@
 // Filling, reading and the row operations of the profile table.
 #include "project/ProfileTable.h"
 
-#include "base/Arithmetic.h"
 #include "base/NumberText.h"
 #include "platform/Platform.h"
 #include "project/GridReading.h"

@@ -13,13 +13,28 @@ namespace {
 RecordImage ReadImage(const File& Source, std::uintmax_t Start)
 {
     RecordImage Image{};
-    Source.Read(Start, Image.data(), Image.size());
+    const std::uintmax_t Length = Source.Length();
+    const std::uintmax_t Held = std::min<std::uintmax_t>(Length > Start ? Length - Start : 0, Image.size());
+    if (Source.Read(Start, Image.data(), Image.size()) < Held)
+        throw FileFailure("Can't read the project: the file ends before its end");
     return Image;
 }
 
 std::uintmax_t StartOf(std::int64_t Record)
 {
     return static_cast<std::uintmax_t>(Record - 1) * RecordLength;
+}
+
+// After a failed write. Where even the old bytes can't be put back, the note stays for the next use of the
+// file; the failure that the user is told of is the first one.
+void PutBack(const std::filesystem::path& Path, File& Target, const PendingWrite& Change)
+{
+    try {
+        UndoWrite(Target, Change);
+        ForgetNote(Path);
+    } catch (const FileFailure&) {
+        return;
+    }
 }
 
 } // namespace
@@ -31,10 +46,11 @@ std::int64_t RecordNumber(std::uintmax_t FileLength)
 
 ProjectFields ReadProjectFile(const std::filesystem::path& Path)
 {
-    CompleteInterruptedWrite(Path);
+    const std::optional<PendingWrite> Unfinished = CompleteInterruptedWrite(Path);
     const File Source = File::OpenToRead(Path);
-    const std::int64_t Record = std::max<std::int64_t>(1, RecordNumber(Source.Length()));
-    return FromImage(ReadImage(Source, StartOf(Record)));
+    const std::uintmax_t Start = StartOf(std::max<std::int64_t>(1, RecordNumber(Source.Length())));
+    if (Unfinished && Unfinished->Start == Start) return FromImage(Unfinished->New);
+    return FromImage(ReadImage(Source, Start));
 }
 
 void ReadProjectRecord()
@@ -59,8 +75,7 @@ void WriteProjectFile(const std::filesystem::path& Path, const ProjectFields& Re
         Target.Write(Start, Change.New.data(), Change.New.size());
         Target.Flush();
     } catch (const FileFailure&) {
-        UndoWrite(Target, Change);
-        ForgetNote(Path);
+        PutBack(Path, Target, Change);
         throw;
     }
     ForgetNote(Path);

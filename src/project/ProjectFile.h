@@ -25,8 +25,9 @@ enum class ShortFile { Fails, TakesRecordOne };
 
 // Writes the record over the one that RecordNumber selects, and creates the file where there is none; all
 // other bytes of the file stay, and so do its links and permissions. Either the old or the new record stands
-// afterwards, also when the write is cut short: the change is noted in a file beside it until it is complete.
-// Throws FileFailure, with the file as it was, when the record can't be written.
+// afterwards, also when the write is cut short: the change is noted in a file beside it until it is complete,
+// where the folder takes files. Throws FileFailure, with the file as it was, when the record can't be
+// written.
 void WriteProjectFile(const std::filesystem::path& Path, const ProjectFields& Record, ShortFile Rule);
 
 } // namespace velorix

@@ -119,7 +119,10 @@ ProjectFields FromImage(const RecordImage& Image)
 
 std::string TextOf(const char* Bytes, int Width)
 {
-    return FromCodePage(Trimmed({Bytes, static_cast<std::size_t>(Width)}));
+    // A file that ends early leaves zero bytes instead of blanks.
+    std::string_view Text(Bytes, static_cast<std::size_t>(Width));
+    Text = Text.substr(0, Text.find_last_not_of(std::string_view(" \0", 2)) + 1);
+    return FromCodePage(TrimmedLeft(Text));
 }
 
 void SetText(char* Bytes, int Width, std::string_view Utf8)

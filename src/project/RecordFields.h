@@ -3,8 +3,10 @@
 
 // VELORIX_RECORD_FIELDS(INT16, SINGLE, TEXT) expands one of the three for each field, in the order of the
 // disk record: INT16(Name, Offset, Count), SINGLE(Name, Offset, Count), TEXT(Name, Offset, Width). Offsets
-// and widths are bytes of the disk record, little-endian, without padding. A number stands in the unit of its
-// own selector, whose index is the field of the same name with "Units" behind it.
+// and widths are bytes of the disk record, little-endian, without padding. A number stands as it was typed,
+// in the unit of its own selector: its index is the field whose name ends in "Units" (LengthUnits for
+// AccLength, HeadUnits and FlowUnits for PumpCurve). Money, percentages, PipeCost and Laying have no
+// selector.
 
 // clang-format off
 #define VELORIX_RECORD_FIELDS(INT16, SINGLE, TEXT)                                                                  \

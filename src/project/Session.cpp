@@ -2,8 +2,8 @@
 #include "project/Session.h"
 
 #include "base/Text.h"
-#include "platform/Platform.h"
 #include "project/InputScreen.h"
+#include "project/Progress.h"
 #include "project/ProjectFile.h"
 #include "project/WorkingSet.h"
 #include "screens/Lcc.h"
@@ -24,23 +24,10 @@ bool RedrawProfileView = false;
 
 namespace {
 
-void ShowProgress(int Percent)
-{
-    MDIProject.proProgressBar.Visible = true;
-    MDIProject.proProgressBar.Value = Percent;
-    System().Repaint();
-}
-
-void HideProgress()
-{
-    MDIProject.lblProgessBar.Visible = false;
-    MDIProject.proProgressBar.Visible = false;
-}
-
 void ShowFileAndTitle()
 {
     frmLCC.lblFileName.Caption = Trim(FileName);
-    MDIProject.Caption = wProject.empty() ? "  Velorix" : "  Velorix (" + wProject + ")";
+    MDIProject.Caption = wProject.empty() ? ProgramTitle : ProgramTitle + " (" + wProject + ")";
 }
 
 } // namespace

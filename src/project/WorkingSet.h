@@ -15,6 +15,20 @@ VELORIX_RECORD_FIELDS(VELORIX_INT16, VELORIX_SINGLE, VELORIX_TEXT)
 #undef VELORIX_SINGLE
 #undef VELORIX_TEXT
 
+// What the flags of the working set mean. A foreign file may hold any number in them.
+inline bool IsPumping()
+{
+    return wSystemType == 1;
+}
+inline bool UsesUSUnits()
+{
+    return wUnits == 1;
+}
+inline bool PaysInDollars()
+{
+    return wCurrency != 0;
+}
+
 extern int NodeCount; // nodes of the open project, rows 1 to NodeCount of the profile arrays
 
 // Copies the record to the working set: all that the record's kind of system uses. What only a pumping system

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cstring>
 #include <fcntl.h>
-#include <optional>
 #include <string>
 #include <unistd.h>
 
@@ -100,6 +99,21 @@ bool FolderTakesFiles(const std::filesystem::path& Entry)
     return ::access(Folder.c_str(), W_OK | X_OK) == 0;
 }
 
+// Leaves room in the longest name that a file can have for what the note's name adds.
+std::string ShortName(const std::string& Name)
+{
+    constexpr std::size_t Longest = 200;
+    if (Name.size() <= Longest) return Name;
+    return Name.substr(0, Longest) + "-" + std::to_string(Checksum(Name.data(), Name.size()));
+}
+
+void Finish(const std::filesystem::path& Project, const PendingWrite& Change)
+{
+    File Target = File::OpenToWrite(Project);
+    Target.Write(Change.Start, Change.New.data(), Change.New.size());
+    Target.Flush();
+}
+
 } // namespace
 
 std::filesystem::path NotePath(const std::filesystem::path& Project)
@@ -108,7 +122,7 @@ std::filesystem::path NotePath(const std::filesystem::path& Project)
     std::error_code Unresolved;
     const std::filesystem::path Real = std::filesystem::canonical(Project, Unresolved);
     const std::filesystem::path& Path = Unresolved ? Project : Real;
-    return Path.parent_path() / ("." + Path.filename().string() + ".saving");
+    return Path.parent_path() / ("." + ShortName(Path.filename().string()) + ".saving");
 }
 
 void NoteWrite(const std::filesystem::path& Project, const PendingWrite& Change)
@@ -127,24 +141,20 @@ void NoteWrite(const std::filesystem::path& Project, const PendingWrite& Change)
     FlushFolder(Path);
 }
 
-void CompleteInterruptedWrite(const std::filesystem::path& Project)
+std::optional<PendingWrite> CompleteInterruptedWrite(const std::filesystem::path& Project)
 {
     std::error_code Missing;
-    if (!std::filesystem::exists(NotePath(Project), Missing)) return;
+    if (!std::filesystem::exists(NotePath(Project), Missing)) return std::nullopt;
     std::optional<PendingWrite> Change;
     try {
         Change = ReadNote(Project);
-        if (Change) {
-            File Target = File::OpenToWrite(Project);
-            if (IsHalfWritten(Target, *Change)) {
-                Target.Write(Change->Start, Change->New.data(), Change->New.size());
-                Target.Flush();
-            }
-        }
+        if (Change && !IsHalfWritten(File::OpenToRead(Project), *Change)) Change.reset();
+        if (Change) Finish(Project, *Change);
     } catch (const FileFailure&) {
-        return; // the caller's own use of the file will tell what is wrong with it
+        return Change; // a file, or a note, that can't be opened or written now
     }
     ForgetNote(Project);
+    return std::nullopt;
 }
 
 void UndoWrite(File& Target, const PendingWrite& Change)

@@ -5,6 +5,8 @@
 #include "project/File.h"
 #include "project/ProjectRecord.h"
 
+#include <optional>
+
 namespace velorix {
 
 // A record that is about to be replaced.
@@ -24,8 +26,9 @@ void NoteWrite(const std::filesystem::path& Project, const PendingWrite& Change)
 
 // Finishes the write that a note tells of, if the file holds nothing but old and new bytes in the record's
 // place; a note that is torn itself, or that no longer fits its file, is dropped. Called ahead of every use
-// of a project file. A file that can't be written yet is left for the next time.
-void CompleteInterruptedWrite(const std::filesystem::path& Project);
+// of a project file. Where the file can't be written now, the unfinished write is the answer: its new record
+// is the one to read.
+std::optional<PendingWrite> CompleteInterruptedWrite(const std::filesystem::path& Project);
 
 // Puts the old bytes and the old length back after a write that failed.
 void UndoWrite(File& Target, const PendingWrite& Change);

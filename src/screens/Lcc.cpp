@@ -71,9 +71,9 @@ LccScreen::LccScreen()
     SetGrid(msgProfile, {900, 1200, 1200, 1000, 1000, 1000, 1200, 1900});
     SetGrid(msgDemand, {1000, 1200});
     SetGrid(msgPumpDemand, {1000, 1200});
-    SetGrid(msgLaying, {3300, 1600});
+    SetGrid(msgLaying, {3600, 2000});
     SetGrid(msgOperational, {1600, 1900, 1900});
-    SetGrid(msgOtherOperational, {2200, 1900});
+    SetGrid(msgOtherOperational, {2500, 1900});
     msgLaying.MergeEqualCells = true;
 
     GroupOptions({&optGSpecifiedFlowrate, &optGCalculatedFlowrate});

@@ -8,9 +8,9 @@ ResultsScreen::ResultsScreen()
 {
     fraDuty.Visible = false;
     sscDutypoint.Visible = false;
-    msgCost.ColWidth = {4200, 2400};
+    msgCost.ColWidth = {3100, 1850};
     msgCost.DataRowHeight = msgCost.HeaderHeight = 350;
-    msgAnnualCost.ColWidth = {1700, 1100, 1800};
+    msgAnnualCost.ColWidth = {2850, 1150, 1450};
     msgAnnualCost.DataRowHeight = msgAnnualCost.HeaderHeight = 350;
     msgAnnualCost.MergeEqualCells = true;
     DesignEnds();

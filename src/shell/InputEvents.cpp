@@ -1,6 +1,7 @@
 // What the controls of the input screen do.
 #include "shell/InputEvents.h"
 
+#include "project/CommitFields.h"
 #include "project/CostTables.h"
 #include "project/HourPattern.h"
 #include "project/InputScreen.h"
@@ -43,20 +44,16 @@ void ConnectEdits()
     frmLCC.dtpDate.Change = MarkChanged;
 }
 
-// Nothing chosen is a unit that the list doesn't know: the working set keeps it.
-void StoreUnit(std::int16_t& Stored, const ComboBox& Selector)
-{
-    if (Selector.ListIndex >= 0) Stored = static_cast<std::int16_t>(Selector.ListIndex.Get());
-}
-
-// The table is read first, so that what was typed since the last reading shows again. The load step sets the
-// selector to what is stored, ahead of filling the table: there is nothing to read then.
+// The table is read first, so that what was typed since the last reading shows again. Not so when the load
+// step has set the selector, to the unit that is stored or, for a unit that the list doesn't know, to none:
+// the table still shows the project before then.
 void DiameterUnitsChosen()
 {
     MarkChanged();
-    if (frmLCC.comDiameterUnits.ListIndex == wDiameterUnits) return;
+    const int Chosen = frmLCC.comDiameterUnits.ListIndex;
+    if (Chosen < 0 || Chosen == wDiameterUnits) return;
     ReadProfileGrid();
-    StoreUnit(wDiameterUnits, frmLCC.comDiameterUnits);
+    ReadUnit(frmLCC.comDiameterUnits, wDiameterUnits);
     FillProfileGrid();
     SettleGridEditor(frmLCC.msgProfile);
 }
@@ -65,7 +62,7 @@ void DiameterUnitsChosen()
 void PumpDemandUnitsChosen()
 {
     MarkChanged();
-    StoreUnit(wDemandUnits, frmLCC.comPumpVaryingDemandUnits);
+    ReadUnit(frmLCC.comPumpVaryingDemandUnits, wDemandUnits);
     frmLCC.comVaryingDemandUnits.ListIndex = frmLCC.comPumpVaryingDemandUnits.ListIndex.Get();
 }
 
@@ -114,14 +111,16 @@ void ConnectBar(ScrollBar& Bar, Label& Reading, std::int16_t& Stored, std::strin
     Bar.Change = [&Bar, &Reading, &Stored, Caption, Then] {
         MarkChanged();
         Reading.Caption = Caption(Bar.Value);
+        const bool Moved = Stored != Bar.Value; // not when the load step shows what is stored
         Stored = static_cast<std::int16_t>(Bar.Value.Get());
-        if (Then) Then();
+        if (Moved && Then) Then();
     };
 }
 
 void RefillDemand()
 {
-    FitDemandGrid(frmLCC.msgDemand);
+    KeepTypedDemand(frmLCC.msgDemand);
+    FillDemandGrid(frmLCC.msgDemand);
     SettleGridEditor(frmLCC.msgDemand);
 }
 

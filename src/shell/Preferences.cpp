@@ -1,6 +1,7 @@
 // Handlers of frmPref.
 #include "shell/Preferences.h"
 
+#include "base/Arithmetic.h"
 #include "project/CostTables.h"
 #include "project/InputScreen.h"
 #include "project/ViewState.h"
@@ -19,9 +20,8 @@ int BarValue(Single Percent)
 {
     constexpr double Most = 5000.0;
     const double Hundredths = Percent * 100.0;
-    return std::isnan(Hundredths)
-               ? 0
-               : static_cast<int>(std::lround(std::fmin(std::fmax(Hundredths, 0.0), Most)));
+    return std::isnan(Hundredths) ? 0
+                                  : static_cast<int>(RoundEven(std::fmin(std::fmax(Hundredths, 0.0), Most)));
 }
 
 void ShowAllowances()
@@ -53,8 +53,8 @@ void ConnectPreferences()
 void PreferencesLoad()
 {
     HideScreens();
-    (wUnits == 0 ? frmPref.optMetric : frmPref.optUS).Value = true;
-    (wCurrency == 0 ? frmPref.optRand : frmPref.optDollars).Value = true;
+    (UsesUSUnits() ? frmPref.optUS : frmPref.optMetric).Value = true;
+    (PaysInDollars() ? frmPref.optDollars : frmPref.optRand).Value = true;
     frmPref.hsbPG.Value = BarValue(wPG);
     frmPref.hsbContingencies.Value = BarValue(wContingencies);
     ShowAllowances();

@@ -178,8 +178,7 @@ TEST_F(CommitTest, GravitySystemKeepsThePumpFieldsOfTheRecord)
 TEST_F(CommitTest, UnitsComeFromTheSelectorsThatCount)
 {
     StartComplete(1);
-    frmLCC.comVaryingDemandUnits.ListIndex = 7;
-    frmLCC.comPumpVaryingDemandUnits.ListIndex = 9; // stores its own changes
+    frmLCC.comVaryingDemandUnits.ListIndex = 7; // kept equal to the pumping system's as that changes
     frmLCC.comPPRWLUnits.ListIndex = 1;
     frmLCC.comPERWLUnits.ListIndex = 2;
     frmLCC.comTRWLUnits.ListIndex = frmLCC.comBRWLUnits.ListIndex = 3; // the gravity system's

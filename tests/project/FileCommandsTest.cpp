@@ -17,7 +17,6 @@ protected:
     {
         for (Screen* Each : std::initializer_list<Screen*>{&frmLCCType, &frmView, &frmPumpView})
             Each->Unload();
-        Windows.Folder = Folder;
     }
 
     // A complete gravity project in a file of that name.

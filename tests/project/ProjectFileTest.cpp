@@ -155,6 +155,13 @@ TEST_F(InterruptedWriteTest, IsCompletedAtTheNextUse)
     EXPECT_FALSE(std::filesystem::exists(NotePath(Path)));
 }
 
+TEST_F(ProjectFileTest, LongNamesAreWrittenToo)
+{
+    const std::string Long = WriteFile(Filled(251, 'n') + ".vlx", Filled(16650, 'x'));
+    WriteProjectFile(Long, SampleRecord(), ShortFile::Fails);
+    EXPECT_EQ(ReadFile(Long), BytesOf(SampleRecord()));
+}
+
 TEST_F(InterruptedWriteTest, NoteThatFitsNoLongerIsDropped)
 {
     const std::string Other = Filled(16650, 'z');

@@ -30,6 +30,7 @@ protected:
 
         std::string Template = (std::filesystem::temp_directory_path() / "velorix-test-XXXXXX").string();
         Folder = ::mkdtemp(Template.data());
+        Windows.Folder = Folder;
     }
 
     ~ProjectTest() override { std::filesystem::remove_all(Folder); }

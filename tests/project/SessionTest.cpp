@@ -114,6 +114,16 @@ TEST_F(SessionTest, WhatAControlCannotHoldIsHeldAtItsRange)
     EXPECT_EQ(frmLCC.dtpDate.Value.Get(), (Date{2005, 3, 3})); // as the new project left it
 }
 
+TEST_F(SessionTest, FileOfZeroBytesIsAProjectWithoutTexts)
+{
+    StartNew(0);
+    FileName = WriteFile("empty.vlx", "");
+    LoadProject();
+    EXPECT_EQ(MDIProject.Caption.Get(), "  Velorix");
+    EXPECT_EQ(frmLCC.txtProject.Text.Get(), "");
+    EXPECT_EQ(wLife, 2);
+}
+
 TEST_F(SessionTest, UnreadableFileLeavesTheOpenProject)
 {
     StartNew(0);

@@ -58,6 +58,15 @@ TEST_F(DialogsTest, PreferencesGoToTheWorkingSet)
     EXPECT_TRUE(frmLCC.Visible);
 }
 
+// Hundredths of a percent, halves to the even one.
+TEST_F(DialogsTest, AllowanceBarsRoundHalvesToEven)
+{
+    wPG = 12.125;
+    Windows.ModalScripts["frmPref"] = [] { frmPref.sscOK.Click(); };
+    MDIProject.mnuPreferences.Click();
+    EXPECT_EQ(wPG, Single(12.12));
+}
+
 TEST_F(DialogsTest, CancelledPreferencesChangeNothing)
 {
     Windows.ModalScripts["frmPref"] = [] {

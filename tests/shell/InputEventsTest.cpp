@@ -142,8 +142,12 @@ TEST_F(InputEventsTest, AUnitBeyondItsListStaysInTheWorkingSet)
     Start(1);
     ProjectRecord.DemandUnits = 13;
     ProjectRecord.DiameterUnits = 7;
+    for (int Row = 1; Row <= 4; ++Row)
+        ProjectRecord.Elevation[Row] = ProjectRecord.AccLength[Row] = 10.0 * Row;
     NewProject = 1;
     LoadProject();
+    EXPECT_EQ(NodeCount, 4); // and not the profile that the table showed before
+    EXPECT_EQ(wElevation[4], 40.0);
     EXPECT_EQ(wDemandUnits, 13);
     EXPECT_EQ(wDiameterUnits, 7);
     EXPECT_EQ(frmLCC.comDiameterUnits.ListIndex, -1);
