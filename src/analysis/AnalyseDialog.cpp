@@ -13,13 +13,25 @@
 namespace velorix {
 namespace {
 
-// The hourglass for as long as it stands; the pointer comes back whatever happens.
-class Busy {
+// The state of the dialog while an analysis runs. Whatever the outcome, the button comes back as "Continue".
+class Running {
 public:
-    Busy() { System().SetPointer(PointerShape::Hourglass); }
-    ~Busy() { System().SetPointer(PointerShape::Default); }
-    Busy(const Busy&) = delete;
-    Busy& operator=(const Busy&) = delete;
+    Running()
+    {
+        System().SetPointer(PointerShape::Hourglass);
+        for (Control* Each :
+             std::initializer_list<Control*>{&frmAnalyse.proBar, &frmAnalyse.lbl100, &frmAnalyse.lbl0})
+            Each->Visible = true;
+        frmAnalyse.sscAnalyse.Enabled = false;
+    }
+    ~Running()
+    {
+        System().SetPointer(PointerShape::Default);
+        frmAnalyse.sscAnalyse.Caption = "&Continue";
+        frmAnalyse.sscAnalyse.Enabled = true;
+    }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
 };
 
 void ShowResults()
@@ -57,17 +69,9 @@ void AnalysePressed()
 {
     if (Analysed == 1) return ShowResults();
 
-    {
-        const Busy Pointer;
-        frmAnalyse.proBar.Visible = true;
-        frmAnalyse.lbl100.Visible = true;
-        frmAnalyse.lbl0.Visible = true;
-        frmAnalyse.sscAnalyse.Enabled = false;
-        PlotYear = 1;
-        AnalyseProject();
-    }
-    frmAnalyse.sscAnalyse.Caption = "&Continue";
-    frmAnalyse.sscAnalyse.Enabled = true;
+    const Running Dialog;
+    PlotYear = 1;
+    AnalyseProject();
 }
 
 void AnalyseCancelled()

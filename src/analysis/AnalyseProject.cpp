@@ -109,6 +109,7 @@ void RunAnalysis()
 
 void AnalyseProject()
 {
+    Analysed = 0;
     ClearArithmeticFlags();
     try {
         RunAnalysis();

@@ -47,13 +47,19 @@ void CheckArithmetic()
     throw ArithmeticFailure("invalid operation");
 }
 
-// Stands in a file of its own, called and not inlined: so the expression is complete, flags and all, before
-// the flags are looked at. The volatile keeps the rounding on this side of the test.
-Single Checked(double Value)
+// Never inlined, not even by an optimiser that sees all files: at a call the argument is complete, flags and
+// all, before the flags are looked at. The volatile keeps the rounding on this side of the test.
+[[gnu::noinline]] Single Checked(double Value)
 {
     volatile float Rounded = static_cast<float>(Value);
     CheckArithmetic();
     return Single(Rounded);
+}
+
+double Ordered(double Value)
+{
+    if (std::isnan(Value)) throw ArithmeticFailure("invalid operation: a number that is none was compared");
+    return Value;
 }
 
 double RoundEven(double Value)

@@ -21,6 +21,10 @@ void CheckArithmetic();
 // its rounding, failed, so that the target keeps what it held.
 Single Checked(double Value);
 
+// The value, about to be compared. A NaN has no order: comparing it is an invalid operation and throws
+// ArithmeticFailure, on every compiler and machine.
+double Ordered(double Value);
+
 // Nearest integer, halves to the even neighbour.
 double RoundEven(double Value);
 

@@ -21,8 +21,8 @@ public:
     static constexpr int LastIndex = Last;
     static constexpr int Count = Last - First + 1;
 
-    T& operator[](int Index) { return Entries[Checked(Index)]; }
-    const T& operator[](int Index) const { return Entries[Checked(Index)]; }
+    T& operator[](int Index) { return Entries[PlaceOf(Index)]; }
+    const T& operator[](int Index) const { return Entries[PlaceOf(Index)]; }
 
     void Fill(const T& Value) { Entries.fill(Value); }
 
@@ -36,7 +36,7 @@ public:
     auto end() const { return Entries.end(); }
 
 private:
-    static std::size_t Checked(int Index)
+    static std::size_t PlaceOf(int Index)
     {
         if (Index < First || Index > Last) throw SubscriptFailure(Index, First, Last);
         return static_cast<std::size_t>(Index - First);

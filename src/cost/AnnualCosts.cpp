@@ -40,7 +40,7 @@ double WaterSold(int y)
     double Supply = Flow[y];
     if (wSystemType == 1) Supply = PumpingHours[y] * Flow[y] / 24;
     const double Demand = wVaryingDemand == 1 ? DemandFactor * wDemand[y] : wFlowrate * DemandFactor;
-    return Checked(Demand) >= Checked(Supply) ? Supply : Demand;
+    return Ordered(Checked(Demand)) >= Ordered(Checked(Supply)) ? Supply : Demand;
 }
 
 void ComputeMaintenance(int y)

@@ -3,13 +3,13 @@
 
 #include "base/Arithmetic.h"
 #include "base/NumberText.h"
+#include "hydraulics/Formulas.h"
 #include "project/WorkingSet.h"
 #include "screens/Lcc.h"
 
 #include <cmath>
 #include <iterator>
 #include <limits>
-#include <numbers>
 
 namespace velorix {
 
@@ -44,7 +44,6 @@ ByYear CapitalSeries;
 
 namespace {
 
-constexpr double TaxFactor = 1.14;      // value-added tax of 14 percent
 constexpr double BlanketOverPipe = 0.1; // m of blanket above the pipe, which backfill then needn't fill
 constexpr int MonthsAYear = 12;
 
@@ -88,7 +87,7 @@ template <std::size_t Count>
 double FeeOf(const FeeBracket (&Scale)[Count], double Value)
 {
     const FeeBracket* Bracket = Scale;
-    while (Bracket != std::end(Scale) - 1 && Value > Bracket->Limit) ++Bracket;
+    while (Bracket != std::end(Scale) - 1 && Ordered(Value) > Bracket->Limit) ++Bracket;
     return Bracket->Base + Bracket->Share * (Value - Bracket->From);
 }
 
@@ -96,7 +95,7 @@ double FeeOf(const FeeBracket (&Scale)[Count], double Value)
 // that a bore of just 0.7 m doesn't fall to the wrong side by its last digits.
 double TrenchWidth(double Bore)
 {
-    const Single Size = Bore;
+    const Single Size = Ordered(Bore);
     if (Size <= Single(0.7)) return Bore + 0.6;
     if (Size <= Single(1.0)) return Bore + 0.8;
     if (Size <= Single(2.0)) return Bore + 1.0;
@@ -119,14 +118,14 @@ void PriceTrench(int i)
     // The blanket's trench volume is stored before the room of the pipe comes off.
     const double B = Bore + BlanketOverPipe;
     const double Import = PercentBlanketImport / 100;
-    const double Section = Bore * Bore * (std::numbers::pi / 4);
+    const double Section = Bore * Bore * (Pi / 4);
     BlanketCost[i] =
         Checked(B * (RateBlanketTrench * W) * L * (1 - Import) + B * (RateBlanketImport * W) * L * Import);
     BlanketCost[i] = Checked(BlanketCost[i] - (Section * RateBlanketTrench * L * (1 - Import) +
                                                Section * RateBlanketImport * L * Import));
 
     const Single Backfill = Checked(RateBackfilling * W * L * (Cover - BlanketOverPipe));
-    BackfillCost[i] = Backfill < 0 ? Single(0) : Backfill;
+    BackfillCost[i] = Ordered(Backfill) < 0 ? Single(0) : Backfill;
     PipeLayingCost[i] = Checked(RateLaying * L);
 }
 

@@ -5,6 +5,9 @@
 
 namespace velorix {
 
+constexpr double Tax = 0.14;       // value-added tax, as a part of the amount
+constexpr double TaxFactor = 1.14; // an amount with the tax on it
+
 // Laying rates in money and laying conditions, as ReadLayingRates takes them from wLaying.
 extern Single RateLaying;     // per metre of pipe, joining included
 extern Single RateExcavation; // this rate and the next six per cubic metre

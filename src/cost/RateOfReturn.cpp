@@ -85,7 +85,7 @@ struct RateScan {
 void RateScan::Record(int k, double Income, double Cost)
 {
     const double Before = PreviousIncome - PreviousCost;
-    const double Difference = Income - Cost;
+    const double Difference = Ordered(Income) - Ordered(Cost);
     IrrRate[k] = k / 100.0;
     IrrDifference[k] = Difference;
 

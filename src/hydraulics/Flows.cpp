@@ -31,7 +31,8 @@ void StoreRoughness()
     const double LastAgeing = Ordered(RoundEven(Y));
     for (int y = 1; y <= LastAgeing; ++y) KsYear[y] = Checked(KsNewM + (KsOldM - KsNewM) / (Y - 1) * (y - 1));
 
-    // No year lies below the least 16-bit number, which is outside the array as well.
+    // Held at the least 16-bit number, so that any number of years converts; the array has no such year
+    // either.
     const int FirstOld = static_cast<int>(std::max(LastAgeing, -32768.0));
     for (int y = FirstOld; y <= wLife; ++y) KsYear[y] = KsOldM;
 }

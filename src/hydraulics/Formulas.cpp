@@ -1,17 +1,9 @@
 // Pipe formulas. Their order of operations fixes the last digit of every result.
 #include "hydraulics/Formulas.h"
 
-#include "base/Failure.h"
-
 #include <cmath>
 
 namespace velorix {
-namespace {
-
-constexpr double Pi = 3.14159265359;
-
-} // namespace
-
 double PipeArea(double D)
 {
     return Pi * D * D / 4;
@@ -38,12 +30,6 @@ double SecondaryHead(double Q, double D, double K)
 {
     const double V = Velocity(Q, D);
     return K * V * V / TwiceGravity;
-}
-
-double Ordered(double Value)
-{
-    if (std::isnan(Value)) throw ArithmeticFailure("invalid operation: a number that is none was compared");
-    return Value;
 }
 
 } // namespace velorix

@@ -3,6 +3,7 @@
 
 namespace velorix {
 
+constexpr double Pi = 3.14159265359;   // as all formulas of the program write it
 constexpr double TwiceGravity = 19.62; // m/s2
 
 // Cross-section of a round pipe of bore D (m2).
@@ -22,9 +23,5 @@ double FrictionHead(double Q, double D, double L, double f);
 // Head lost in fittings of the loss coefficient K (m).
 //     hs = K V^2 / 2g
 double SecondaryHead(double Q, double D, double K);
-
-// The value, about to be compared. A NaN has no order: comparing it is an invalid operation and throws
-// ArithmeticFailure, on every compiler and machine.
-double Ordered(double Value);
 
 } // namespace velorix

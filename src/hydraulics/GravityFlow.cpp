@@ -73,8 +73,7 @@ Single ConvergedFlow(int Year, Single H, PressureList& P)
             AtLow.Add(i, Year, Q.Low);
             AtMid.Add(i, Year, Q.Mid);
             AtHigh.Add(i, Year, Q.High);
-            P[i] = Checked(UpstreamLevel - ElevationFactor * wElevation[i + 1] - AtMid.Friction -
-                           AtMid.Secondary);
+            P[i] = Checked(StaticHead(i) - AtMid.Friction - AtMid.Secondary);
         }
 
         const Bounds Before = Q;

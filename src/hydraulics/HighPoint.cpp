@@ -42,7 +42,7 @@ bool Clears(int Year, Single Q)
         const double D = InternalDiameter[i];
         Friction += FrictionHead(Q, D, SectionLength[i], Lambda(i, Year));
         Secondary += SecondaryHead(Q, D, wSecondaryLoss[i]);
-        P = UpstreamLevel - ElevationFactor * wElevation[i + 1] - Friction - Secondary;
+        P = StaticHead(i) - Friction - Secondary;
         if (i < NodeCount && Ordered(P) <= -1) Clear = false;
     }
     Checked(P);
@@ -60,7 +60,7 @@ void PrepareKernel(Search& In)
 
     double LargestLevel = 0;
     for (int i = 1; i <= NodeCount; ++i) {
-        In.StaticHead[i - 1] = UpstreamLevel - ElevationFactor * wElevation[i + 1];
+        In.StaticHead[i - 1] = StaticHead(i);
         LargestLevel += std::fabs(In.StaticHead[i - 1]);
     }
     const double LargestFlow = In.Start + 10.0;

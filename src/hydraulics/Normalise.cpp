@@ -171,6 +171,11 @@ void NormaliseInputs()
     }
 }
 
+double StaticHead(int Section)
+{
+    return UpstreamLevel - ElevationFactor * wElevation[Section + 1];
+}
+
 void ResetNormalise()
 {
     for (Single* Scalar : {&UpstreamLevel, &DownstreamLevel, &LiningLoss, &KsNewM, &KsOldM, &DemandFactor,

@@ -36,6 +36,10 @@ extern Single WaterSalesFactor;    // applied to a flow in m3/s for the unit of 
 // quietly, and the remaining values stay as they were. Before that a failure is thrown.
 void NormaliseInputs();
 
+// Head above ground behind a section when nothing is lost on the way (m): the upstream level less the ground
+// level of the row that the section leads to. The level is scaled by ElevationFactor alone.
+double StaticHead(int Section);
+
 void ResetNormalise();
 
 } // namespace velorix

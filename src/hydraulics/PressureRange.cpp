@@ -41,7 +41,7 @@ RangeOutcome JudgeFlows(int Year, double A, double B)
         Friction.Add(FrictionHead(Least, D, L, f), FrictionHead(Most, D, L, f));
         Secondary.Add(SecondaryHead(Least, D, K), SecondaryHead(Most, D, K));
 
-        const double Static = UpstreamLevel - ElevationFactor * wElevation[i + 1];
+        const double Static = StaticHead(i);
         const Single Lowest = Static - Friction.High - Secondary.High;
         const Single Highest = Static - Friction.Low - Secondary.Low;
         Outcome.Last = Highest;

@@ -22,6 +22,8 @@ void SupplyDemand();
 
 // Splits the pumping hours over the rate classes, the cheapest first. The running values go on from year to
 // year: a class that a year doesn't reach keeps the hours of the year before.
+// In a gravity system it splits the PumpingHours that an earlier pumping project has left, and nobody reads
+// them.
 void SplitPumpingHours();
 
 void ResetYearlySupply();

@@ -11,9 +11,6 @@
 namespace velorix {
 namespace {
 
-constexpr double Tax = 0.14;
-constexpr double WithTax = 1.14;
-
 void PutAmount(int Row, const std::string& Name, Single Amount)
 {
     frmResults.msgCost.SetText(Row, 0, Name);
@@ -45,7 +42,7 @@ void FillCapitalCosts()
     PutAmount(11, "Administration and management", SupervisionCost);
     PutAmount(12, "Total construction cost", Construction);
     PutAmount(13, "VAT 14%", Tax * Construction);
-    PutAmount(14, "Total capital cost", WithTax * Construction);
+    PutAmount(14, "Total capital cost", TaxFactor * Construction);
 }
 
 void PutAnnualRow(int Row, const std::string& Group, const std::string& Part)

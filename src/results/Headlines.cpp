@@ -8,14 +8,28 @@
 #include "project/WorkingSet.h"
 #include "screens/Results.h"
 
+#include <cmath>
+
 namespace velorix {
+
+namespace {
+
+// A figure that is no number leaves its label empty.
+void ShowFigure(Label& Target, const std::string& Before, Single Figure, const char* Pattern,
+                const std::string& Behind = {})
+{
+    Target.Caption =
+        std::isfinite(Figure.Float()) ? Before + Format(Figure, Pattern) + Behind : std::string();
+}
+
+} // namespace
 
 void ShowHeadlines()
 {
     frmResults.lblDesignLife.Caption = std::to_string(wLife) + " years";
-    frmResults.lblNPVE.Caption = CurrencySign() + Format(NpvCost, "#,###,###,###,###,000");
-    frmResults.lblNPVI.Caption = CurrencySign() + Format(NpvIncome, "#,###,###,###,###,000");
-    frmResults.lblIRR.Caption = "IRR = " + Format(Irr, "#0.000") + " %";
+    ShowFigure(frmResults.lblNPVE, CurrencySign(), NpvCost, "#,###,###,###,###,000");
+    ShowFigure(frmResults.lblNPVI, CurrencySign(), NpvIncome, "#,###,###,###,###,000");
+    ShowFigure(frmResults.lblIRR, "IRR = ", Irr, "#0.000", " %");
 }
 
 } // namespace velorix

@@ -4,6 +4,7 @@
 #include "analysis/AnalyseDialog.h"
 #include "analysis/Program.h"
 #include "platform/Platform.h"
+#include "project/FileCommands.h"
 #include "project/WorkingSet.h"
 #include "results/CostTable.h"
 #include "results/PlotState.h"
@@ -20,6 +21,14 @@
 
 namespace velorix {
 namespace {
+
+void ConnectKindOfSystem()
+{
+    frmLCCType.Close = LccTypeCancel;
+    frmLCCType.sscContinue.Click = LccTypeContinue;
+    frmLCCType.sscCancel.Click = LccTypeCancel;
+    HelpOn(frmLCCType.sscHelp, 3000);
+}
 
 void ConnectAnalyseDialog()
 {
@@ -61,6 +70,7 @@ void ConnectScreens()
     ConnectGridEditors();
     ConnectPreferences();
     ConnectNotices();
+    ConnectKindOfSystem();
     ConnectAnalyseDialog();
     ConnectResults();
 }

@@ -45,6 +45,38 @@ TEST_F(MainCommandsTest, ResultsNeedAnAnalysis)
     EXPECT_TRUE(frmLCC.Visible);
 }
 
+TEST_F(MainCommandsTest, NewStartsTheKindThatIsChosen)
+{
+    Windows.ModalScripts["frmLCCType"] = [] {
+        EXPECT_TRUE(frmLCCType.optGravity.Value);
+        frmLCCType.optPumping.Value = true;
+        frmLCCType.sscContinue.Click();
+    };
+    MDIProject.sscNew.Click();
+    EXPECT_EQ(wSystemType, 1);
+    EXPECT_TRUE(frmLCC.Visible);
+
+    Windows.ModalScripts["frmLCCType"] = [] { frmLCCType.sscCancel.Click(); };
+    MDIProject.mnuNew.Click();
+    EXPECT_EQ(wSystemType, 1);
+    EXPECT_FALSE(frmLCC.Visible);
+    MDIProject.mnuGeneral.Click();
+    EXPECT_TRUE(frmLCC.Visible);
+}
+
+// Every button that can be pressed does something.
+TEST_F(MainCommandsTest, NoButtonIsLeftUnconnected)
+{
+    for (const Screen* Each :
+         std::initializer_list<const Screen*>{&MDIProject, &frmLCC, &frmAnalyse, &frmLCCType, &frmPref,
+                                              &frmDeleteRow, &frmAgree, &frmDisclaimer, &frmAbout})
+        for (const Control* Control : Each->Controls) {
+            const auto* Button = dynamic_cast<const CommandButton*>(Control);
+            if (!Button || !Button->Enabled) continue;
+            EXPECT_TRUE(Button->Click) << Each->Name << ": " << Button->Caption.Get() << Button->ToolTip;
+        }
+}
+
 // A dialog over the results brings back the input screen, and the currency signs a moment later.
 TEST_F(MainCommandsTest, DialogOverTheResultsRefreshesTheCurrency)
 {
