@@ -1,5 +1,5 @@
-# Fails when a source includes a toolkit header outside the folders that may, or a folder that doesn't lie
-# below its own. Run as: cmake -D SOURCE_DIR=<the folder src> -P CheckIncludes.cmake
+# Fails when a source, test or benchmark includes a toolkit header outside the folders that may, or a source
+# one of a folder that doesn't lie below its own. Run as: cmake -D PROJECT_DIR=<the root> -P CheckIncludes.cmake
 cmake_minimum_required(VERSION 3.25)
 
 # From the ground up. Folders of one line stand side by side and don't include each other.
@@ -14,7 +14,7 @@ set(floors
   "analysis"
   "shell"
   "batch|desktop")
-set(toolkit_folders batch desktop)
+set(toolkit_folders src/batch src/desktop tests/desktop)
 
 set(level 0)
 foreach(floor IN LISTS floors)
@@ -31,24 +31,30 @@ macro(fault text)
   math(EXPR faults "${faults} + 1")
 endmacro()
 
-file(GLOB_RECURSE files RELATIVE ${SOURCE_DIR} ${SOURCE_DIR}/*.h ${SOURCE_DIR}/*.cpp)
+set(globs "")
+foreach(part src tests bench)
+  list(APPEND globs ${PROJECT_DIR}/${part}/*.h ${PROJECT_DIR}/${part}/*.cpp)
+endforeach()
+file(GLOB_RECURSE files RELATIVE ${PROJECT_DIR} ${globs})
 if(NOT files)
-  message(FATAL_ERROR "no sources in ${SOURCE_DIR}")
+  message(FATAL_ERROR "no sources in ${PROJECT_DIR}")
 endif()
 
 foreach(file IN LISTS files)
-  string(REGEX MATCH "^[^/]+" own "${file}")
-  if(NOT DEFINED level_of_${own})
+  string(REGEX MATCH "^([^/]+)/([^/]+)" folder "${file}")
+  set(part ${CMAKE_MATCH_1})
+  set(own ${CMAKE_MATCH_2})
+  if(part STREQUAL src AND NOT DEFINED level_of_${own})
     fault("the folder ${own} has no place among the floors")
     continue()
   endif()
 
-  file(STRINGS ${SOURCE_DIR}/${file} includes REGEX "^[ \t]*#[ \t]*include")
+  file(STRINGS ${PROJECT_DIR}/${file} includes REGEX "^[ \t]*#[ \t]*include")
   foreach(include IN LISTS includes)
     string(REGEX REPLACE ".*include[ \t]*[<\"]([^>\"]+)[>\"].*" "\\1" header "${include}")
-    if(header MATCHES "^(Q[A-Z]|Qt[A-Z0-9]|q[a-z0-9_]+\\.h$)" AND NOT own IN_LIST toolkit_folders)
+    if(header MATCHES "^(Q[A-Z]|Qt[A-Z0-9]|q[a-z0-9_]+\\.h$)" AND NOT folder IN_LIST toolkit_folders)
       fault("includes the toolkit header ${header}")
-    elseif(include MATCHES "include[ \t]*\"")
+    elseif(part STREQUAL src AND include MATCHES "include[ \t]*\"")
       string(REGEX MATCH "^[^/]+" other "${header}")
       if(NOT DEFINED level_of_${other})
         fault("\"${header}\" doesn't begin with a folder of src")

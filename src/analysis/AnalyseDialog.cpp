@@ -4,7 +4,6 @@
 #include "analysis/AnalyseProject.h"
 #include "platform/Platform.h"
 #include "project/Session.h"
-#include "results/CostTable.h"
 #include "results/PlotState.h"
 #include "screens/Analyse.h"
 #include "screens/Lcc.h"
@@ -27,6 +26,7 @@ public:
     ~Running()
     {
         System().SetPointer(PointerShape::Default);
+        if (!frmAnalyse.IsLoaded()) return;
         frmAnalyse.sscAnalyse.Caption = "&Continue";
         frmAnalyse.sscAnalyse.Enabled = true;
     }
@@ -36,8 +36,7 @@ public:
 
 void ShowResults()
 {
-    FillCapitalCostTable();
-    FillCombos();
+    RefreshResults();
     frmAnalyse.Visible = false;
     frmResults.Visible = true;
     frmAnalyse.Unload();
@@ -69,9 +68,13 @@ void AnalysePressed()
 {
     if (Analysed == 1) return ShowResults();
 
-    const Running Dialog;
-    PlotYear = 1;
-    AnalyseProject();
+    {
+        const Running Dialog;
+        PlotYear = 1;
+        AnalyseProject();
+    }
+    // A disabled button gives the focus away, and Enter must not press Cancel now.
+    if (frmAnalyse.IsLoaded()) System().SetFocus(frmAnalyse.sscAnalyse);
 }
 
 void AnalyseCancelled()

@@ -107,6 +107,12 @@ void RunAnalysis()
 
 } // namespace
 
+void RefreshResults()
+{
+    Show(FillCapitalCostTable);
+    Show(FillCombos);
+}
+
 void AnalyseProject()
 {
     Analysed = 0;

@@ -8,4 +8,7 @@ namespace velorix {
 // computed stays.
 void AnalyseProject();
 
+// Fills the cost tables and the chainage lists of the results screen once more, as it opens.
+void RefreshResults();
+
 } // namespace velorix

@@ -6,17 +6,16 @@
 #include "base/Failure.h"
 #include "base/Format.h"
 #include "batch/AnalysisOutput.h"
+#include "batch/TextFile.h"
 #include "batch/Worker.h"
 #include "cost/PresentValue.h"
 #include "cost/RateOfReturn.h"
 #include "platform/ScriptedPlatform.h"
-#include "project/File.h"
 #include "project/InputScreen.h"
 #include "project/Session.h"
 #include "project/WorkingSet.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <iostream>
 #include <nlohmann/json.hpp>
@@ -27,14 +26,6 @@ namespace velorix {
 namespace {
 
 using Json = nlohmann::json;
-
-Date TodayByTheClock()
-{
-    const std::chrono::year_month_day Today{
-        std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now())};
-    return {static_cast<int>(Today.year()), static_cast<int>(static_cast<unsigned>(Today.month())),
-            static_cast<int>(static_cast<unsigned>(Today.day()))};
-}
 
 // The row of the table of headline figures.
 Json HeadlinesOf(const std::vector<Message>& Shown)
@@ -53,7 +44,6 @@ Json HeadlinesOf(const std::vector<Message>& Shown)
 std::string AnalyseOne(const std::filesystem::path& File, bool WantsCsv)
 {
     ScriptedPlatform Windows;
-    Windows.TodaysDate = TodayByTheClock();
     InstallPlatform(&Windows);
     StartSession();
     FileName = File.string();
@@ -74,12 +64,6 @@ void ShowProgress(int Done, int Count)
     std::fprintf(stderr, "\r[%-*s] %d of %d%s", Width, Bar.c_str(), Done, Count, Done == Count ? "\n" : "");
 }
 
-void WriteText(const std::filesystem::path& Path, const std::string& Text)
-{
-    File Target = File::CreateNew(Path);
-    Target.Write(0, Text.data(), Text.size());
-}
-
 // Two files of one name in different folders would write the same tables.
 void RequireDistinctNames(const std::vector<std::filesystem::path>& Files)
 {
@@ -90,10 +74,18 @@ void RequireDistinctNames(const std::vector<std::filesystem::path>& Files)
                               "\", so their tables would overwrite each other");
 }
 
-void PrintTable(const std::vector<std::filesystem::path>& Files, const std::vector<Json>& Reports)
+// Characters of a UTF-8 text: the bytes that don't continue one.
+std::size_t CharactersOf(const std::string& Text)
 {
-    std::vector<std::vector<std::string>> Rows = {
-        {"File", "System", "Life", "NPV of cost", "NPV of income", "IRR"}};
+    return static_cast<std::size_t>(
+        std::count_if(Text.begin(), Text.end(), [](char Byte) { return (Byte & 0xC0) != 0x80; }));
+}
+
+using TableRows = std::vector<std::vector<std::string>>;
+
+TableRows RowsOf(const std::vector<std::filesystem::path>& Files, const std::vector<Json>& Reports)
+{
+    TableRows Rows = {{"File", "System", "Life", "NPV of cost", "NPV of income", "IRR"}};
     for (std::size_t Index = 0; Index < Files.size(); ++Index) {
         const Json& Report = Reports[Index];
         if (Report.is_null()) {
@@ -106,31 +98,41 @@ void PrintTable(const std::vector<std::filesystem::path>& Files, const std::vect
                         Stood ? Figures["cost"] : Json(""), Stood ? Figures["income"] : Json(""),
                         Stood ? Figures["irr"] : Json("did not stand")});
     }
+    return Rows;
+}
+
+std::string TableText(const std::vector<std::filesystem::path>& Files, const std::vector<Json>& Reports)
+{
+    const TableRows Rows = RowsOf(Files, Reports);
     std::vector<std::size_t> Widths(Rows.front().size());
     for (const auto& Row : Rows)
         for (std::size_t Col = 0; Col < Row.size(); ++Col)
-            Widths[Col] = std::max(Widths[Col], Row[Col].size());
+            Widths[Col] = std::max(Widths[Col], CharactersOf(Row[Col]));
 
+    std::string Table;
     for (std::size_t Index = 0; Index < Rows.size(); ++Index) {
         for (std::size_t Col = 0; Col < Widths.size(); ++Col) {
+            const std::string& Cell = Rows[Index][Col];
+            const std::string Blanks(Widths[Col] - CharactersOf(Cell), ' ');
             const bool Words = Col < 2; // the first columns hold words, the others figures
-            std::printf(Words ? "%-*s" : "%*s", static_cast<int>(Widths[Col]), Rows[Index][Col].c_str());
-            std::printf(Col + 1 < Widths.size() ? "   " : "\n");
+            Table += (Words ? Cell + Blanks : Blanks + Cell) + (Col + 1 < Widths.size() ? "   " : "\n");
         }
         if (Index == 0 || Reports[Index - 1].is_null()) continue;
         for (const auto& Text : Reports[Index - 1]["headlines"]["messages"])
-            std::printf("    %s\n", Text.get<std::string>().c_str());
+            Table += "    " + Text.get<std::string>() + "\n";
     }
+    return Table;
 }
 
 void WriteJson(const AnalyseOptions& Options, const std::vector<Json>& Reports)
 {
-    // A file that could not be read keeps its place, as null.
+    // A file that could not be read keeps its place among several, as null.
     const auto TextOf = [](const Json& Report) {
         return Report.is_null() ? std::string("null") : Report["json"].get<std::string>();
     };
     std::string Text;
     if (Reports.size() == 1) {
+        if (Reports.front().is_null()) return;
         Text = TextOf(Reports.front());
     } else {
         for (const Json& Each : Reports) Text += (Text.empty() ? "[" : ",\n") + TextOf(Each);
@@ -138,14 +140,18 @@ void WriteJson(const AnalyseOptions& Options, const std::vector<Json>& Reports)
     }
     Text += "\n";
     if (Options.JsonTarget == "-")
-        std::cout << Text << std::flush;
+        WriteOut(Text);
     else
         WriteText(Options.JsonTarget, Text);
 }
 
 void WriteCsv(const AnalyseOptions& Options, const std::vector<Json>& Reports)
 {
-    std::filesystem::create_directories(Options.CsvFolder);
+    std::error_code Problem;
+    std::filesystem::create_directories(Options.CsvFolder, Problem);
+    if (Problem)
+        throw FileFailure("Can't make the folder \"" + Options.CsvFolder.string() +
+                          "\": " + Problem.message());
     for (std::size_t Index = 0; Index < Reports.size(); ++Index) {
         if (Reports[Index].is_null()) continue;
         for (const auto& Each : Reports[Index]["csv"]) {
@@ -153,6 +159,13 @@ void WriteCsv(const AnalyseOptions& Options, const std::vector<Json>& Reports)
             WriteText(Options.CsvFolder / (Options.Files[Index].stem().string() + Ending), Each[1]);
         }
     }
+}
+
+// A failure of the file itself names it already.
+std::string ReasonFor(const std::filesystem::path& File, const std::string& Error)
+{
+    const bool Named = Error.find(File.string()) != std::string::npos;
+    return Named ? Error : File.string() + ": " + Error;
 }
 
 } // namespace
@@ -175,7 +188,7 @@ int AnalyseFiles(const AnalyseOptions& Options)
     std::vector<Json> Reports;
     for (std::size_t Index = 0; Index < Outcomes.size(); ++Index) {
         if (!Outcomes[Index].Error.empty()) {
-            std::cerr << Options.Files[Index].string() << ": " << Outcomes[Index].Error << "\n";
+            std::cerr << "velorix-batch: " << ReasonFor(Options.Files[Index], Outcomes[Index].Error) << "\n";
             Status = UsageOrFileError;
             Reports.emplace_back(nullptr);
             continue;
@@ -188,7 +201,7 @@ int AnalyseFiles(const AnalyseOptions& Options)
     if (!Options.JsonTarget.empty())
         WriteJson(Options, Reports);
     else
-        PrintTable(Options.Files, Reports);
+        WriteOut(TableText(Options.Files, Reports));
     return Status;
 }
 

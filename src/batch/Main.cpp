@@ -1,10 +1,13 @@
 // velorix-batch: analyses project files, and turns them into JSON and back, without a screen.
 #include "batch/AnalyseCommand.h"
 #include "batch/ProjectCommands.h"
+#include "batch/TextFile.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <exception>
 #include <iostream>
+#include <sstream>
 #include <thread>
 
 using namespace velorix;
@@ -50,7 +53,10 @@ int Run(int ArgumentCount, char** Arguments)
     try {
         Program.parse(ArgumentCount, Arguments);
     } catch (const CLI::ParseError& Problem) {
-        return Program.exit(Problem) == 0 ? AllStood : UsageOrFileError;
+        std::ostringstream Help;
+        const int Status = Program.exit(Problem, Help, std::cerr);
+        WriteOut(Help.str());
+        return Status == 0 ? AllStood : UsageOrFileError;
     }
     if (*Analyse) return AnalyseFiles(Asked);
     if (*Export) ExportProject(ProjectFile);

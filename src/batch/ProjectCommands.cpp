@@ -3,40 +3,40 @@
 
 #include "base/Failure.h"
 #include "batch/ProjectJson.h"
+#include "batch/TextFile.h"
 #include "platform/ScriptedPlatform.h"
-#include "project/File.h"
 #include "project/ProjectFile.h"
 
-#include <iostream>
+#include <ctime>
 
 namespace velorix {
 namespace {
 
 // More than any description of a project can need.
-constexpr std::uintmax_t LargestJson = 16U << 20U;
+constexpr std::size_t LargestJson = 16U << 20U;
 
-std::string ReadText(const std::filesystem::path& Path)
+// The date by the machine's clock, in local time.
+Date TodayByTheClock()
 {
-    const File Source = File::OpenToRead(Path);
-    if (Source.Length() > LargestJson)
-        throw FileFailure("Can't read \"" + Path.string() + "\": it is too large");
-    std::string Text(static_cast<std::size_t>(Source.Length()), '\0');
-    Text.resize(Source.Read(0, Text.data(), Text.size()));
-    return Text;
+    const std::time_t Now = std::time(nullptr);
+    std::tm Parts{};
+    ::localtime_r(&Now, &Parts);
+    return {Parts.tm_year + 1900, Parts.tm_mon + 1, Parts.tm_mday};
 }
 
 } // namespace
 
 void ExportProject(const std::filesystem::path& ProjectFile)
 {
-    std::cout << ProjectToJson(ReadProjectFile(ProjectFile)) << std::flush;
+    WriteOut(ProjectToJson(ReadProjectFile(ProjectFile)));
 }
 
 void ImportProject(const std::filesystem::path& JsonFile, const std::filesystem::path& ProjectFile)
 {
     ScriptedPlatform Windows;
+    Windows.TodaysDate = TodayByTheClock();
     InstallPlatform(&Windows);
-    const std::string Text = ReadText(JsonFile);
+    const std::string Text = ReadText(JsonFile, LargestJson);
     try {
         const ProjectFields Record = ProjectFromJson(Text);
         WriteProjectFile(ProjectFile, Record, ShortFile::TakesRecordOne);

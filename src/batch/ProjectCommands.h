@@ -5,7 +5,8 @@
 
 namespace velorix {
 
-// Prints the project as JSON on standard output. Throws FileFailure when the file can't be read.
+// Prints the project as JSON on standard output. Throws FileFailure when the file can't be read or
+// the output can't be written.
 void ExportProject(const std::filesystem::path& ProjectFile);
 
 // Writes the project that the JSON file describes. Throws Failure, naming the file, the key and the reason,

@@ -9,19 +9,48 @@
 #include "project/WorkingSet.h"
 
 #include <algorithm>
-#include <cmath>
+#include <array>
+#include <functional>
 #include <limits>
 #include <map>
 #include <nlohmann/json.hpp>
+#include <set>
+#include <string_view>
 
 namespace velorix {
 namespace {
 
-// Numbers are read as 32-bit floats from their text, so that they round once.
+// Numbers are read as 32-bit floats from their text, so that they round once. The library reads them by the
+// process locale, which the batch leaves at the start's, with a point.
 using Json = nlohmann::basic_json<nlohmann::ordered_map, std::vector, std::string, bool, std::int64_t,
                                   std::uint64_t, float>;
 
+// A list is told by its size.
+constexpr int ProfileRows = decltype(ProjectFields::Elevation)::Count;
+constexpr int DemandYears = decltype(ProjectFields::Demand)::Count;
+constexpr int LayingEntries = decltype(ProjectFields::Laying)::Count; // the last is always 0
+constexpr int PumpCurveValues = decltype(ProjectFields::PumpCurve)::Count;
 constexpr int PumpValues = 3; // of one point of the pump curve: head, flow rate, efficiency
+
+constexpr auto ProfileKeys =
+    std::to_array<const char*>({"NodeNr", "Elevation", "AccLength", "Diameter", "PipeCost", "SecondaryLoss",
+                                "NodeDesc", "WallThickness"});
+
+constexpr int ListsOf(int Size)
+{
+    int Found = 0;
+#define VELORIX_NUMBERS(Name, Offset, Count) Found += (Count) == Size;
+#define VELORIX_TEXT(Name, Offset, Width)
+    VELORIX_RECORD_FIELDS(VELORIX_NUMBERS, VELORIX_NUMBERS, VELORIX_TEXT)
+#undef VELORIX_NUMBERS
+#undef VELORIX_TEXT
+    return Found;
+}
+static_assert(ListsOf(ProfileRows) == ProfileKeys.size());
+static_assert(ListsOf(DemandYears) == 1 && ListsOf(LayingEntries) == 1 && ListsOf(PumpCurveValues) == 1);
+
+// Lists of points within the one object are the deepest that a project needs.
+constexpr int DeepestNesting = 3;
 
 // --- to JSON ---
 
@@ -59,7 +88,7 @@ std::string ListText(const Array1<T, Count>& Values, int Used)
     return JsonList(Entries);
 }
 
-std::string PumpCurveText(const Array1<Single, 18>& Curve)
+std::string PumpCurveText(const Array1<Single, PumpCurveValues>& Curve)
 {
     std::vector<std::string> Points;
     for (int First = 1; First <= Curve.LastIndex; First += PumpValues)
@@ -83,11 +112,11 @@ std::string FieldText(const ProjectFields&, const FixedText<Width>& Value)
 template <typename T, int Count>
 std::string FieldText(const ProjectFields& Record, const Array1<T, Count>& Values)
 {
-    if constexpr (Count == 18)
+    if constexpr (Count == PumpCurveValues)
         return PumpCurveText(Values);
-    else if constexpr (Count == 500)
+    else if constexpr (Count == ProfileRows)
         return ListText(Values, UsedRows(Record));
-    else if constexpr (Count == 100)
+    else if constexpr (Count == DemandYears)
         return ListText(Values, UsedYears(Record));
     else
         return ListText(Values, Count);
@@ -95,71 +124,98 @@ std::string FieldText(const ProjectFields& Record, const Array1<T, Count>& Value
 
 // --- from JSON ---
 
+constexpr std::size_t LongestShown = 40; // bytes of a file's own text in a message
+
+std::string Shortened(const std::string& Text, std::size_t Longest = LongestShown)
+{
+    if (Text.size() <= Longest) return Text;
+    std::size_t End = Longest;
+    while (End > 0 && (Text[End] & 0xC0) == 0x80) --End; // not within a character
+    return Text.substr(0, End) + "...";
+}
+
 [[noreturn]] void Refuse(const std::string& Key, const std::string& Reason)
 {
-    throw Failure(Key + ": " + Reason);
+    throw Failure(Shortened(Key) + ": " + Reason);
 }
 
-struct Range {
-    int Least = std::numeric_limits<std::int16_t>::min();
-    int Most = std::numeric_limits<std::int16_t>::max();
+// The value as a message may show it, however long it is.
+std::string Shown(const Json& Value)
+{
+    if (Value.is_array()) return "a list";
+    return Value.is_object() ? "an object" : Shortened(Value.dump());
+}
+
+struct FieldRange {
+    std::string_view Key;
+    int Least;
+    int Most;
 };
 
-Range RangeOf(const std::string& Key)
+constexpr auto Ranges = std::to_array<FieldRange>({
+    {"SystemType", 0, 1},      {"Units", 0, 1},
+    {"Currency", 0, 1},        {"FlowrateUnits", 0, 12},
+    {"VaryingDemand", 0, 1},   {"Life", 2, 100},
+    {"BaseYear", 1950, 2500},  {"SupplyStart", 1950, 2500},
+    {"DemandUnits", 0, 12},    {"TRWLUnits", 0, 3},
+    {"BRWLUnits", 0, 3},       {"NodeNr", 1, 500},
+    {"NodeDesc", 0, 20},       {"WallThicknessUnits", 0, 3},
+    {"LiningType", 0, 1},      {"LiningThicknessUnits", 0, 3},
+    {"KsNewUnits", 0, 3},      {"KsOldUnits", 0, 3},
+    {"DiameterUnits", 0, 3},   {"ElevationUnits", 0, 3},
+    {"LengthUnits", 0, 3},     {"MMechanical", 0, 1000},
+    {"MElectrical", 0, 1000},  {"MPipeline", 0, 2000},
+    {"WaterSalesUnits", 0, 3}, {"HeadUnits", 0, 1},
+    {"FlowUnits", 0, 3},       {"PumpDetails", 0, 1},
+    {"Summer", 0, 12},         {"SummerHour", 0, 2},
+    {"WinterHour", 0, 2},      {"PumpOperatingFlowrateUnits", 0, 9},
+    {"PumpingHours", 1, 24},
+});
+
+// What the field may hold; without a range of its own, what its 16 bits may.
+FieldRange RangeOf(const std::string& Key)
 {
-    static const std::map<std::string, Range> Ranges = {
-        {"SystemType", {0, 1}},      {"Units", {0, 1}},
-        {"Currency", {0, 1}},        {"FlowrateUnits", {0, 12}},
-        {"VaryingDemand", {0, 1}},   {"Life", {2, 100}},
-        {"BaseYear", {1950, 2500}},  {"SupplyStart", {1950, 2500}},
-        {"DemandUnits", {0, 12}},    {"TRWLUnits", {0, 3}},
-        {"BRWLUnits", {0, 3}},       {"NodeNr", {1, 500}},
-        {"NodeDesc", {0, 20}},       {"WallThicknessUnits", {0, 3}},
-        {"LiningType", {0, 1}},      {"LiningThicknessUnits", {0, 3}},
-        {"KsNewUnits", {0, 3}},      {"KsOldUnits", {0, 3}},
-        {"DiameterUnits", {0, 3}},   {"ElevationUnits", {0, 3}},
-        {"LengthUnits", {0, 3}},     {"MMechanical", {0, 1000}},
-        {"MElectrical", {0, 1000}},  {"MPipeline", {0, 2000}},
-        {"WaterSalesUnits", {0, 3}}, {"HeadUnits", {0, 1}},
-        {"FlowUnits", {0, 3}},       {"PumpDetails", {0, 1}},
-        {"Summer", {0, 12}},         {"SummerHour", {0, 2}},
-        {"WinterHour", {0, 2}},      {"PumpOperatingFlowrateUnits", {0, 9}},
-        {"PumpingHours", {1, 24}},
-    };
-    const auto Found = Ranges.find(Key);
-    return Found == Ranges.end() ? Range() : Found->second;
+    const auto* const Found =
+        std::find_if(Ranges.begin(), Ranges.end(), [&](const FieldRange& Each) { return Each.Key == Key; });
+    if (Found != Ranges.end()) return *Found;
+    return {Key, std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::int16_t>::max()};
 }
+
+// The texts that stand for the numbers that JSON has no words for.
+constexpr auto NotFiniteWords = std::to_array<std::pair<std::string_view, float>>(
+    {{"NaN", std::numeric_limits<float>::quiet_NaN()},
+     {"Infinity", std::numeric_limits<float>::infinity()},
+     {"-Infinity", -std::numeric_limits<float>::infinity()}});
 
 void TakeValue(const std::string& Key, const Json& Value, std::int16_t& Target)
 {
-    if (!Value.is_number_integer()) Refuse(Key, "a whole number is expected, not " + Value.dump());
-    const Range Allowed = RangeOf(Key);
+    if (!Value.is_number_integer()) Refuse(Key, "a whole number is expected, not " + Shown(Value));
+    const FieldRange Allowed = RangeOf(Key);
     const std::int64_t Number = Value.get<std::int64_t>();
     if (Number < Allowed.Least || Number > Allowed.Most)
-        Refuse(Key, Value.dump() + " is outside " + std::to_string(Allowed.Least) + " to " +
+        Refuse(Key, Shown(Value) + " is outside " + std::to_string(Allowed.Least) + " to " +
                         std::to_string(Allowed.Most));
     Target = static_cast<std::int16_t>(Number);
 }
 
 void TakeValue(const std::string& Key, const Json& Value, Single& Target)
 {
-    static const std::map<std::string, float> Words = {
-        {"NaN", std::numeric_limits<float>::quiet_NaN()},
-        {"Infinity", std::numeric_limits<float>::infinity()},
-        {"-Infinity", -std::numeric_limits<float>::infinity()}};
     if (Value.is_number()) {
         Target = Value.get<double>();
         return;
     }
-    const auto Word = Value.is_string() ? Words.find(Value.get<std::string>()) : Words.end();
-    if (Word == Words.end()) Refuse(Key, "a number is expected, not " + Value.dump());
-    Target = Word->second;
+    for (const auto& [Word, Number] : NotFiniteWords)
+        if (Value.is_string() && Value.get_ref<const std::string&>() == Word) {
+            Target = Number;
+            return;
+        }
+    Refuse(Key, "a number is expected, not " + Shown(Value));
 }
 
 template <int Width>
 void TakeValue(const std::string& Key, const Json& Value, FixedText<Width>& Target)
 {
-    if (!Value.is_string()) Refuse(Key, "a text is expected, not " + Value.dump());
+    if (!Value.is_string()) Refuse(Key, "a text is expected, not " + Shown(Value));
     const std::string Text = Value.get<std::string>();
     const std::string Bytes = ToCodePage(Text);
     if (FromCodePage(Bytes) != Text) Refuse(Key, "the text has characters that a project file can't hold");
@@ -167,10 +223,15 @@ void TakeValue(const std::string& Key, const Json& Value, FixedText<Width>& Targ
     SetText(Target, Text);
 }
 
+void RequireList(const std::string& Key, const Json& Value)
+{
+    if (!Value.is_array()) Refuse(Key, "a list is expected, not " + Shown(Value));
+}
+
 template <typename T, int Count>
 void TakeList(const std::string& Key, const Json& Values, Array1<T, Count>& Target)
 {
-    if (!Values.is_array()) Refuse(Key, "a list is expected, not " + Values.dump());
+    RequireList(Key, Values);
     if (Values.size() > Count) Refuse(Key, "the list is longer than " + std::to_string(Count) + " entries");
     int Index = 0;
     for (const Json& Each : Values) {
@@ -179,14 +240,14 @@ void TakeList(const std::string& Key, const Json& Values, Array1<T, Count>& Targ
     }
 }
 
-void TakePumpCurve(const std::string& Key, const Json& Points, Array1<Single, 18>& Target)
+void TakePumpCurve(const std::string& Key, const Json& Points, Array1<Single, PumpCurveValues>& Target)
 {
-    if (!Points.is_array()) Refuse(Key, "a list is expected, not " + Points.dump());
+    RequireList(Key, Points);
     if (Points.size() > Target.Count / PumpValues) Refuse(Key, "the list is longer than 6 points");
     int Index = 0;
     for (const Json& Point : Points) {
         if (!Point.is_array() || Point.size() != PumpValues)
-            Refuse(Key, "a list of head, flow rate and efficiency is expected, not " + Point.dump());
+            Refuse(Key, "a point is a list of three: head, flow rate and efficiency");
         for (const Json& Each : Point) TakeValue(Key, Each, Target[++Index]);
     }
 }
@@ -194,10 +255,13 @@ void TakePumpCurve(const std::string& Key, const Json& Points, Array1<Single, 18
 template <typename T, int Count>
 void TakeValue(const std::string& Key, const Json& Values, Array1<T, Count>& Target)
 {
-    if constexpr (Count == 18)
+    if constexpr (Count == PumpCurveValues) {
         TakePumpCurve(Key, Values, Target);
-    else
+    } else {
         TakeList(Key, Values, Target);
+        if constexpr (Count == LayingEntries)
+            if (Target[Count] != 0.0) Refuse(Key, "entry " + std::to_string(Count) + " must be 0");
+    }
 }
 
 // Every field by its name, bound to the record that is being built.
@@ -211,25 +275,56 @@ std::map<std::string, std::function<void(const Json&)>> FieldTakers(ProjectField
     return Takers;
 }
 
+// Elevation and AccLength count the rows; where one is absent it has the two of a new project.
 void RequireEvenProfile(const Json& Project)
 {
-    const auto LengthOf = [&](const char* Key) { return Project.contains(Key) ? Project[Key].size() : 0; };
-    const std::size_t Rows = LengthOf("Elevation");
-    if (LengthOf("AccLength") != Rows)
+    constexpr std::size_t LeastRows = 2;
+    for (const char* Key : ProfileKeys)
+        if (Project.contains(Key)) RequireList(Key, Project[Key]);
+
+    const auto RowsOf = [&](const char* Key) {
+        return Project.contains(Key) ? Project[Key].size() : LeastRows;
+    };
+    const std::size_t Rows = RowsOf("Elevation");
+    if (Rows < LeastRows) Refuse("Elevation", "a profile needs 2 rows or more");
+    if (RowsOf("AccLength") != Rows)
         Refuse("AccLength", "the list must have as many entries as Elevation, " + std::to_string(Rows));
-    for (const char* Key : {"NodeNr", "Diameter", "PipeCost", "SecondaryLoss", "NodeDesc", "WallThickness"})
-        if (LengthOf(Key) > Rows)
+    for (const char* Key : ProfileKeys)
+        if (Project.contains(Key) && Project[Key].size() > Rows)
             Refuse(Key, "the list is longer than that of Elevation, " + std::to_string(Rows) + " entries");
 }
 
+// Refuses, while the text is read, what the object that comes of it would hide or be too deep to handle.
+class Watch {
+public:
+    bool operator()(int Depth, Json::parse_event_t Event, const Json& Value)
+    {
+        const bool Starts =
+            Event == Json::parse_event_t::array_start || Event == Json::parse_event_t::object_start;
+        if (Starts && Depth >= DeepestNesting) throw Failure("lists are nested deeper than any field's");
+        if (Event == Json::parse_event_t::key && Depth == 1) {
+            const auto Key = Value.get<std::string>();
+            if (!Keys.insert(Key).second) Refuse(Key, "the field is given twice");
+        }
+        return true;
+    }
+
+private:
+    std::set<std::string> Keys;
+};
+
 Json Parse(const std::string& Text)
 {
+    constexpr std::size_t LongestReason = 200; // the library quotes what it read last
     try {
-        Json Project = Json::parse(Text);
+        Watch Seen;
+        Json Project = Json::parse(Text, [&](int Depth, Json::parse_event_t Event, const Json& Value) {
+            return Seen(Depth, Event, Value);
+        });
         if (!Project.is_object()) throw Failure("the file must hold one JSON object");
         return Project;
     } catch (const Json::exception& Problem) {
-        throw Failure(std::string("the JSON can't be read: ") + Problem.what());
+        throw Failure("the JSON can't be read: " + Shortened(Problem.what(), LongestReason));
     }
 }
 

@@ -40,6 +40,7 @@ public:
     Property() = default;
     explicit Property(T Initial)
         : Current(std::move(Initial))
+        , Design(Current)
     {
     }
     Property(const Property&) = delete;

@@ -115,9 +115,11 @@ void SaveTo(const std::filesystem::path& Path)
         frmLCC.Visible = true;
         ShowDoing("Opening project");
         LoadProject();
-    } catch (const Failure& Problem) {
+    } catch (const FileFailure& Problem) {
         FileName = FileBefore;
         frmLCC.lblFileName.Caption = CaptionBefore;
+        Saved = 0;
+        SaveAs = 0; // so that the next Save in place writes
         ReportFailure(Problem.what());
     }
 }
@@ -141,6 +143,7 @@ std::filesystem::path ProjectsFolder()
 
 void NewProjectCommand()
 {
+    SaveAs = 0;
     StopWelcome();
     frmLCC.Visible = false;
     if (ProjectOpen == 1) {
@@ -193,7 +196,7 @@ void OpenProjectFile(const std::filesystem::path& Path)
     try {
         FileName = Path.string();
         LoadProject();
-    } catch (const Failure& Problem) {
+    } catch (const FileFailure& Problem) {
         FileName = FileBefore;
         ReportFailure(Problem.what());
     }

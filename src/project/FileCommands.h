@@ -24,9 +24,10 @@ void OpenProjectFile(const std::filesystem::path& Path);
 // user is told why and the project stays open, unsaved.
 void SaveCommand();
 
-// Commits the project, asks for a file and saves the project there. SaveAs stays 1 when the commit fails,
-// when the user cancels and when the file can't be written: a save in place then commits without writing,
-// until the project is saved as a file, or a new one is begun or opened.
+// Commits the project, asks for a file and saves the project there. SaveAs stays 1 when the commit fails
+// and when the user cancels: a save in place then commits without writing, until the project is saved as a
+// file, or a new one is begun or opened. A file that can't be written ends that, and the project counts as
+// unsaved.
 void SaveAsCommand();
 void SaveProjectAs();
 

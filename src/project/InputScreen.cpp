@@ -30,10 +30,11 @@ void ShowInBar(ScrollBar& Bar, std::int16_t& Value)
 
 void HideOptionFrames()
 {
-    for (Frame* Each : {&frmLCC.fraGravityOption, &frmLCC.fraGravityFlowrate, &frmLCC.fraGravityReservoirs,
-                        &frmLCC.fraVaryingDemand, &frmLCC.fraPumpOption, &frmLCC.FraPumpingOption,
-                        &frmLCC.fraPumpingFlowrate, &frmLCC.fraPumpReservoir, &frmLCC.FraPumpFixedDemand,
-                        &frmLCC.fraPumpVaryingDemand, &frmLCC.fraPumpcurve, &frmLCC.fraPumpDetails})
+    for (Frame* Each :
+         {&frmLCC.fraGravityOption, &frmLCC.fraGravityFlowrate, &frmLCC.fraGravityReservoirs,
+          &frmLCC.fraVaryingDemand, &frmLCC.fraPumpOption, &frmLCC.FraPumpingOption,
+          &frmLCC.fraPumpingFlowrate, &frmLCC.fraPumpReservoir, &frmLCC.FraPumpFixedDemand,
+          &frmLCC.fraPumpVaryingDemand, &frmLCC.fraPumpcurve, &frmLCC.fraPumpDetails, &frmLCC.fraLaying})
         Each->Visible = false;
 }
 
@@ -42,8 +43,8 @@ void ShowKindOfSystem()
     MDIProject.lblSystem.Caption = IsPumping() ? "Pumping system" : "Gravity system";
     std::vector<bool> Pages = frmLCC.sstInput.TabVisible;
     Pages[EnergyPage] = IsPumping();
+    if (!IsPumping() && frmLCC.sstInput.Tab == EnergyPage) frmLCC.sstInput.Tab = 0; // while the page is there
     frmLCC.sstInput.TabVisible = Pages;
-    if (!IsPumping() && frmLCC.sstInput.Tab == EnergyPage) frmLCC.sstInput.Tab = 0;
     frmLCC.txtEnergyEscalation.Visible = IsPumping();
     frmLCC.lblEnergyEscalation.Visible = IsPumping();
     frmLCC.lblEnergyEscalationUnit.Visible = IsPumping();

@@ -21,6 +21,7 @@ std::int16_t Committing = 0;
 std::int16_t ViewState = 1;
 std::string FileName;
 bool RedrawProfileView = false;
+Handler ProjectLoaded;
 
 namespace {
 
@@ -61,6 +62,7 @@ void LoadProject()
     RedrawProfileView = true;
     HideProgress();
     frmLCC.Visible = true;
+    ProjectLoaded();
 }
 
 void MarkChanged()

@@ -1,6 +1,8 @@
 // The session: which project is open and what has become of it.
 #pragma once
 
+#include "platform/Controls.h"
+
 #include <cstdint>
 #include <string>
 
@@ -15,6 +17,8 @@ extern std::int16_t Committing;  // 1 during a commit, and after one whose check
 extern std::int16_t ViewState; // what comes back after a dialog: 1 input screen, 2 the results screen was up
 extern std::string FileName;   // full path of the project file, as the dialog gave it
 extern bool RedrawProfileView; // the profile view doesn't show the present profile
+
+extern Handler ProjectLoaded; // raised at the end of every load step, for what follows the screen's grids
 
 // Writes the starting values into ProjectRecord and runs the load step. What it doesn't name (Units,
 // Currency, WallThickness, SecondaryLoss, Laying, energy rates, hour patterns) stays as the last project left

@@ -23,6 +23,7 @@ void HideScreens()
 
 void RestoreScreens()
 {
+    if (ProjectOpen != 1) return; // a deleted project stays away
     frmLCC.Visible = true;
     if (ViewState == 1)
         frmResults.Visible = false;

@@ -1,6 +1,7 @@
-// The dialog that shows pump and system curve of a year in which they don't cross.
+// The dialog of a year in which pump and system curve don't cross.
 #pragma once
 
+#include "platform/Controls.h"
 #include "platform/Screen.h"
 
 namespace velorix {
@@ -11,6 +12,11 @@ struct DutyPointScreen : Screen {
     {
         DesignEnds();
     }
+
+    Label lblAdvice{
+        "Choose a pump curve that reaches the head of the system curve between its first and its sixth "
+        "point, or a pipeline with less head loss."};
+    CommandButton sscOK{"&OK", "Click to return"};
 };
 
 inline DutyPointScreen frmDutyPoint;

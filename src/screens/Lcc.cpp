@@ -76,6 +76,11 @@ LccScreen::LccScreen()
     SetGrid(msgOtherOperational, {2500, 1900});
     msgLaying.MergeEqualCells = true;
 
+    constexpr int LongestCell = 40;
+    for (TextBox* Each :
+         {&txtCell, &txtLaying, &txtDemand, &txtPumpDemand, &txtCellOperational, &txtCellOtherOperational})
+        Each->MaxLength = LongestCell;
+
     GroupOptions({&optGSpecifiedFlowrate, &optGCalculatedFlowrate});
     GroupOptions({&optPumpFixed, &optPumpVarying});
     GroupOptions({&optFlowrate, &optPumpDetails});

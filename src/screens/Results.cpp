@@ -8,6 +8,7 @@ ResultsScreen::ResultsScreen()
 {
     fraDuty.Visible = false;
     sscDutypoint.Visible = false;
+    sscDutypoint.Enabled = false; // until there is a plot of the duty points to show
     msgCost.ColWidth = {3100, 1850};
     msgCost.DataRowHeight = msgCost.HeaderHeight = 350;
     msgAnnualCost.ColWidth = {2850, 1150, 1450};

@@ -199,7 +199,9 @@ void KeyPressInEditor(const CellEditing& Editing, int& Key)
     case Keys::Up:
     case Keys::Right:
     case Keys::Down: Write(Table, Editor.Text); break;
-    default: Write(Table, Editor.Text.Get() + Character(Key));
+    default:
+        if (Editor.MaxLength == 0 || Length(Editor.Text) < Editor.MaxLength)
+            Write(Table, Editor.Text.Get() + Character(Key));
     }
 }
 
@@ -317,9 +319,8 @@ void Settle(const CellEditing& Editing)
     if (OnDataCell(Editing.Table)) TakeCurrentCell(Editing);
 }
 
-void InputScreenShownOrHidden()
+void SettleAll()
 {
-    if (!frmLCC.Visible) return;
     for (const CellEditing& Each : InputGrids) Settle(Each);
 }
 
@@ -353,7 +354,10 @@ void ConnectGridEditor(const CellEditing& Editing)
 void ConnectGridEditors()
 {
     for (const CellEditing& Each : InputGrids) ConnectGridEditor(Each);
-    frmLCC.Visible.Changed = InputScreenShownOrHidden;
+    ProjectLoaded = SettleAll;
+    frmLCC.Visible.Changed = [] {
+        if (frmLCC.Visible) SettleAll();
+    };
 }
 
 void SettleGridEditor(const Grid& Table)

@@ -13,6 +13,7 @@
 #include "shell/DeleteRow.h"
 #include "shell/GridEditor.h"
 #include "shell/Help.h"
+#include "shell/Hints.h"
 #include "shell/KeyFilters.h"
 
 namespace velorix {
@@ -21,17 +22,6 @@ namespace {
 void ShowHint(const Control& Source)
 {
     MDIProject.StatusText.Caption = Source.ToolTip;
-}
-
-// The hint of an input shows when it gets the focus, that of a button when the pointer comes over it.
-void ConnectHints()
-{
-    for (Control* Each : frmLCC.Controls) {
-        if (Each->ToolTip.empty()) continue;
-        Each->GotFocus = [Each] { ShowHint(*Each); };
-        if (dynamic_cast<CommandButton*>(Each) || dynamic_cast<OptionButton*>(Each))
-            Each->MouseMove = [Each] { ShowHint(*Each); };
-    }
 }
 
 // What is typed and chosen stays on the screen until the commit reads it.
@@ -119,7 +109,7 @@ void ConnectBar(ScrollBar& Bar, Label& Reading, std::int16_t& Stored, std::strin
 
 void RefillDemand()
 {
-    KeepTypedDemand(frmLCC.msgDemand);
+    if (!IsPumping()) KeepTypedDemand(frmLCC.msgDemand); // else it shows another project's demand
     FillDemandGrid(frmLCC.msgDemand);
     SettleGridEditor(frmLCC.msgDemand);
 }
@@ -210,7 +200,7 @@ void ConnectHelp()
 
 void ConnectInputScreen()
 {
-    ConnectHints();
+    ConnectHints(frmLCC);
     ConnectEdits();
     frmLCC.comDiameterUnits.Change = DiameterUnitsChosen;
     frmLCC.comPumpVaryingDemandUnits.Change = PumpDemandUnitsChosen;

@@ -15,6 +15,7 @@
 #include "screens/Results.h"
 #include "screens/Viewers.h"
 #include "shell/Help.h"
+#include "shell/Hints.h"
 #include "shell/Shell.h"
 
 namespace velorix {
@@ -33,25 +34,11 @@ bool RequireProject(const std::string& Otherwise)
     return false;
 }
 
-// A dialog that its frame closed must not leave the window empty.
-void BringInputBackIfNothingStands()
-{
-    if (ProjectOpen == 1 && !frmLCC.Visible && !frmResults.Visible) frmLCC.Visible = true;
-}
-
 void RefreshCurrency()
 {
     MDIProject.tmrCurrency.Enabled = false;
     ShowCurrencySigns();
     FillCostHeadings();
-}
-
-// The hint of a control stands in the status bar while the pointer is over it.
-void ShowHints()
-{
-    for (Control* Each : MDIProject.Controls)
-        if (!Each->ToolTip.empty())
-            Each->MouseMove = [Each] { MDIProject.StatusText.Caption = Each->ToolTip; };
 }
 
 void ConnectMenus()
@@ -103,7 +90,7 @@ void ConnectMainWindow()
     MDIProject.tmrWelcome.Tick = WelcomeTick;
     MDIProject.tmrCurrency.Tick = RefreshCurrency;
     MDIProject.sspProject.MouseMove = [] { MDIProject.StatusText.Caption = ""; };
-    ShowHints();
+    ConnectHints(MDIProject);
     DisableWhatIsMissing();
 }
 
@@ -127,7 +114,6 @@ void AnalyseCommand()
     LeaveProjectScreens();
     if (!RequireProject("First open an existing project or start a new project")) return;
     System().ShowModal(frmAnalyse);
-    BringInputBackIfNothingStands();
 }
 
 void InputDataCommand()
@@ -140,7 +126,7 @@ void ResultsCommand()
 {
     if (Analysed != 1) {
         Warn("Project has not been analysed.");
-        frmLCC.Visible = true;
+        if (ProjectOpen == 1) frmLCC.Visible = true;
         return;
     }
     frmLCC.Visible = false;

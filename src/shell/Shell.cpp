@@ -10,10 +10,12 @@
 #include "results/PlotState.h"
 #include "screens/Analyse.h"
 #include "screens/Dialogs.h"
+#include "screens/DutyPointScreen.h"
 #include "screens/MainWindow.h"
 #include "screens/Results.h"
 #include "shell/GridEditor.h"
 #include "shell/Help.h"
+#include "shell/Hints.h"
 #include "shell/InputEvents.h"
 #include "shell/MainCommands.h"
 #include "shell/Notices.h"
@@ -49,6 +51,7 @@ void YearOfPlotChosen()
 
 void ConnectResults()
 {
+    frmDutyPoint.sscOK.Click = [] { frmDutyPoint.Unload(); };
     frmResults.hsbAnnual.Change = ShowAnnualCost;
     frmResults.hscYears.Change = YearOfPlotChosen;
 }
@@ -73,6 +76,9 @@ void ConnectScreens()
     ConnectKindOfSystem();
     ConnectAnalyseDialog();
     ConnectResults();
+    for (Screen* Each : std::initializer_list<Screen*>{&frmAbout, &frmAgree, &frmAnalyse, &frmDeleteRow,
+                                                       &frmDisclaimer, &frmLCCType, &frmPref, &frmResults})
+        ConnectHints(*Each);
 }
 
 bool StartProgram()

@@ -6,7 +6,7 @@
 namespace velorix {
 
 // Screens that stand beside the shell and announce themselves here: what the command does once its guards
-// have been passed. A command without one is disabled.
+// have been passed. A command without one when the screens are connected is disabled.
 extern Handler ShowPrintScreen;
 extern Handler ShowImportWizard;
 extern Handler ShowConverter;

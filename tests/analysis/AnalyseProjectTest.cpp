@@ -1,5 +1,6 @@
 // The course of an analysis: its steps, its ends, and what is left after each.
 #include "AnalysisTest.h"
+#include "base/NumberText.h"
 #include "cost/CapitalCost.h"
 #include "cost/PresentValue.h"
 #include "cost/RateOfReturn.h"
@@ -46,7 +47,7 @@ TEST_F(AnalyseProjectTest, HeadlinesShowTheFigures)
     const auto Amount = [](int Row) {
         std::string Digits = frmResults.msgCost.Text(Row, 1);
         std::erase(Digits, ',');
-        return std::stod(Digits);
+        return ParseDouble(Digits);
     };
     EXPECT_EQ(frmResults.msgCost.Text(5, 0), "Preliminary & General (10%)");
     EXPECT_NEAR(Amount(4) + Amount(5), Amount(6), 1.0);

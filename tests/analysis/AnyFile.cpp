@@ -46,6 +46,7 @@ void AnalyseAnyFile(const std::string& Bytes)
     Require(Analysed == 1 || !Windows.Messages.empty(), "an analysis that doesn't stand says why");
     Require(Analysed == 0 || Windows.Messages.size() <= 2,
             "an analysis that stands has at most two things to say");
+    InstallPlatform(nullptr); // it ends here
 }
 
 } // namespace velorix

@@ -10,15 +10,6 @@ namespace {
 
 using ProgramTest = AnalysisTest;
 
-TEST_F(ProgramTest, StartsWithANewGravityProject)
-{
-    EXPECT_EQ(ProjectOpen, 1);
-    EXPECT_EQ(wSystemType, 0);
-    EXPECT_EQ(frmLCC.lblFileName.Caption.Get(), NewProjectCaption);
-    EXPECT_EQ(NodeCount, 2);
-    EXPECT_TRUE(frmLCC.Visible);
-}
-
 // Whatever ran before, a reset program answers as a new one does.
 TEST_F(ProgramTest, ResetLeavesNothingBehind)
 {

@@ -57,6 +57,11 @@ TEST(FormatTest, OptionalAndFixedDigits)
     EXPECT_EQ(Format(42, "#0.00"), "42.00");
     EXPECT_EQ(Format(2.5, "#0.0##"), "2.5");
     EXPECT_EQ(Format(2.12345, "#0.0##"), "2.123");
+    EXPECT_EQ(Format(Single(0.000126), "#0.00000"), "0.00013");
+    EXPECT_EQ(Format(-1234.56, "###0.0"), "-1234.6");
+    EXPECT_EQ(Format(0.04, "###0.0"), "0.0");
+    EXPECT_EQ(Format(12.5, "#"), "13");
+    EXPECT_EQ(Format(0.0, "#"), "");
 }
 
 TEST(FormatTest, GroupsOfThousands)

@@ -22,8 +22,8 @@ protected:
     // Runs the program in the test's folder with the words of a shell line.
     Run Batch(const std::string& Words) const
     {
-        const std::string In = "cd '" + Folder.string() + "' && ";
-        const int Status = std::system((In + VELORIX_BATCH " " + Words + " >out.txt 2>err.txt").c_str());
+        const std::string In = "cd '" + Folder.string() + "' && { ";
+        const int Status = std::system((In + VELORIX_BATCH " " + Words + "; } >out.txt 2>err.txt").c_str());
         return {WIFEXITED(Status) ? WEXITSTATUS(Status) : -1, ReadFile(Folder / "out.txt"),
                 ReadFile(Folder / "err.txt")};
     }

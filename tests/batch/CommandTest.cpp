@@ -1,6 +1,7 @@
 // The program velorix-batch as its users run it: words in, files, texts and exit statuses out.
 #include "BatchTest.h"
 
+#include <chrono>
 #include <gmock/gmock.h>
 #include <iterator>
 #include <set>
@@ -94,6 +95,15 @@ TEST_F(CommandTest, TableShowsFiguresReasonsAndMessages)
     EXPECT_THAT(Table.Output, testing::ContainsRegex("too-high.vlx +pumping +30 +did not stand"));
     EXPECT_THAT(Table.Output, HasSubstr(NoDutyPoint));
     EXPECT_THAT(Table.Output, testing::ContainsRegex("missing.vlx +not read"));
+    EXPECT_EQ(Table.Errors, "velorix-batch: Can't read \"missing.vlx\": No such file or directory\n");
+}
+
+TEST_F(CommandTest, ColumnsAlignByCharacters)
+{
+    WriteTooHigh("höhe.vlx");
+    WriteTooHigh("hoch.vlx");
+    const std::string Table = Batch("analyse höhe.vlx hoch.vlx").Output;
+    EXPECT_THAT(Table, AllOf(HasSubstr("\nhöhe.vlx   pumping"), HasSubstr("\nhoch.vlx   pumping")));
 }
 
 TEST_F(CommandTest, JsonOfOneFileHoldsEveryResult)
@@ -132,8 +142,20 @@ TEST_F(CommandTest, JsonOfOneFileHoldsEveryResult)
         }
     Keys.insert("messages");
     for (const auto& Member : Results.items())
-        EXPECT_EQ(Keys.count(Member.key()), 1U) << Member.key() << " isn't agreed";
+        EXPECT_EQ(Keys.count(Member.key()), 1U) << Member.key() << " is no key of the results";
     EXPECT_EQ(Results.size(), Keys.size());
+}
+
+TEST_F(CommandTest, OutputThatCannotBeWrittenIsAnError)
+{
+    WriteVillage("village.vlx");
+    for (const char* Words :
+         {"analyse village.vlx >/dev/full", "analyse village.vlx --json - >/dev/full",
+          "analyse village.vlx --json /dev/full", "export village.vlx >/dev/full", "--version >/dev/full"}) {
+        const Run Full = Batch(Words);
+        EXPECT_EQ(Full.Status, 1) << Words;
+        EXPECT_THAT(Full.Errors, HasSubstr("No space left on device")) << Words;
+    }
 }
 
 TEST_F(CommandTest, MessagesOfAnAnalysisAreInItsJson)
@@ -168,6 +190,11 @@ TEST_F(CommandTest, JsonGoesToItsFileAndNothingToStandardOutput)
     WriteFile("results.json", std::string(1'000'000, 'x'));
     EXPECT_EQ(Batch("analyse village.vlx --json results.json").Output, "");
     EXPECT_EQ(json::parse(ReadFile(Folder / "results.json")), ResultsOf("village.vlx --json -"));
+
+    EXPECT_EQ(Batch("analyse village.vlx --json /dev/null").Status, 0);
+    EXPECT_EQ(Batch("analyse missing.vlx --json kept.json").Status, 1);
+    EXPECT_EQ(Batch("analyse missing.vlx --json -").Output, "");
+    EXPECT_FALSE(std::filesystem::exists(Folder / "kept.json"));
 }
 
 TEST_F(CommandTest, CsvTablesHoldTheSameNumbersByCalendarYear)
@@ -216,11 +243,32 @@ TEST_F(CommandTest, ExportAndImportGiveTheFileBack)
     WriteFile("ridge.json", Batch("export ridge.vlx").Output);
     EXPECT_EQ(Batch("import ridge.json copy.vlx").Status, 0);
     EXPECT_EQ(ReadFile(Folder / "copy.vlx"), ReadFile(Folder / "ridge.vlx"));
+    EXPECT_EQ(Batch("export ridge.vlx | " VELORIX_BATCH " import /dev/stdin piped.vlx").Status, 0);
+    EXPECT_EQ(ReadFile(Folder / "piped.vlx"), ReadFile(Folder / "ridge.vlx"));
 
     const Run Missing = Batch("export missing.vlx");
     EXPECT_EQ(Missing.Status, 1);
     EXPECT_EQ(Missing.Output, "");
     EXPECT_THAT(Missing.Errors, AllOf(HasSubstr("missing.vlx"), HasSubstr("No such file")));
+}
+
+// Two time zones in which it is never the same day.
+TEST_F(CommandTest, AnAbsentDateIsTodayHere)
+{
+    using namespace std::chrono;
+    const auto DayAt = [](hours East) {
+        const year_month_day Day(floor<days>(system_clock::now() + East));
+        return ShortDate({int(Day.year()), int(unsigned(Day.month())), int(unsigned(Day.day()))});
+    };
+    WriteFile("empty.json", "{}");
+    for (const auto& [Zone, East] : {std::pair("EAST-14", 14h), std::pair("WEST+12", -12h)}) {
+        const std::string Before = DayAt(East);
+        ::setenv("TZ", Zone, 1);
+        Batch("import empty.json today.vlx");
+        ::unsetenv("TZ");
+        EXPECT_THAT(json::parse(Batch("export today.vlx").Output)["Date"],
+                    testing::AnyOf(Before, DayAt(East))); // either side of a midnight
+    }
 }
 
 TEST_F(CommandTest, ARefusedImportWritesNothing)

@@ -7,28 +7,6 @@
 namespace velorix {
 namespace {
 
-TEST(JsonTextTest, NumbersAreTheShortestThatReadBack)
-{
-    const std::pair<double, const char*> Cases[] = {{0.1, "0.1"},
-                                                    {0.016, "0.016"},
-                                                    {16777216.0, "16777216"},
-                                                    {0.3048, "0.3048"},
-                                                    {1e15, "1E+15"},
-                                                    {2.5e-7, "2.5E-07"},
-                                                    {1e-45, "1E-45"},
-                                                    {3.4028234663852886e38, "3.4028235E+38"}};
-    for (const auto& [Value, Text] : Cases) {
-        EXPECT_EQ(JsonNumber(Value), Text);
-        EXPECT_EQ(JsonNumber(-Value), "-" + std::string(Text));
-    }
-}
-
-TEST(JsonTextTest, ZeroKeepsItsSign)
-{
-    EXPECT_EQ(JsonNumber(0.0), "0");
-    EXPECT_EQ(JsonNumber(-0.0), "-0.0");
-}
-
 TEST(JsonTextTest, NotFiniteIsNullUnlessNothingMayBeLost)
 {
     constexpr float Infinity = std::numeric_limits<float>::infinity();

@@ -29,6 +29,7 @@ public:
         Record.Life = static_cast<std::int16_t>(Between(2, 100));
         Record.BaseYear = static_cast<std::int16_t>(Between(1950, 2500));
         Record.SupplyStart = static_cast<std::int16_t>(Between(1950, 2500));
+        Record.Laying[14] = 0.0;
         Record.PumpingHours = static_cast<std::int16_t>(Between(1, 24));
         ClearRowsPast(Between(2, 500), Record);
         return Record;
@@ -157,7 +158,7 @@ TEST_F(ProjectJsonTest, RefusesWithKeyAndReason)
         {R"({"Flowrate": "many"})", {"Flowrate", "number", "many"}},
         {R"({"Project": 3})", {"Project", "text", "3"}},
         {R"({"Laying": 3})", {"Laying", "list", "3"}},
-        {R"({"PumpCurve": [[80, 0]]})", {"PumpCurve", "head, flow rate and efficiency", "[80,0]"}},
+        {R"({"PumpCurve": [[80, 0]]})", {"PumpCurve", "head, flow rate and efficiency"}},
         {R"({"PumpCurve": [[1,1,1],[1,1,1],[1,1,1],[1,1,1],[1,1,1],[1,1,1],[1,1,1]]})", {"PumpCurve", "6"}},
         {R"({"Life": 1})", {"Life", "outside 2 to 100"}},
         {R"({"Life": 101})", {"Life", "outside 2 to 100"}},
@@ -173,9 +174,43 @@ TEST_F(ProjectJsonTest, RefusesWithKeyAndReason)
         {R"({"Life": 30,})", {"can't be read", "line 1"}},
         {"", {"can't be read"}},
         {"[1, 2]", {"one JSON object"}},
+        {R"({"Life": 20, "Life": 30})", {"Life", "twice"}},
+        {R"({"Laying": [0,0,0,0,0,0,0,0,0,0,0,0,0,0.5]})", {"Laying", "entry 14"}},
+        {R"({"Elevation": 3, "AccLength": [0, 1]})", {"Elevation", "a list is expected, not 3"}},
+        {R"({"Diameter": {"1": 2}})", {"Diameter", "a list is expected, not an object"}},
+        {R"({"Elevation": [1], "AccLength": [0]})", {"Elevation", "2 rows or more"}},
+        {R"({"Elevation": [], "AccLength": []})", {"Elevation", "2 rows or more"}},
+        {R"({"AccLength": [0, 1, 2]})", {"AccLength", "Elevation, 2"}},
+        {R"({"Diameter": [1, 1, 1]})", {"Diameter", "longer", "2"}},
     };
     for (const auto& [Text, Parts] : Cases)
         for (const char* Part : Parts) EXPECT_THAT(ReasonAgainst(Text), HasSubstr(Part)) << Text;
+}
+
+TEST_F(ProjectJsonTest, NothingThatIsHugeIsPrintedOrFollowed)
+{
+    const std::string Deep(3'000'000, '['), Long(1'000'000, 'x');
+    const std::pair<std::string, const char*> Cases[] = {
+        {R"({"Life": )" + Deep + std::string(Deep.size(), ']') + "}", "nested deeper"},
+        {R"({"Life": )" + Deep, "nested deeper"},
+        {R"({"Life": ")" + Long + "\"}", "Life: a whole number is expected, not \"xxx"},
+        {R"({")" + Long + R"(": 1})", "no such field"},
+        {R"({"Life": ")" + Long, "can't be read"},
+    };
+    for (const auto& [Text, Part] : Cases) {
+        const std::string Reason = ReasonAgainst(Text);
+        EXPECT_THAT(Reason, HasSubstr(Part));
+        EXPECT_LT(Reason.size(), 300U);
+    }
+}
+
+TEST_F(ProjectJsonTest, ForeignValuesAreToldButNotTakenBack)
+{
+    ProjectFields Record = ProjectFromJson("{}");
+    Record.FlowrateUnits = 13;
+    const std::string Text = ProjectToJson(Record);
+    EXPECT_EQ(json::parse(Text)["FlowrateUnits"], 13);
+    EXPECT_THAT(ReasonAgainst(Text), HasSubstr("FlowrateUnits: 13 is outside 0 to 12"));
 }
 
 // A text of the field's full width in characters is longer in UTF-8, and still fits.
@@ -184,6 +219,8 @@ TEST_F(ProjectJsonTest, LimitsThemselvesAreTaken)
     std::string Name;
     for (int Count = 0; Count < 80; ++Count) Name += "é";
     EXPECT_EQ(ReasonAgainst(json{{"Project", Name}, {"Life", 100}, {"BaseYear", 1950}}.dump()), "nothing");
+    EXPECT_EQ(ReasonAgainst(R"({"Laying": [1,2,3,4,5,6,7,8,9,10,11,12,13,0], "Diameter": [400, 400]})"),
+              "nothing");
     EXPECT_EQ(double(ProjectFromJson(R"({"KsNew": 18000000000000000000})").KsNew), double(Single(1.8e19)));
 }
 

@@ -4,6 +4,7 @@
 #include <csignal>
 #include <gmock/gmock.h>
 #include <stdexcept>
+#include <sys/resource.h>
 #include <unistd.h>
 
 namespace velorix {
@@ -19,21 +20,23 @@ TEST(WorkerTest, FailuresStayWithTheirOwnWork)
         if (Index == 2) std::raise(SIGKILL);
         if (Index == 3) ::_exit(0);
         if (Index == 4) throw Index;
+        if (Index == 5) ::_exit(7);
         return "stood";
     };
     for (const int Jobs : {1, 4}) {
         std::vector<int> Progress;
-        const auto Outcomes = RunWorkers(6, Jobs, Work, [&](int Done) { Progress.push_back(Done); });
-        EXPECT_THAT(Progress, ElementsAre(1, 2, 3, 4, 5, 6));
-        for (const int Index : {0, 5}) {
+        const auto Outcomes = RunWorkers(7, Jobs, Work, [&](int Done) { Progress.push_back(Done); });
+        EXPECT_THAT(Progress, ElementsAre(1, 2, 3, 4, 5, 6, 7));
+        for (const int Index : {0, 6}) {
             EXPECT_EQ(Outcomes[Index].Output, "stood");
             EXPECT_EQ(Outcomes[Index].Error, "");
         }
-        for (const int Index : {1, 2, 3, 4}) EXPECT_EQ(Outcomes[Index].Output, "");
+        for (const int Index : {1, 2, 3, 4, 5}) EXPECT_EQ(Outcomes[Index].Output, "");
         EXPECT_EQ(Outcomes[1].Error, "no such pump");
         EXPECT_THAT(Outcomes[2].Error, HasSubstr("signal 9"));
         EXPECT_THAT(Outcomes[3].Error, HasSubstr("without a result"));
         EXPECT_THAT(Outcomes[4].Error, HasSubstr("unknown failure"));
+        EXPECT_THAT(Outcomes[5].Error, HasSubstr("status 7"));
     }
 }
 
@@ -50,13 +53,19 @@ TEST(WorkerTest, LargeOutputsComeWholeAndInOrder)
     EXPECT_TRUE(Outcomes[1].Output == std::string(Large, 'b'));
 }
 
-TEST(WorkerTest, WorkCannotTouchItsParentOrTheNext)
+// Each waiting worker takes a handle of this process; four are to be had at a time.
+TEST(WorkerTest, FewHandlesOnlyMakeItSlower)
 {
-    int Counter = 0;
-    const auto Outcomes = RunWorkers(
-        3, 1, [&](int) { return std::to_string(++Counter); }, [](int) {});
-    for (const WorkerOutcome& Each : Outcomes) EXPECT_EQ(Each.Output, "1");
-    EXPECT_EQ(Counter, 0);
+    rlimit Usual{};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &Usual), 0);
+    const int FirstFree = ::dup(STDIN_FILENO);
+    ::close(FirstFree);
+    const rlimit Few{static_cast<rlim_t>(FirstFree) + 4, Usual.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &Few), 0);
+    const auto Work = [](int Index) { return std::to_string(Index); };
+    const auto Outcomes = RunWorkers(20, 20, Work, [](int) {});
+    ::setrlimit(RLIMIT_NOFILE, &Usual);
+    for (int Index = 0; Index < 20; ++Index) EXPECT_EQ(Outcomes[Index].Output, std::to_string(Index));
 }
 
 } // namespace

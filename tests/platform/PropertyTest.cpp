@@ -65,6 +65,9 @@ TEST_F(PropertyTest, AnEventMaySetItsOwnField)
 TEST_F(PropertyTest, TheDesignComesBackWithoutAnEvent)
 {
     Field = 2;
+    Field.BackToDesign(); // nothing is noted: the first value
+    EXPECT_EQ(Field.Get(), 1);
+    Field = 2;
     Field.NoteDesign();
     Field = 3;
     Heard.clear();

@@ -177,7 +177,8 @@ TEST_F(FileCommandsTest, FailingSaveAsKeepsTheOldName)
     EXPECT_THAT(LastMessage(), testing::HasSubstr("No such file or directory"));
     EXPECT_EQ(FileName, "");
     EXPECT_EQ(frmLCC.lblFileName.Caption.Get(), NewProjectCaption); // so the next save asks again
-    EXPECT_EQ(SaveAs, 1);
+    EXPECT_EQ(SaveAs, 0);                                           // the next save in place writes
+    EXPECT_EQ(Saved, 0);
     EXPECT_EQ(frmLCC.txtProject.Text.Get(), "x");
     EXPECT_TRUE(frmLCC.Visible);
     ExpectNoProgress();

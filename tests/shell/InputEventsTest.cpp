@@ -79,11 +79,8 @@ TEST_F(InputEventsTest, BarsShowAndStoreTheirValue)
     EXPECT_EQ(frmLCC.lblMMechanical.Caption.Get(), "0.05%");
 }
 
-// The pumping table follows the life at the next load only.
-TEST_F(InputEventsTest, TheGravityDemandTableFollowsTheLifeAndTheSupplyStart)
+TEST_F(InputEventsTest, TheDemandTableFollowsTheLifeAndKeepsWhatIsTyped)
 {
-    Start(1);
-    const int PumpRows = frmLCC.msgPumpDemand.Rows();
     frmLCC.hscLife.Value = 10;
     frmLCC.msgDemand.SetText(2, 1, "3.5"); // typed, and not committed yet
     wDemand[12] = 4.5;
@@ -92,6 +89,16 @@ TEST_F(InputEventsTest, TheGravityDemandTableFollowsTheLifeAndTheSupplyStart)
     EXPECT_EQ(frmLCC.msgDemand.Rows(), 16);
     EXPECT_EQ(frmLCC.msgDemand.Text(2, 1), "3.5");
     EXPECT_EQ(frmLCC.msgDemand.Text(12, 1), "4.5");
+}
+
+// The pumping table follows the life at the next load only, and the gravity table is another project's.
+TEST_F(InputEventsTest, TheLifeOfAPumpingProjectLeavesItsDemand)
+{
+    Start(1);
+    const int PumpRows = frmLCC.msgPumpDemand.Rows();
+    wDemand[2] = 3.5;
+    frmLCC.hscLife.Value = 15;
+    EXPECT_EQ(wDemand[2], 3.5);
     EXPECT_EQ(frmLCC.msgPumpDemand.Rows(), PumpRows);
 }
 

@@ -95,15 +95,14 @@ TEST_F(MainCommandsTest, DialogOverTheResultsRefreshesTheCurrency)
     EXPECT_FALSE(MDIProject.tmrCurrency.Enabled);
 }
 
-TEST_F(MainCommandsTest, AnalyseRunsFromTheMenuToTheResults)
+TEST_F(MainCommandsTest, ClosingTheAnalysisByItsFrameIsACancel)
 {
-    frmLCC.msgProfile.SetText(1, 1, "50");
     Windows.ModalScripts["frmAnalyse"] = [] {
         Fire(frmAnalyse.tmrStopMatrix);
         frmAnalyse.CloseByFrame();
     };
     MDIProject.mnuAnalyse.Click();
-    EXPECT_TRUE(frmLCC.Visible); // closing by the frame is a cancel
+    EXPECT_TRUE(frmLCC.Visible);
     EXPECT_FALSE(frmAnalyse.IsLoaded());
 }
 

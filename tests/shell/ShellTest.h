@@ -7,6 +7,7 @@
 #include "project/WorkingSet.h"
 #include "screens/Analyse.h"
 #include "screens/Dialogs.h"
+#include "screens/DutyPointScreen.h"
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
 #include "screens/Results.h"

@@ -1,0 +1,125 @@
+// Views of controls in general: visibility, focus, pointer.
+#include "desktop/Binding.h"
+
+#include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QEvent>
+#include <QLabel>
+#include <QMouseEvent>
+
+#include <unordered_map>
+
+namespace velorix {
+namespace {
+
+std::unordered_map<const Control*, QPointer<QWidget>> FocusTargets;
+
+constexpr const char* OfRecord = "ofRecord"; // marks a widget that a record shows and hides
+
+// A caption that is no record of its own comes and goes with the field it belongs to.
+void ShowBuddies(QWidget* View)
+{
+    for (QLabel* Each : View->window()->findChildren<QLabel*>()) {
+        const QWidget* const Field = Each->buddy();
+        if (!Field || Each->property(OfRecord).toBool()) continue;
+        if (Field == View || View->isAncestorOf(Field)) Each->setVisible(!View->isHidden());
+    }
+}
+
+void ShowView(QWidget* View, bool Visible)
+{
+    // A view that has no place yet would come up as a window of its own.
+    if (Visible && !View->parentWidget()) return;
+    View->setVisible(Visible);
+    ShowBuddies(View);
+}
+
+// Raises the events of focus and pointer.
+class ViewEvents : public QObject {
+public:
+    ViewEvents(Control& Watched, QWidget* View)
+        : QObject(View)
+        , Record(Watched)
+    {
+    }
+
+    bool eventFilter(QObject* Watched, QEvent* Event) override
+    {
+        if (Event->type() == QEvent::FocusIn) Guarded([this] { Record.GotFocus(); });
+        if (Event->type() != QEvent::MouseMove || !Record.MouseMove) return false;
+        Guarded([this] { Record.MouseMove(); });
+        // Nobody wants to know of a bare move, and what lies below must not believe that the pointer is on
+        // it.
+        const bool Bare = static_cast<QMouseEvent*>(Event)->buttons() == Qt::NoButton;
+        return Bare && !Watched->parent()->inherits("QAbstractScrollArea");
+    }
+
+private:
+    Control& Record;
+};
+
+class StrayWheel : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* Watched, QEvent* Event) override
+    {
+        if (Event->type() != QEvent::Wheel || static_cast<QWidget*>(Watched)->hasFocus()) return false;
+        Event->ignore();
+        return true;
+    }
+};
+
+} // namespace
+
+void Attach(Control& Record, QWidget* View, QWidget* Target)
+{
+    if (!Target) Target = View;
+    FocusTargets[&Record] = Target;
+    for (QWidget* Each : {View, Target}) {
+        Each->setToolTip(QString::fromStdString(Record.ToolTip));
+        Each->setAccessibleName(Each->toolTip());
+        Each->setMouseTracking(true);
+        Each->setProperty(OfRecord, true);
+    }
+
+    auto* const Events = new ViewEvents(Record, View);
+    View->installEventFilter(Events);
+    if (Target != View) Target->installEventFilter(Events);
+    if (auto* const Area = qobject_cast<QAbstractScrollArea*>(View)) {
+        Area->viewport()->setMouseTracking(true);
+        Area->viewport()->installEventFilter(Events);
+    }
+
+    Follow(Record.Visible, View, [View](bool Visible) { ShowView(View, Visible); });
+    Follow(Record.Enabled, View, [View](bool Enabled) { View->setEnabled(Enabled); });
+
+    // The layout ties the captions once the view is made.
+    QMetaObject::invokeMethod(
+        View,
+        [View] {
+            if (View->isHidden() && View->parentWidget()) ShowBuddies(View);
+        },
+        Qt::QueuedConnection);
+}
+
+QWidget* FocusTarget(const Control& Record)
+{
+    const auto Found = FocusTargets.find(&Record);
+    return Found == FocusTargets.end() ? nullptr : Found->second.data();
+}
+
+void IgnoreStrayWheel(QWidget* View)
+{
+    View->setFocusPolicy(Qt::StrongFocus); // not by the wheel
+    View->installEventFilter(new StrayWheel(View));
+}
+
+void FinishTyping()
+{
+    if (auto* const Field = qobject_cast<QAbstractSpinBox*>(QApplication::focusWidget()))
+        Field->interpretText();
+}
+
+} // namespace velorix

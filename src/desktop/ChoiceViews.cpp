@@ -1,0 +1,133 @@
+// Views of what is chosen or pressed: lists, options, buttons, menu entries, tabs.
+#include "desktop/Binding.h"
+#include "desktop/Icons.h"
+#include "desktop/Views.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QToolButton>
+
+namespace velorix {
+namespace {
+
+void Click(const Handler& Clicked)
+{
+    FinishTyping();
+    Guarded([&] { Clicked(); });
+}
+
+void SetEntries(QComboBox& View, const std::vector<std::string>& Entries)
+{
+    View.clear();
+    for (const std::string& Each : Entries) View.addItem(QString::fromStdString(Each).trimmed());
+}
+
+// Qt's group keeps one of its options checked; the record may have none.
+void ForceChecked(QRadioButton& View, bool Checked)
+{
+    View.setAutoExclusive(false);
+    View.setChecked(Checked);
+    View.setAutoExclusive(true);
+    if (!Checked || !View.parentWidget()) return;
+    // The Tab key goes to the option that is set, the arrows from there to the others.
+    for (auto* Each : View.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly))
+        Each->setFocusPolicy(Each == &View ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+// The caption says what a button does; the tool tip only says more.
+void NameByCaption(QWidget& View)
+{
+    View.setAccessibleName(QString());
+    View.setAccessibleDescription(View.toolTip());
+}
+
+} // namespace
+
+QComboBox* View(ComboBox& Record)
+{
+    auto* const View = new QComboBox;
+    IgnoreStrayWheel(View);
+    Follow(Record.List, View, [&Record, View](const std::vector<std::string>& Entries) {
+        SetEntries(*View, Entries);
+        View->setCurrentIndex(Record.ListIndex);
+    });
+    Follow(Record.ListIndex, View, [View](int Index) { View->setCurrentIndex(Index); });
+    QObject::connect(View, &QComboBox::currentIndexChanged, View,
+                     [&Record, View](int Index) { Enter(Record.ListIndex, Index, View); });
+    Attach(Record, View);
+    return View;
+}
+
+QRadioButton* View(OptionButton& Record)
+{
+    auto* const View = new QRadioButton;
+    Follow(Record.Caption, View,
+           [View](const std::string& Text) { View->setText(QString::fromStdString(Text)); });
+    Follow(Record.Value, View, [View](bool Value) { ForceChecked(*View, Value); });
+    QObject::connect(View, &QRadioButton::clicked, View,
+                     [&Record, View] { Enter(Record.Value, true, View); });
+    Attach(Record, View);
+    NameByCaption(*View);
+    return View;
+}
+
+QPushButton* View(CommandButton& Record)
+{
+    auto* const View = new QPushButton;
+    Follow(Record.Caption, View,
+           [View](const std::string& Text) { View->setText(QString::fromStdString(Text)); });
+    QObject::connect(View, &QPushButton::clicked, View, [&Record] { Click(Record.Click); });
+    Attach(Record, View);
+    if (!Record.Caption.Get().empty()) NameByCaption(*View);
+    return View;
+}
+
+QToolButton* ToolView(CommandButton& Record, const QString& IconName)
+{
+    auto* const View = new QToolButton;
+    View->setIcon(DrawnIcon(IconName));
+    View->setAutoRaise(true);
+    QObject::connect(View, &QToolButton::clicked, View, [&Record] { Click(Record.Click); });
+    Attach(Record, View);
+    return View;
+}
+
+QTabWidget* View(TabControl& Record, const std::vector<QWidget*>& Pages)
+{
+    auto* const View = new QTabWidget;
+    for (std::size_t Page = 0; Page < Pages.size(); ++Page)
+        View->addTab(Pages[Page], QString::fromStdString(Record.TabCaptions.at(Page)));
+    Follow(Record.Tab, View, [View](int Tab) { View->setCurrentIndex(Tab); });
+    Follow(Record.TabVisible, View, [&Record, View](const std::vector<bool>& Shown) {
+        for (int Tab = 0; Tab < View->count(); ++Tab) {
+            const bool Wanted = Shown.at(static_cast<std::size_t>(Tab));
+            // A call that changes nothing would make the bar forget that an earlier one has.
+            if (View->isTabVisible(Tab) != Wanted) View->setTabVisible(Tab, Wanted);
+        }
+        Record.Tab.Assign(View->currentIndex(), View); // a page that goes gives way to its neighbour
+    });
+    QObject::connect(View, &QTabWidget::currentChanged, View,
+                     [&Record, View](int Tab) { Enter(Record.Tab, Tab, View); });
+    Attach(Record, View);
+    View->setToolTip(QString());
+    return View;
+}
+
+QAction* View(MenuItem& Record)
+{
+    auto* const View = new QAction(qApp);
+    View->setMenuRole(QAction::NoRole);
+    View->setToolTip(QString::fromStdString(Record.ToolTip));
+    Follow(Record.Caption, View,
+           [View](const std::string& Text) { View->setText(QString::fromStdString(Text)); });
+    Follow(Record.Visible, View, [View](bool Visible) { View->setVisible(Visible); });
+    Follow(Record.Enabled, View, [View](bool Enabled) { View->setEnabled(Enabled); });
+    QObject::connect(View, &QAction::triggered, View, [&Record] { Click(Record.Click); });
+    QObject::connect(View, &QAction::hovered, View, [&Record] { Guarded([&] { Record.MouseMove(); }); });
+    return View;
+}
+
+} // namespace velorix

@@ -1,0 +1,268 @@
+// How rows, pages and turning boxes are laid out.
+#include "desktop/FormRows.h"
+
+#include "desktop/ScrollBarView.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QStyle>
+
+#include <algorithm>
+
+namespace velorix {
+namespace {
+
+// Columns of the rows.
+constexpr int CaptionColumn = 0;
+constexpr int SignColumn = 1;
+constexpr int FieldColumn = 2;
+constexpr int UnitColumn = 3;
+constexpr int RestColumn = 4;
+
+constexpr int RowGap = 5;
+
+void SetCardMargins(QLayout* Layout)
+{
+    Layout->setContentsMargins(CardMargin, CardMargin / 2, CardMargin, CardMargin);
+}
+
+// Draws a label's text shortened in the middle, in place of the label's own painting.
+class Shortener : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* Watched, QEvent* Event) override
+    {
+        if (Event->type() != QEvent::Paint) return false;
+        auto* const Shown = static_cast<QLabel*>(Watched);
+        const QRect Room = Shown->contentsRect();
+        QPainter Painter(Shown);
+        Shown->style()->drawItemText(
+            &Painter, Room, static_cast<int>(Shown->alignment()), Shown->palette(), Shown->isEnabled(),
+            Shown->fontMetrics().elidedText(Shown->text(), Qt::ElideMiddle, Room.width()),
+            Shown->foregroundRole());
+        return true;
+    }
+};
+
+class ShowWatcher : public QObject {
+public:
+    ShowWatcher(QWidget* Watched, std::function<void(bool)> Teller)
+        : QObject(Watched)
+        , Tell(std::move(Teller))
+    {
+        Watched->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* Event) override
+    {
+        if (Event->type() == QEvent::ShowToParent) Tell(true);
+        if (Event->type() == QEvent::HideToParent) Tell(false);
+        return false;
+    }
+
+private:
+    const std::function<void(bool)> Tell;
+};
+
+QWidget* InBox(QBoxLayout::Direction Direction, const std::vector<QWidget*>& Widgets)
+{
+    auto* const Box = new QWidget;
+    auto* const Layout = new QBoxLayout(Direction, Box);
+    Layout->setContentsMargins(0, 0, 0, 0);
+    Layout->setSpacing(Gap);
+    for (QWidget* Each : Widgets)
+        if (Each)
+            Layout->addWidget(Each);
+        else
+            Layout->addStretch(1);
+    return Box;
+}
+
+} // namespace
+
+FormRows::FormRows(QWidget* Owner, Margins Around)
+    : Grid(new QGridLayout(Owner))
+{
+    if (Around == Margins::Card)
+        SetCardMargins(Grid);
+    else
+        Grid->setContentsMargins(0, 0, 0, 0);
+    Grid->setHorizontalSpacing(Gap);
+    Grid->setVerticalSpacing(RowGap);
+    Grid->setColumnStretch(RestColumn, 1);
+}
+
+void FormRows::PutCaption(QLabel* Caption, QWidget* Field)
+{
+    TieCaption(Caption, Field);
+    const bool Tall = qobject_cast<QAbstractScrollArea*>(Field);
+    Grid->addWidget(Caption, Row, CaptionColumn, Tall ? Qt::AlignTop : Qt::Alignment());
+}
+
+void FormRows::Add(const QString& Caption, QWidget* Field, QWidget* Unit, QWidget* Sign)
+{
+    Add(Text(Caption), Field, Unit, Sign);
+}
+
+void FormRows::Add(QLabel* Caption, QWidget* Field, QWidget* Unit, QWidget* Sign)
+{
+    PutCaption(Caption, Field);
+    if (Sign) Grid->addWidget(Sign, Row, SignColumn);
+    Grid->addWidget(Field, Row, FieldColumn);
+    if (Unit) {
+        if (Unit->focusPolicy() != Qt::NoFocus) NameField(Unit, Field->accessibleName() + ", units");
+        Grid->addWidget(Unit, Row, UnitColumn);
+    }
+    ++Row;
+}
+
+void FormRows::AddLong(const QString& Caption, QWidget* Field, QWidget* Behind)
+{
+    PutCaption(Text(Caption), Field);
+    QWidget* const Content = Behind ? InRow({Field, nullptr, Behind}) : Field;
+    Grid->addWidget(Content, Row, SignColumn, 1, RestColumn - SignColumn + 1);
+    ++Row;
+}
+
+void FormRows::AddWide(QWidget* Content, int Stretch)
+{
+    Grid->addWidget(Content, Row, CaptionColumn, 1, RestColumn + 1);
+    Grid->setRowStretch(Row, Stretch);
+    ++Row;
+}
+
+void FormRows::Close()
+{
+    Grid->setRowStretch(Row, 1);
+}
+
+void TieCaption(QLabel* Caption, QWidget* Field)
+{
+    Caption->setBuddy(Field);
+    NameField(Field, Caption->text());
+}
+
+void NameField(QWidget* Field, const QString& Name)
+{
+    Field->setAccessibleName(QString(Name).remove('&'));
+}
+
+QLabel* Text(const QString& Words)
+{
+    return new QLabel(Words);
+}
+
+QLabel* MutedText(const QString& Words)
+{
+    return WithRole(Text(Words), "muted");
+}
+
+QWidget* DigitsWide(QWidget* Field, int Digits)
+{
+    Field->setFixedWidth(Field->fontMetrics().horizontalAdvance('0') * Digits + 2 * CardMargin);
+    return Field;
+}
+
+void AlignBars(const std::vector<ScrollBarView*>& Bars)
+{
+    int Widest = 0;
+    for (const ScrollBarView* Each : Bars) Widest = std::max(Widest, Each->Field().sizeHint().width());
+    for (const ScrollBarView* Each : Bars) Each->Field().setFixedWidth(Widest);
+}
+
+QLabel* Elided(QLabel* Shown)
+{
+    Shown->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    Shown->installEventFilter(new Shortener(Shown));
+    return Shown;
+}
+
+QWidget* InRow(const std::vector<QWidget*>& Widgets)
+{
+    return InBox(QBoxLayout::LeftToRight, Widgets);
+}
+
+QWidget* InColumn(const std::vector<QWidget*>& Widgets)
+{
+    return InBox(QBoxLayout::TopToBottom, Widgets);
+}
+
+void WhenShown(QWidget* Watched, std::function<void(bool)> Then)
+{
+    Then(!(Watched->isHidden() && Watched->testAttribute(Qt::WA_WState_ExplicitShowHide)));
+    new ShowWatcher(Watched, std::move(Then));
+}
+
+void StandInFor(QWidget* Pane, QWidget* Content, QWidget* FirstField)
+{
+    WhenShown(Pane, [Content, FirstField](bool Shown) {
+        Content->setVisible(!Shown);
+        if (Shown) FirstField->setFocus();
+    });
+}
+
+QWidget* Snug(QWidget* Content)
+{
+    Content->setSizePolicy(Content->sizePolicy().horizontalPolicy(), QSizePolicy::Maximum);
+    return Content;
+}
+
+QWidget* Readable(QWidget* Content)
+{
+    constexpr int WidestContent = 1264;
+    Content->setMaximumWidth(WidestContent);
+    auto* const Box = new QWidget;
+    auto* const Layout = new QHBoxLayout(Box);
+    Layout->setContentsMargins(Gap, Gap, Gap, Gap);
+    Layout->addWidget(Content, WidestContent); // takes all there is, up to its own limit
+    Layout->addStretch(1);
+    return Box;
+}
+
+QScrollArea* Page(QWidget* Content)
+{
+    auto* const Area = new QScrollArea;
+    Area->setWidgetResizable(true);
+    Area->setFrameShape(QFrame::NoFrame);
+    Area->setFocusPolicy(Qt::NoFocus);
+    Area->setWidget(Readable(Content));
+    return Area;
+}
+
+TurningBox::TurningBox(int Digits)
+    : Box(new QBoxLayout(QBoxLayout::TopToBottom, this))
+    , RowFromDigits(Digits)
+{
+    Box->setContentsMargins(0, 0, 0, 0);
+    Box->setSpacing(Gap);
+}
+
+TurningBox::TurningBox(TurningBox& Outer)
+    : TurningBox(0)
+{
+    Outer.Inner = this;
+    Box->setDirection(QBoxLayout::LeftToRight);
+}
+
+void TurningBox::Add(QWidget* Content, int Stretch, Qt::Alignment Place)
+{
+    Box->addWidget(Content, Stretch, Place);
+}
+
+void TurningBox::resizeEvent(QResizeEvent* Event)
+{
+    QWidget::resizeEvent(Event);
+    if (RowFromDigits == 0) return;
+    const bool Wide = width() >= RowFromDigits * fontMetrics().horizontalAdvance('0');
+    Box->setDirection(Wide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    if (Inner) Inner->Box->setDirection(Wide ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+}
+
+} // namespace velorix

@@ -1,0 +1,36 @@
+// The desktop program: windows and views around the shell.
+#include "desktop/DialogLayouts.h"
+#include "desktop/EventGuard.h"
+#include "desktop/Icons.h"
+#include "desktop/MainWindowLayout.h"
+#include "desktop/QtPlatform.h"
+#include "desktop/Style.h"
+#include "desktop/Views.h"
+#include "project/FileCommands.h"
+#include "screens/Analyse.h"
+#include "screens/Dialogs.h"
+#include "screens/MainWindow.h"
+#include "shell/Shell.h"
+
+int main(int ArgumentCount, char** Arguments)
+{
+    using namespace velorix;
+
+    EventGuard Program(ArgumentCount, Arguments);
+    EventGuard::setApplicationName("Velorix");
+    EventGuard::setQuitOnLastWindowClosed(false); // between the opening dialogs no window stands
+    ApplyStyle(Program);
+    EventGuard::setWindowIcon(DrawnIcon("program"));
+
+    QtPlatform Windows;
+    InstallPlatform(&Windows);
+    RegisterDialogs(Windows);
+    ConnectScreens();
+    MainWindow Window;
+    Window.FileDropped = [](const std::filesystem::path& Path) { Guarded([&] { OpenProjectFile(Path); }); };
+    for (Screen* Each : std::initializer_list<Screen*>{&frmIntro, &MDIProject, &frmAnalyse}) RunTimers(*Each);
+
+    bool Started = false;
+    Guarded([&] { Started = StartProgram(); });
+    return Started && !Windows.HasEnded() ? EventGuard::exec() : 0;
+}

@@ -1,0 +1,259 @@
+// Menus, tool buttons, screens and status bar of the main window.
+#include "desktop/MainWindowLayout.h"
+
+#include "desktop/Binding.h"
+#include "desktop/FormRows.h"
+#include "desktop/Icons.h"
+#include "desktop/InputLayout.h"
+#include "desktop/ResultsLayout.h"
+#include "desktop/Views.h"
+#include "platform/Platform.h"
+#include "screens/Lcc.h"
+#include "screens/MainWindow.h"
+#include "screens/Results.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QDateTime>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QProgressBar>
+#include <QScreen>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTimer>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace velorix {
+namespace {
+
+constexpr QSize FirstSize(1100, 740);
+constexpr QSize LeastSize(640, 420);
+constexpr int ToolIconSize = 22;
+
+// A menu under its heading; a nullptr is a separator.
+QAction* MenuOf(MenuItem& Heading, const std::vector<QAction*>& Entries, QWidget* Owner)
+{
+    auto* const Menu = new QMenu(Owner);
+    for (QAction* Each : Entries)
+        if (Each)
+            Menu->addAction(Each);
+        else
+            Menu->addSeparator();
+    QAction* const Entry = View(Heading);
+    Entry->setMenu(Menu);
+    return Entry;
+}
+
+QAction* Command(MenuItem& Record, const char* Icon = nullptr, const QKeySequence& Shortcut = {})
+{
+    QAction* const Entry = View(Record);
+    if (Icon) Entry->setIcon(DrawnIcon(Icon));
+    Entry->setShortcut(Shortcut);
+    return Entry;
+}
+
+QAction* FileMenu(QWidget* Owner)
+{
+    QAction* const Transfer = MenuOf(MDIProject.munImportExport,
+                                     {Command(MDIProject.mnuImport), Command(MDIProject.mnuExport)}, Owner);
+    QAction* const Screens =
+        MenuOf(MDIProject.mnuView, {Command(MDIProject.mnuGeneral), Command(MDIProject.mnuResults)}, Owner);
+    return MenuOf(MDIProject.mnuFile,
+                  {Command(MDIProject.mnuNew, "new", QKeySequence("Ctrl+N")),
+                   Command(MDIProject.mnuOpen, "open", QKeySequence("Ctrl+O")),
+                   Command(MDIProject.mnuSave, "save", QKeySequence("Ctrl+S")),
+                   Command(MDIProject.mnuSaveAs, nullptr, QKeySequence("Ctrl+Shift+S")),
+                   Command(MDIProject.mnuDelete), Transfer, nullptr, Screens,
+                   Command(MDIProject.mnuPrint, "print", QKeySequence("Ctrl+P")), nullptr,
+                   Command(MDIProject.mnuExit)},
+                  Owner);
+}
+
+QAction* HelpMenu(QWidget* Owner)
+{
+    return MenuOf(MDIProject.mnuHelp,
+                  {Command(MDIProject.mnuContents, "help", QKeySequence("F1")), Command(MDIProject.mnuHelpOn),
+                   nullptr, Command(MDIProject.mnuStep), Command(MDIProject.mnuConvert),
+                   Command(MDIProject.mnuMethod), Command(MDIProject.mnuDisclaimer), nullptr,
+                   Command(MDIProject.mnuAbout)},
+                  Owner);
+}
+
+// A tool button for a command of the menu bar, which itself shows text only.
+QToolButton* Tool(QAction* Action, const QString& IconName)
+{
+    auto* const Button = new QToolButton;
+    Button->setIcon(DrawnIcon(IconName));
+    Button->setAutoRaise(true);
+    Button->setToolTip(Action->toolTip());
+    NameField(Button, Action->text());
+    QObject::connect(Button, &QToolButton::clicked, Action, &QAction::trigger);
+    const auto Show = [Button, Action] {
+        Button->setEnabled(Action->isEnabled());
+        Button->setVisible(Action->isVisible());
+    };
+    QObject::connect(Action, &QAction::changed, Button, Show);
+    return Button;
+}
+
+// The tool buttons, the two commands of the menu bar that are wanted most among them.
+QWidget* ToolStrip(QAction* Analyse, QAction* Preferences)
+{
+    const std::vector<QToolButton*> Buttons = {ToolView(MDIProject.sscNew, "new"),
+                                               ToolView(MDIProject.sscOpen, "open"),
+                                               ToolView(MDIProject.sscSave, "save"),
+                                               ToolView(MDIProject.sscPrint, "print"),
+                                               Tool(Analyse, "analyse"),
+                                               Tool(Preferences, "preferences"),
+                                               ToolView(MDIProject.sscHelp, "help")};
+    QGroupBox* const Strip = WithRole(View(MDIProject.sspProject), "bar");
+    auto* const Layout = new QHBoxLayout(Strip);
+    Layout->setContentsMargins(Gap, Gap / 2, Gap, Gap / 2);
+    Layout->setSpacing(Gap / 2);
+    for (QToolButton* Each : Buttons) {
+        Each->setIconSize(QSize(ToolIconSize, ToolIconSize));
+        Layout->addWidget(Each);
+    }
+    Layout->addStretch(1);
+    for (int Place : {4, 7}) Layout->insertSpacing(Place, 2 * Gap); // ahead of Analyse, and ahead of Help
+    return Strip;
+}
+
+QWidget* PicturePage()
+{
+    constexpr int PictureWidth = 640;
+    auto* const Page = new QWidget;
+    auto* const Layout = new QVBoxLayout(Page);
+    Layout->addStretch(1);
+    auto* const Row = new QHBoxLayout;
+    Row->addStretch(1);
+    Row->addWidget(new PictureView("pipe", PictureWidth, "Pipeline between two reservoirs"), 1000);
+    Row->addStretch(1);
+    Layout->addLayout(Row, 1000);
+    Layout->addStretch(1);
+    return Page;
+}
+
+// The time and the date of the day.
+QWidget* Clock()
+{
+    constexpr int Second = 1000;
+    auto* const Time = new QLabel;
+    auto* const Day = new QLabel;
+    const auto Show = [Time, Day] {
+        const QDateTime Now = QDateTime::currentDateTime();
+        Time->setText(Now.toString("HH:mm"));
+        Day->setText(QLocale::c().toString(Now.date(), "d MMMM yyyy"));
+    };
+    auto* const Beat = new QTimer(Time);
+    QObject::connect(Beat, &QTimer::timeout, Time, Show);
+    Beat->start(Second);
+    Show();
+    QWidget* const Panels = InRow({Time, Day});
+    Panels->layout()->setSpacing(2 * Gap);
+    Panels->layout()->setContentsMargins(Gap, 0, Gap, 0);
+    return Panels;
+}
+
+void FillStatusBar(QStatusBar* Bar)
+{
+    constexpr int ProgressWidth = 140;
+    QProgressBar* const Progress = View(MDIProject.proProgressBar);
+    Progress->setFixedWidth(ProgressWidth);
+    Progress->setTextVisible(false);
+    NameField(Progress, "Progress");
+    QLabel* const Hint = Elided(View(MDIProject.StatusText));
+    Hint->setContentsMargins(Gap, 0, 0, 0);
+
+    Bar->setSizeGripEnabled(false);
+    Bar->addWidget(Hint, 1);
+    Bar->addPermanentWidget(View(MDIProject.lblProgessBar));
+    Bar->addPermanentWidget(Progress);
+    Bar->addPermanentWidget(View(MDIProject.lblSystem));
+    Bar->addPermanentWidget(Clock());
+}
+
+// The one local file of a drag; nothing for anything else.
+QString DraggedFile(const QDropEvent& Event)
+{
+    const QList<QUrl> Found = Event.mimeData()->urls();
+    return Found.size() == 1 ? Found.front().toLocalFile() : QString();
+}
+
+} // namespace
+
+MainWindow::MainWindow()
+    : Screens(new QStackedWidget)
+    , Picture(PicturePage())
+    , InputScreen(InputScreenLayout())
+    , ResultsScreen(ResultsScreenLayout())
+{
+    QAction* const Analyse = Command(MDIProject.mnuAnalyse, nullptr, QKeySequence("F5"));
+    QAction* const Preferences = Command(MDIProject.mnuPreferences);
+    menuBar()->addActions({FileMenu(this), Command(MDIProject.mnuExit1), Analyse,
+                           Command(MDIProject.mnuRoughness), Preferences, HelpMenu(this)});
+    FillStatusBar(statusBar());
+
+    for (QWidget* Each : {Picture, InputScreen, ResultsScreen}) Screens->addWidget(Each);
+    auto* const Middle = new QWidget;
+    auto* const Layout = new QVBoxLayout(Middle);
+    Layout->setContentsMargins(0, 0, 0, 0);
+    Layout->setSpacing(0);
+    Layout->addWidget(ToolStrip(Analyse, Preferences));
+    Layout->addWidget(Screens, 1);
+    setCentralWidget(Middle);
+    setAcceptDrops(true);
+    setMinimumSize(LeastSize);
+    TakeFirstSize();
+
+    Follow(MDIProject.Caption, this,
+           [this](const std::string& Title) { setWindowTitle(QString::fromStdString(Title)); });
+    Follow(MDIProject.Visible, this, [this](bool Visible) { setVisible(Visible); });
+    for (Screen* Each : std::initializer_list<Screen*>{&frmLCC, &frmResults})
+        Follow(Each->Visible, this, [this](bool) { ShowScreen(); });
+    Follow(frmLCC.Enabled, InputScreen, [this](bool Enabled) { InputScreen->setEnabled(Enabled); });
+}
+
+// A display without room for window and frame is filled.
+void MainWindow::TakeFirstSize()
+{
+    constexpr QSize FrameAllowance(20, 60);
+    const QSize Room = screen()->availableSize();
+    resize(FirstSize.boundedTo(Room));
+    if ((FirstSize + FrameAllowance).boundedTo(Room) != FirstSize + FrameAllowance)
+        setWindowState(Qt::WindowMaximized);
+}
+
+void MainWindow::ShowScreen()
+{
+    QWidget* const Top = frmResults.Visible ? ResultsScreen : frmLCC.Visible ? InputScreen : Picture;
+    Screens->setCurrentWidget(Top);
+}
+
+void MainWindow::closeEvent(QCloseEvent* Event)
+{
+    Event->accept();
+    System().EndProgram();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* Event)
+{
+    if (!DraggedFile(*Event).isEmpty()) Event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* Event)
+{
+    const QString Path = DraggedFile(*Event);
+    if (Path.isEmpty() || !FileDropped) return;
+    Event->acceptProposedAction();
+    FileDropped(std::filesystem::path(Path.toStdU16String()));
+}
+
+} // namespace velorix

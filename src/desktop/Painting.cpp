@@ -1,0 +1,49 @@
+// Colours and frames.
+#include "desktop/Painting.h"
+
+#include <QLocale>
+#include <QPainter>
+#include <QString>
+
+namespace velorix {
+
+bool IsPaletteColor(Color Value)
+{
+    return Value == WindowColor || Value == ButtonColor;
+}
+
+QColor ToQColor(Color Value)
+{
+    return {Value.Red(), Value.Green(), Value.Blue()};
+}
+
+QPalette PaintedPalette(Color Back)
+{
+    QPalette Painted;
+    for (QPalette::ColorRole Role : {QPalette::Window, QPalette::Base, QPalette::Button})
+        Painted.setColor(Role, ToQColor(Back));
+    for (QPalette::ColorRole Role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        Painted.setColor(Role, Qt::black);
+    return Painted;
+}
+
+bool IsNumberText(const QString& Text)
+{
+    QString Number = Text.trimmed();
+    if (Number.startsWith('R') || Number.startsWith('$')) Number.remove(0, 1);
+    if (Number.endsWith('%')) Number.chop(1);
+    bool Readable = false;
+    QLocale::c().toDouble(Number.remove(',').remove(' '), &Readable);
+    return Readable;
+}
+
+void DrawFrame(QPainter& Painter, const QRect& Around, const QColor& Ink)
+{
+    constexpr int Width = 2;
+    Painter.save();
+    Painter.setPen(QPen(Ink, Width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    Painter.drawRect(Around.adjusted(1, 1, -1, -1));
+    Painter.restore();
+}
+
+} // namespace velorix

@@ -1,0 +1,28 @@
+// The domain's colours on the toolkit's surfaces.
+#pragma once
+
+#include "platform/Color.h"
+
+#include <QPalette>
+
+class QPainter;
+class QRect;
+class QString;
+
+namespace velorix {
+
+// True of the colours that the desktop's palette tells.
+bool IsPaletteColor(Color Value);
+
+QColor ToQColor(Color Value);
+
+// Black on the told colour, whatever the desktop's colours are.
+QPalette PaintedPalette(Color Back);
+
+// True of a number, with the signs that stand with one: currency, per cent, thousands.
+bool IsNumberText(const QString& Text);
+
+// A frame two pixels wide inside the rectangle.
+void DrawFrame(QPainter& Painter, const QRect& Around, const QColor& Ink);
+
+} // namespace velorix

@@ -1,0 +1,262 @@
+// Message boxes, dialogs, focus, pointer, clipboard and folders.
+#include "desktop/QtPlatform.h"
+
+#include "desktop/Binding.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QDate>
+#include <QDesktopServices>
+#include <QDialog>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QProcess>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QSysInfo>
+#include <QUrl>
+
+#include <memory>
+#include <stdexcept>
+
+namespace velorix {
+namespace {
+
+bool Painting = false;
+
+// What a new dialog stands over.
+QWidget* TopWindow()
+{
+    for (QWidget* Each : {QApplication::activeModalWidget(), QApplication::activeWindow()})
+        if (Each && Each->isVisible()) return Each;
+    return nullptr;
+}
+
+QMessageBox::Icon IconOf(MessageIcon Icon)
+{
+    switch (Icon) {
+    case MessageIcon::Information: return QMessageBox::Information;
+    case MessageIcon::Exclamation: return QMessageBox::Warning;
+    case MessageIcon::Question: return QMessageBox::Question;
+    case MessageIcon::Critical: return QMessageBox::Critical;
+    case MessageIcon::None: break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+// The second button of a pair is the one that changes nothing, so Escape stands for it.
+void SetButtons(QMessageBox& Box, MessageButtons Buttons)
+{
+    switch (Buttons) {
+    case MessageButtons::Ok: Box.setStandardButtons(QMessageBox::Ok); break;
+    case MessageButtons::YesNo:
+        Box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        Box.setDefaultButton(QMessageBox::Yes);
+        Box.setEscapeButton(QMessageBox::No);
+        break;
+    case MessageButtons::RetryCancel:
+        Box.setStandardButtons(QMessageBox::Retry | QMessageBox::Cancel);
+        Box.setDefaultButton(QMessageBox::Retry);
+        Box.setEscapeButton(QMessageBox::Cancel);
+        break;
+    }
+}
+
+Answer AnswerOf(int Button)
+{
+    switch (Button) {
+    case QMessageBox::Yes: return Answer::Yes;
+    case QMessageBox::No: return Answer::No;
+    case QMessageBox::Retry: return Answer::Retry;
+    case QMessageBox::Cancel: return Answer::Cancel;
+    default: return Answer::Ok;
+    }
+}
+
+// Turns the frame's closing button and Escape into the screen's own closing.
+class DialogFrame : public QObject {
+public:
+    DialogFrame(Screen& Framed, QDialog* Dialog)
+        : QObject(Dialog)
+        , Shown(Framed)
+    {
+        Dialog->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* Event) override
+    {
+        const bool Escape = Event->type() == QEvent::KeyPress &&
+                            static_cast<QKeyEvent*>(Event)->matches(QKeySequence::Cancel);
+        if (Event->type() != QEvent::Close && !Escape) return false;
+        Event->setAccepted(Escape);
+        Guarded([this] { Shown.CloseByFrame(); });
+        return true;
+    }
+
+private:
+    Screen& Shown;
+};
+
+// Shows the default pointer for as long as the user has to answer.
+class PointerPause {
+public:
+    PointerPause(Platform& Windows, PointerShape Before)
+        : Owner(Windows)
+        , Shape(Before)
+    {
+        Owner.SetPointer(PointerShape::Default);
+    }
+    ~PointerPause() { Owner.SetPointer(Shape); }
+    PointerPause(const PointerPause&) = delete;
+    PointerPause& operator=(const PointerPause&) = delete;
+
+private:
+    Platform& Owner;
+    const PointerShape Shape;
+};
+
+} // namespace
+
+void QtPlatform::RegisterDialog(Screen& Shown, DialogMaker Make)
+{
+    Dialogs[&Shown] = std::move(Make);
+}
+
+Answer QtPlatform::Show(const Message& Box)
+{
+    const KeepArithmeticFlags Keep;
+    const PointerPause Pause(*this, Pointer);
+    QMessageBox Window(TopWindow());
+    Window.setIcon(IconOf(Box.Icon));
+    Window.setWindowTitle(QString::fromStdString(Box.Title));
+    Window.setTextFormat(Qt::PlainText);
+    Window.setText(QString::fromStdString(Box.Text));
+    SetButtons(Window, Box.Buttons);
+    return AnswerOf(Window.exec());
+}
+
+void QtPlatform::ShowModal(Screen& Shown)
+{
+    const auto Maker = Dialogs.find(&Shown);
+    if (Maker == Dialogs.end()) throw std::logic_error("no dialog shows the screen " + Shown.Name);
+    const KeepArithmeticFlags Keep;
+    const PointerPause Pause(*this, Pointer);
+
+    const std::unique_ptr<QDialog> Dialog(Maker->second(TopWindow()));
+    Dialog->setModal(true);
+    new DialogFrame(Shown, Dialog.get());
+    QEventLoop Open;
+    Follow(Shown.Caption, Dialog.get(), [&Dialog](const std::string& Caption) {
+        Dialog->setWindowTitle(QString::fromStdString(Caption));
+    });
+    Follow(Shown.Enabled, Dialog.get(), [&Dialog](bool Enabled) { Dialog->setEnabled(Enabled); });
+    Follow(Shown.Visible, Dialog.get(), [&Dialog, &Open](bool Visible) {
+        Dialog->setVisible(Visible);
+        if (!Visible) Open.quit();
+    });
+
+    Shown.LoadHidden();
+    Shown.Visible = true;
+    if (Shown.Visible) Open.exec();
+}
+
+std::optional<PrintChoice> QtPlatform::AskPrinter(const PrintDialog&)
+{
+    return std::nullopt;
+}
+
+void QtPlatform::SetFocus(Control& Target)
+{
+    const KeepArithmeticFlags Keep;
+    if (QWidget* const View = FocusTarget(Target)) View->setFocus(Qt::OtherFocusReason);
+}
+
+void QtPlatform::SetPointer(PointerShape Shape)
+{
+    const bool WasDefault = Pointer == PointerShape::Default;
+    Pointer = Shape;
+    const QCursor Cursor(Shape == PointerShape::Hourglass ? Qt::WaitCursor : Qt::CrossCursor);
+    if (Shape == PointerShape::Default) {
+        if (!WasDefault) QApplication::restoreOverrideCursor();
+    } else if (WasDefault)
+        QApplication::setOverrideCursor(Cursor);
+    else
+        QApplication::changeOverrideCursor(Cursor);
+}
+
+void QtPlatform::Repaint()
+{
+    const KeepArithmeticFlags Keep;
+    const QScopedValueRollback<bool> Now(Painting, true);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+bool OnlyPainting()
+{
+    return Painting;
+}
+
+std::string QtPlatform::ClipboardText()
+{
+    QString Text = QApplication::clipboard()->text();
+    return Text.replace("\r\n", "\n").replace('\n', "\r\n").toStdString();
+}
+
+void QtPlatform::SetClipboardText(const std::string& Text)
+{
+    QApplication::clipboard()->setText(QString::fromStdString(Text));
+}
+
+Date QtPlatform::Today()
+{
+    const QDate Now = QDate::currentDate();
+    return {Now.year(), Now.month(), Now.day()};
+}
+
+PixelSize QtPlatform::ScreenSize()
+{
+    const QScreen* const Screen = QApplication::primaryScreen();
+    return {Screen->size().width(), Screen->size().height()};
+}
+
+bool QtPlatform::ShowSystemInformation()
+{
+    for (const char* Tool : {"hardinfo2", "hardinfo", "kinfocenter", "msinfo32"}) {
+        const QString Found = QStandardPaths::findExecutable(Tool);
+        if (!Found.isEmpty() && QProcess::startDetached(Found, {})) return true;
+    }
+    return false;
+}
+
+std::filesystem::path ProgramFolderOf(const std::filesystem::path& BinaryFolder)
+{
+    const std::filesystem::path Installed = BinaryFolder.parent_path() / "share" / "velorix";
+    std::error_code NotThere;
+    if (std::filesystem::is_directory(BinaryFolder / "Projects", NotThere)) return BinaryFolder;
+    return std::filesystem::is_directory(Installed, NotThere) ? Installed : BinaryFolder;
+}
+
+std::filesystem::path QtPlatform::ProgramFolder()
+{
+    return ProgramFolderOf(QFileInfo(QCoreApplication::applicationDirPath()).filesystemAbsoluteFilePath());
+}
+
+void QtPlatform::ShowHelp(const std::filesystem::path& HelpFile, int)
+{
+    const QFileInfo File(HelpFile);
+    if (File.isFile() && QDesktopServices::openUrl(QUrl::fromLocalFile(File.absoluteFilePath()))) return;
+    Show(
+        {.Text = "The help file can't be opened:\n\n" + HelpFile.string(), .Icon = MessageIcon::Information});
+}
+
+void QtPlatform::EndProgram()
+{
+    Ended = true;
+    QCoreApplication::exit(0); // asks no window whether it may close
+}
+
+} // namespace velorix

@@ -1,0 +1,20 @@
+// The hints of the status bar.
+#include "shell/Hints.h"
+
+#include "screens/MainWindow.h"
+
+namespace velorix {
+
+void ConnectHints(Screen& Target)
+{
+    for (Control* Each : Target.Controls) {
+        if (Each->ToolTip.empty()) continue;
+        const auto ShowHint = [Each] { MDIProject.StatusText.Caption = Each->ToolTip; };
+        Each->GotFocus = ShowHint;
+        const bool Pressed = dynamic_cast<CommandButton*>(Each) || dynamic_cast<OptionButton*>(Each) ||
+                             dynamic_cast<MenuItem*>(Each);
+        if (Pressed) Each->MouseMove = ShowHint;
+    }
+}
+
+} // namespace velorix

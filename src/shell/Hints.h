@@ -1,0 +1,12 @@
+// The hints of the status bar.
+#pragma once
+
+#include "platform/Screen.h"
+
+namespace velorix {
+
+// Shows a control's tool tip in the status bar: that of an input when it gets the focus, that of a button or
+// menu entry when the pointer comes over it.
+void ConnectHints(Screen& Target);
+
+} // namespace velorix
