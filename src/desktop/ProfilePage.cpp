@@ -85,7 +85,7 @@ QWidget* TableArea()
 
     QWidget* const Area =
         InColumn({UnitStrip(), Table,
-                  InRow({View(frmLCC.sscDelete), View(frmLCC.sscAdd)->parentWidget(), nullptr, View(frmLCC.sscLaying),
+                  InRow({View(frmLCC.sscAdd), View(frmLCC.sscDelete), nullptr, View(frmLCC.sscLaying),
                          View(frmLCC.sscViewProfile), ToolView(frmLCC.sscHelp1, "help")})});
     static_cast<QBoxLayout*>(Area->layout())->setStretchFactor(Table, 1);
     return Area;
