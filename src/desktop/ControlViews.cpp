@@ -41,12 +41,12 @@ public:
         setFrameStyle(QFrame::Box | QFrame::Plain);
     }
 
-    // What a screen reader says: the caption, what it is for, and the colour by its name.
-    void NameState()
+    // What a screen reader says beside the name: what the field is for, and its colour by its name.
+    void DescribeState()
     {
-        QStringList Parts = {text(), toolTip(), ColorName(Record.BackColor)};
+        QStringList Parts = {toolTip(), ColorName(Record.BackColor)};
         Parts.removeAll(QString());
-        setAccessibleName(Parts.join(", "));
+        setAccessibleDescription(Parts.join(", "));
     }
 
 protected:
@@ -70,7 +70,7 @@ protected:
     void changeEvent(QEvent* Change) override
     {
         QLabel::changeEvent(Change);
-        if (Change->type() == QEvent::PaletteChange) NameState();
+        if (Change->type() == QEvent::PaletteChange) DescribeState();
     }
 
     void focusInEvent(QFocusEvent* Focus) override
@@ -128,7 +128,8 @@ QLabel* ColorView(Label& Record, const ColorNames& Names)
 {
     auto* const View = new ColorField(Record, Names);
     FillLabel(Record, View);
-    View->NameState();
+    View->setAccessibleName(View->text()); // until a layout gives a better one
+    View->DescribeState();
     return View;
 }
 

@@ -61,12 +61,14 @@ QWidget* Bar(ScrollBar& Record)
     return Shown;
 }
 
+const ColorNames RateClasses = {{OffpeakColor, "off-peak"}, {StandardColor, "standard"}, {PeakColor, "peak"}};
+
 QWidget* HourStrip(Array0<Label, 24>& Hours, const QString& Season)
 {
     constexpr int CellHeight = 30;
     std::vector<QWidget*> Cells;
     for (Label& Each : Hours) {
-        QLabel* const Cell = ColorView(Each);
+        QLabel* const Cell = ColorView(Each, RateClasses);
         Cell->setMinimumWidth(CellHeight * 3 / 4);
         Cell->setFixedHeight(CellHeight);
         Cell->setAlignment(Qt::AlignCenter);

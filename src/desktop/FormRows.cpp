@@ -3,15 +3,18 @@
 
 #include "desktop/ScrollBarView.h"
 
+#include <QComboBox>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
+#include <QPointer>
 #include <QScrollArea>
 #include <QSpinBox>
 #include <QStyle>
 
 #include <algorithm>
+#include <memory>
 
 namespace velorix {
 namespace {
@@ -117,7 +120,7 @@ void FormRows::Add(QLabel* Caption, QWidget* Field, QWidget* Unit, QWidget* Sign
     if (Sign) Grid->addWidget(Sign, Row, SignColumn);
     Grid->addWidget(Field, Row, FieldColumn);
     if (Unit) {
-        if (Unit->focusPolicy() != Qt::NoFocus) NameField(Unit, Field->accessibleName() + ", units");
+        if (qobject_cast<QComboBox*>(Unit)) NameField(Unit, Field->accessibleName() + ", units");
         Grid->addWidget(Unit, Row, UnitColumn);
     }
     ++Row;
@@ -202,9 +205,16 @@ void WhenShown(QWidget* Watched, std::function<void(bool)> Then)
 
 void StandInFor(QWidget* Pane, QWidget* Content, QWidget* FirstField)
 {
-    WhenShown(Pane, [Content, FirstField](bool Shown) {
+    // The focus comes back to where it was, unless it has gone elsewhere by itself.
+    const auto Before = std::make_shared<QPointer<QWidget>>();
+    WhenShown(Pane, [Pane, Content, FirstField, Before](bool Shown) {
+        QWidget* const Now = Pane->window()->focusWidget();
+        if (Shown) *Before = Now;
         Content->setVisible(!Shown);
-        if (Shown) FirstField->setFocus();
+        if (Shown)
+            FirstField->setFocus();
+        else if (*Before)
+            (*Before)->setFocus();
     });
 }
 

@@ -11,8 +11,10 @@
 namespace velorix {
 namespace {
 
+// Assistive tools may ask for any place; outside the table there is no text.
 QString TextAt(const Grid& Table, int Row, int Col)
 {
+    if (Row < 0 || Row >= Table.Rows() || Col < 0 || Col >= Table.Cols()) return {};
     return QString::fromStdString(Table.Text(Row, Col)).trimmed();
 }
 

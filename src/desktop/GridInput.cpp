@@ -18,6 +18,7 @@ namespace {
 
 constexpr int LeftButton = 1;
 constexpr int RightButton = 2;
+constexpr int NoMenuButton = 4; // a press that opens nothing, and still ends an editing
 
 // Up and Down choose in the list; these go on in the grid.
 bool LeavesList(const QKeyEvent& Key)
@@ -131,6 +132,8 @@ void GridView::mousePressEvent(QMouseEvent* Press)
         Guarded([this] { Record.MouseDown(LeftButton); });
     else if (IsData(Cell))
         OpenMenu(Press->globalPosition().toPoint());
+    else
+        Guarded([this] { Record.MouseDown(NoMenuButton); });
     Settle();
 }
 

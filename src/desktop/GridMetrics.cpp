@@ -47,7 +47,7 @@ bool BreaksHeading(const Grid& Table, const std::vector<int>& ColLeft, const QFo
 {
     for (int Col = 0; Table.Rows() > 0 && Table.FixedRows > 0 && Col < Table.Cols(); ++Col) {
         const ColSpan Span = MergedCols(Table, 0, Col);
-        const int Room = ColLeft[static_cast<std::size_t>(Span.Last + 1)] -
+        const int Room = ColLeft[static_cast<std::size_t>(Span.Last) + 1] -
                          ColLeft[static_cast<std::size_t>(Span.First)] - 2 * CellPadding;
         if (Metrics.horizontalAdvance(QString::fromStdString(Table.Text(0, Col)).trimmed()) > Room)
             return true;

@@ -291,7 +291,11 @@ bool GridView::eventFilter(QObject* Watched, QEvent* Event)
     if (Watched != Editor && Watched != List) return QAbstractScrollArea::eventFilter(Watched, Event);
     auto* const Over = static_cast<QWidget*>(Watched);
     switch (Event->type()) {
-    case QEvent::Show: Settle(); break;
+    case QEvent::Show:
+        Settle();
+        if (IsData(Current())) Reveal(Record.Row(), Record.Col()); // the cell may have been scrolled away
+        PlaceEditors();
+        break;
     case QEvent::Hide:
         if (Over->isHidden() && Over->hasFocus()) setFocus(); // the focus must not wander off with it
         break;

@@ -235,6 +235,12 @@ void MainWindow::ShowScreen()
 {
     QWidget* const Top = frmResults.Visible ? ResultsScreen : frmLCC.Visible ? InputScreen : Picture;
     Screens->setCurrentWidget(Top);
+    // The screen remembers who had its focus; a cell editor that has closed meanwhile hands it to its grid.
+    QWidget* Last = Top->focusWidget();
+    if (!Last || Last->isVisibleTo(Top)) return;
+    while (Last != Top && (Last->focusPolicy() == Qt::NoFocus || !Last->isVisibleTo(Top)))
+        Last = Last->parentWidget();
+    Last->setFocus();
 }
 
 void MainWindow::closeEvent(QCloseEvent* Event)

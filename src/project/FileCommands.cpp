@@ -161,6 +161,8 @@ void LccTypeContinue()
     frmLCCType.Unload();
     frmLCC.Visible = true;
     NewProjectDefaults();
+    frmLCC.sstInput.Tab = 0; // an engineer starts with the name
+    System().SetFocus(frmLCC.txtProject);
 }
 
 void LccTypeCancel()

@@ -98,7 +98,6 @@ void MainWindowLoads()
 {
     MDIProject.LoadHidden();
     MDIProject.Visible = true;
-    MDIProject.StatusText.Caption = "Open a project or start a new project";
     ResetMainCommands();
     MDIProject.tmrWelcome.Enabled = true;
     for (Control* Each : std::initializer_list<Control*>{&MDIProject.mnuFile, &MDIProject.mnuMethod,

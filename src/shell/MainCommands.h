@@ -5,7 +5,7 @@ namespace velorix {
 
 void ConnectMainWindow();
 
-// The window comes up: its status text, its welcome line, its menus.
+// The window comes up: its welcome line, its menus.
 void MainWindowLoads();
 
 // Commands of the menus that have a guard of their own.

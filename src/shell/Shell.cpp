@@ -11,6 +11,7 @@
 #include "screens/Analyse.h"
 #include "screens/Dialogs.h"
 #include "screens/DutyPointScreen.h"
+#include "screens/Lcc.h"
 #include "screens/MainWindow.h"
 #include "screens/Results.h"
 #include "shell/GridEditor.h"
@@ -89,6 +90,8 @@ bool StartProgram()
     }
     MainWindowLoads();
     StartSession();
+    System().SetFocus(frmLCC.txtProject);
+    MDIProject.StatusText.Caption = "Open a project or start a new project"; // in place of the box's own hint
     return true;
 }
 
