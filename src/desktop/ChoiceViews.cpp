@@ -106,6 +106,7 @@ QTabWidget* View(TabControl& Record, const std::vector<QWidget*>& Pages)
             const bool Wanted = Shown.at(static_cast<std::size_t>(Tab));
             // A call that changes nothing would make the bar forget that an earlier one has.
             if (View->isTabVisible(Tab) != Wanted) View->setTabVisible(Tab, Wanted);
+            View->setTabEnabled(Tab, Wanted); // Ctrl+Tab would go to a hidden page
         }
         Record.Tab.Assign(View->currentIndex(), View); // a page that goes gives way to its neighbour
     });

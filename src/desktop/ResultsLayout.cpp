@@ -102,10 +102,8 @@ QWidget* CostPage()
 
 QWidget* ResultsScreenLayout()
 {
-    constexpr int SystemTab = 1;
     QTabWidget* const Tabs = View(
         frmResults.sstResults, std::vector<QWidget*>{Page(HydraulicPage()), new QWidget, Page(CostPage())});
-    Tabs->setTabVisible(SystemTab, false); // nothing stands there yet
     NameField(Tabs, "Results");
     QLabel* const Title = WithRole(Text(QString::fromStdString(frmResults.Caption).trimmed()), "screen");
     Title->setContentsMargins(2 * Gap, Gap / 2, 2 * Gap, 0);

@@ -6,6 +6,8 @@ namespace velorix {
 ResultsScreen::ResultsScreen()
     : Screen("frmResults", "  RESULTS")
 {
+    sstResults.TabVisible = std::vector<bool>{true, false, true}; // the second page comes with its plots
+    sstResults.Tab = 2;
     fraDuty.Visible = false;
     sscDutypoint.Visible = false;
     sscDutypoint.Enabled = false; // until there is a plot of the duty points to show

@@ -298,6 +298,8 @@ TEST_F(LayoutsTest, OneScreenStandsAtATime)
         frmResults.sstResults.Tab = Page;
         Examine(frmResults, "results, page " + std::to_string(Page));
     }
+    QTest::keyClick(Results, Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier); // no hidden page comes up
+    EXPECT_EQ(frmResults.sstResults.Tab, 0);
 }
 
 TEST_F(LayoutsTest, DialogsAreCompleteAndFit)
