@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QTabWidget>
 #include <QToolButton>
 
@@ -42,6 +43,23 @@ void NameByCaption(QWidget& View)
 {
     View.setAccessibleName(QString());
     View.setAccessibleDescription(View.toolTip());
+}
+
+// Ctrl+Tab and Ctrl+Shift+Tab, from any field: a list would take the keys for a search among its entries.
+void StepWithKeys(QTabWidget* Tabs)
+{
+    const auto Step = [Tabs](int Direction) {
+        int Tab = Tabs->currentIndex();
+        do Tab = (Tab + Direction + Tabs->count()) % Tabs->count();
+        while (!Tabs->isTabVisible(Tab) && Tab != Tabs->currentIndex());
+        Tabs->setCurrentIndex(Tab);
+    };
+    for (const auto& [Keys, Direction] : {std::pair("Ctrl+Tab", 1), std::pair("Ctrl+Shift+Tab", -1)}) {
+        auto* const Shortcut = new QShortcut(QKeySequence(Keys), Tabs);
+        Shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        QObject::connect(Shortcut, &QShortcut::activated, Tabs,
+                         [Step, Direction = Direction] { Step(Direction); });
+    }
 }
 
 } // namespace
@@ -114,6 +132,7 @@ QTabWidget* View(TabControl& Record, const std::vector<QWidget*>& Pages)
                      [&Record, View](int Tab) { Enter(Record.Tab, Tab, View); });
     Attach(Record, View);
     View->setToolTip(QString());
+    StepWithKeys(View);
     return View;
 }
 

@@ -284,6 +284,18 @@ TEST_F(LayoutsTest, APaneStandsInForItsPageAndTakesTheFocus)
     EXPECT_TRUE(FocusTarget(frmLCC.msgProfile)->isVisible());
 }
 
+TEST_F(LayoutsTest, KeysTurnThePagesFromAnyField)
+{
+    StartProject(0);
+    frmLCC.sstInput.Tab = 1;
+    QWidget* const List = FocusTarget(frmLCC.comElevationUnits);
+    List->setFocus();
+    QTest::keyClick(List, Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(frmLCC.sstInput.Tab, 3); // a gravity system has no energy page
+    QTest::keyClick(Main.get(), Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(frmLCC.sstInput.Tab, 1);
+}
+
 TEST_F(LayoutsTest, OneScreenStandsAtATime)
 {
     QWidget* const Input = FocusTarget(frmLCC.sstInput);
