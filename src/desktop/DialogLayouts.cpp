@@ -145,6 +145,7 @@ QDialog* IntroDialog(QWidget* Owner)
     Layout->addWidget(new PictureView("pipe", PictureWidth, PictureText));
     Layout->addWidget(White(Text("Life cycle costing of bulk water pipelines"), "12pt"));
     Layout->addWidget(White(View(frmIntro.lblVersion), "10pt"));
+    Layout->addWidget(White(View(frmIntro.lblCounter), "10pt"));
     Layout->setSizeConstraint(QLayout::SetFixedSize);
     return Dialog;
 }

@@ -29,6 +29,7 @@ struct IntroScreen : Screen {
     }
 
     Label lblVersion;
+    Label lblCounter; // dots that count from 1 to 10 and round
     Timer tmrIntro{4000};
     Timer tmrWelcome{150};
 };

@@ -33,8 +33,18 @@ constexpr std::array<const char*, 7> Disclaimer = {
 
 bool Accepted = false;
 
+constexpr std::size_t LastCount = 10;
+
+// The counter is what its label shows: one dot more each tick, and from the last back to one.
+void CountOn()
+{
+    const std::size_t Count = frmIntro.lblCounter.Caption.Get().size();
+    frmIntro.lblCounter.Caption = std::string(Count % LastCount + 1, '.');
+}
+
 void IntroLoads()
 {
+    frmIntro.lblCounter.Caption = ".";
     frmIntro.lblVersion.Caption = VersionCaption();
     frmIntro.tmrIntro.Enabled = true;
     frmIntro.tmrWelcome.Enabled = true;
@@ -80,6 +90,7 @@ void ConnectNotices()
     frmIntro.Load = IntroLoads;
     frmIntro.Close = IntroEnds;
     frmIntro.tmrIntro.Tick = IntroEnds;
+    frmIntro.tmrWelcome.Tick = CountOn;
 
     frmDisclaimer.Load = DisclaimerLoads;
     frmDisclaimer.Close = frmDisclaimer.sscOK.Click = [] { LeaveNotice(frmDisclaimer); };

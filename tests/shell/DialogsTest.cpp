@@ -16,6 +16,21 @@ TEST_F(DialogsTest, StartPutsANewProjectOnTheScreen)
     EXPECT_FALSE(MDIProject.mnuRoughness.Visible);
 }
 
+TEST_F(DialogsTest, TheIntroCountsFromOneToTenAndRound)
+{
+    std::vector<std::size_t> Counts;
+    Windows.ModalScripts["frmIntro"] = [&] {
+        for (int Tick = 0; Tick < 11; ++Tick) {
+            Counts.push_back(frmIntro.lblCounter.Caption.Get().size());
+            Fire(frmIntro.tmrWelcome);
+        }
+        Fire(frmIntro.tmrIntro);
+    };
+    StartProgram();
+    EXPECT_EQ(Counts, (std::vector<std::size_t>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 1}));
+    EXPECT_FALSE(frmIntro.tmrWelcome.Enabled);
+}
+
 TEST_F(DialogsTest, RefusedAgreementEndsTheProgram)
 {
     Windows.ModalScripts["frmAgree"] = [] { frmAgree.sscCancel.Click(); };
