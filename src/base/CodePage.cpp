@@ -1,6 +1,8 @@
 // Windows-1252: Latin-1 but for the bytes 0x80 to 0x9F.
 #include "base/CodePage.h"
 
+#include "base/Text.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -16,21 +18,6 @@ constexpr std::array<char32_t, 32> HighControls = {
     0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
 };
 // clang-format on
-
-void AppendUtf8(std::string& Text, char32_t Code)
-{
-    const auto Byte = [&](char32_t Bits) { Text += static_cast<char>(Bits); };
-    if (Code < 0x80) {
-        Byte(Code);
-    } else if (Code < 0x800) {
-        Byte(0xC0 | (Code >> 6));
-        Byte(0x80 | (Code & 0x3F));
-    } else { // no character of the code page lies beyond the basic plane
-        Byte(0xE0 | (Code >> 12));
-        Byte(0x80 | ((Code >> 6) & 0x3F));
-        Byte(0x80 | (Code & 0x3F));
-    }
-}
 
 // Takes one character off the front of the text. No value when the bytes there are no UTF-8; one byte is
 // taken then.
@@ -56,22 +43,28 @@ std::optional<char32_t> TakeUtf8(std::string_view& Text)
     return Sound ? std::optional(Code) : std::nullopt;
 }
 
-char ByteOf(char32_t Code)
+// No value for a character outside the code page.
+std::optional<char> ByteOf(char32_t Code)
 {
     const auto* const Found = std::find(HighControls.begin(), HighControls.end(), Code);
     if (Found != HighControls.end()) return static_cast<char>(0x80 + (Found - HighControls.begin()));
     const bool Latin = Code < 0x80 || (Code >= 0xA0 && Code <= 0xFF);
-    return Latin ? static_cast<char>(Code) : '?';
+    return Latin ? std::optional(static_cast<char>(Code)) : std::nullopt;
 }
 
 } // namespace
+
+bool InCodePage(char32_t Code)
+{
+    return ByteOf(Code).has_value();
+}
 
 std::string ToCodePage(std::string_view Utf8)
 {
     std::string Result;
     while (!Utf8.empty()) {
         const std::optional<char32_t> Code = TakeUtf8(Utf8);
-        Result += Code ? ByteOf(*Code) : '?';
+        Result += Code ? ByteOf(*Code).value_or('?') : '?';
     }
     return Result;
 }
@@ -81,7 +74,7 @@ std::string FromCodePage(std::string_view Bytes)
     std::string Result;
     for (const char Each : Bytes) {
         const unsigned char Byte = static_cast<unsigned char>(Each);
-        AppendUtf8(Result, Byte >= 0x80 && Byte < 0xA0 ? HighControls[Byte - 0x80U] : Byte);
+        Result += Utf8Of(Byte >= 0x80 && Byte < 0xA0 ? HighControls[Byte - 0x80U] : Byte);
     }
     return Result;
 }

@@ -6,6 +6,9 @@
 
 namespace velorix {
 
+// Whether the project file can hold the character.
+bool InCodePage(char32_t Code);
+
 // UTF-8 to one byte a character. A character outside the code page, and a byte that is no UTF-8, gives "?".
 std::string ToCodePage(std::string_view Utf8);
 

@@ -1,4 +1,4 @@
-// Blanks around texts.
+// Blanks around texts, and the characters of a UTF-8 text.
 #pragma once
 
 #include <string>
@@ -15,5 +15,16 @@ inline std::string Trim(std::string_view Text)
 {
     return std::string(Trimmed(Text));
 }
+
+// True for the first byte of a UTF-8 character, false for the bytes that continue one.
+constexpr bool StartsCharacter(char Byte)
+{
+    return (static_cast<unsigned char>(Byte) & 0xC0) != 0x80;
+}
+
+int CharacterCount(std::string_view Utf8);
+
+// One character in UTF-8, 1 to 4 bytes.
+std::string Utf8Of(char32_t Code);
 
 } // namespace velorix

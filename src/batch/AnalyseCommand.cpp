@@ -5,6 +5,7 @@
 #include "analysis/Program.h"
 #include "base/Failure.h"
 #include "base/Format.h"
+#include "base/Text.h"
 #include "batch/AnalysisOutput.h"
 #include "batch/TextFile.h"
 #include "batch/Worker.h"
@@ -74,13 +75,6 @@ void RequireDistinctNames(const std::vector<std::filesystem::path>& Files)
                               "\", so their tables would overwrite each other");
 }
 
-// Characters of a UTF-8 text: the bytes that don't continue one.
-std::size_t CharactersOf(const std::string& Text)
-{
-    return static_cast<std::size_t>(
-        std::count_if(Text.begin(), Text.end(), [](char Byte) { return (Byte & 0xC0) != 0x80; }));
-}
-
 using TableRows = std::vector<std::vector<std::string>>;
 
 TableRows RowsOf(const std::vector<std::filesystem::path>& Files, const std::vector<Json>& Reports)
@@ -104,16 +98,16 @@ TableRows RowsOf(const std::vector<std::filesystem::path>& Files, const std::vec
 std::string TableText(const std::vector<std::filesystem::path>& Files, const std::vector<Json>& Reports)
 {
     const TableRows Rows = RowsOf(Files, Reports);
-    std::vector<std::size_t> Widths(Rows.front().size());
+    std::vector<int> Widths(Rows.front().size());
     for (const auto& Row : Rows)
         for (std::size_t Col = 0; Col < Row.size(); ++Col)
-            Widths[Col] = std::max(Widths[Col], CharactersOf(Row[Col]));
+            Widths[Col] = std::max(Widths[Col], CharacterCount(Row[Col]));
 
     std::string Table;
     for (std::size_t Index = 0; Index < Rows.size(); ++Index) {
         for (std::size_t Col = 0; Col < Widths.size(); ++Col) {
             const std::string& Cell = Rows[Index][Col];
-            const std::string Blanks(Widths[Col] - CharactersOf(Cell), ' ');
+            const std::string Blanks(static_cast<std::size_t>(Widths[Col] - CharacterCount(Cell)), ' ');
             const bool Words = Col < 2; // the first columns hold words, the others figures
             Table += (Words ? Cell + Blanks : Blanks + Cell) + (Col + 1 < Widths.size() ? "   " : "\n");
         }

@@ -130,7 +130,7 @@ std::string Shortened(const std::string& Text, std::size_t Longest = LongestShow
 {
     if (Text.size() <= Longest) return Text;
     std::size_t End = Longest;
-    while (End > 0 && (Text[End] & 0xC0) == 0x80) --End; // not within a character
+    while (End > 0 && !StartsCharacter(Text[End])) --End; // not within a character
     return Text.substr(0, End) + "...";
 }
 

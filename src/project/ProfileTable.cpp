@@ -2,6 +2,7 @@
 #include "project/ProfileTable.h"
 
 #include "base/NumberText.h"
+#include "base/Text.h"
 #include "platform/Platform.h"
 #include "project/GridReading.h"
 #include "project/WorkingSet.h"
@@ -35,7 +36,7 @@ Array1<Single, 500>& ColumnArray(int Col)
 
 Array1<std::string, 21> MakeComponentTable()
 {
-    constexpr std::size_t Width = 20; // characters
+    constexpr int Width = 20; // characters
     constexpr std::array<const char*, 10> Names = {
         "Node",      "Reservoir", "Pumpstation", "Isolating valve", "Non-return valve",
         "Air valve", "90° bend",  "45° bend",    "22.5° bend",      "T-junction"};
@@ -43,10 +44,8 @@ Array1<std::string, 21> MakeComponentTable()
     for (int Entry = 1; Entry <= Table.LastIndex; ++Entry) {
         std::string Name =
             Entry <= static_cast<int>(Names.size()) ? Names.at(static_cast<std::size_t>(Entry - 1)) : "";
-        const auto Characters = std::count_if(Name.begin(), Name.end(), [](char Each) {
-            return (static_cast<unsigned char>(Each) & 0xC0) != 0x80; // not the inside of a UTF-8 character
-        });
-        Table[Entry] = Name + std::string(Width - static_cast<std::size_t>(Characters), ' ');
+        const int Blanks = Width - CharacterCount(Name);
+        Table[Entry] = Name + std::string(static_cast<std::size_t>(Blanks), ' ');
     }
     return Table;
 }

@@ -1,6 +1,7 @@
 // The events of the grids and of the editors over them.
 #include "shell/GridEditor.h"
 
+#include "base/Text.h"
 #include "platform/Keys.h"
 #include "platform/Platform.h"
 #include "project/ProfileTable.h"
@@ -18,28 +19,13 @@ namespace {
 
 // Texts are UTF-8; a typed key and the caret count characters.
 
-constexpr bool StartsCharacter(char Byte)
-{
-    return (static_cast<unsigned char>(Byte) & 0xC0) != 0x80;
-}
-
-int Length(const std::string& Text)
-{
-    return static_cast<int>(std::count_if(Text.begin(), Text.end(), StartsCharacter));
-}
-
 // The typed character; nothing for a control key and for a code that is no character.
 std::string Character(int Key)
 {
     constexpr int FirstPrintable = 32;
     const bool Control = Key < FirstPrintable || (Key >= 0x7F && Key < 0xA0);
     const bool Surrogate = Key >= 0xD800 && Key <= 0xDFFF;
-    if (Control || Surrogate || Key > 0x10FFFF) return {};
-    const auto Tail = [Key](int Shift) { return static_cast<char>(0x80 | (Key >> Shift & 0x3F)); };
-    if (Key < 0x80) return {static_cast<char>(Key)};
-    if (Key < 0x800) return {static_cast<char>(0xC0 | Key >> 6), Tail(0)};
-    if (Key < 0x10000) return {static_cast<char>(0xE0 | Key >> 12), Tail(6), Tail(0)};
-    return {static_cast<char>(0xF0 | Key >> 18), Tail(12), Tail(6), Tail(0)};
+    return Control || Surrogate || Key > 0x10FFFF ? std::string() : Utf8Of(static_cast<char32_t>(Key));
 }
 
 // The text without the character before the caret.
@@ -130,7 +116,7 @@ void OpenEditor(const CellEditing& Editing)
 {
     TextBox& Editor = Editing.Editor;
     Editor.Text = CurrentText(Editing.Table);
-    Editor.SelStart = Length(Editor.Text);
+    Editor.SelStart = CharacterCount(Editor.Text.Get());
     Editor.Visible = true;
     System().SetFocus(Editor);
 }
@@ -166,7 +152,7 @@ void KeyPressInGrid(const CellEditing& Editing, int& Key)
     if (!OnEditableCell(Editing)) return;
     if (Contains(Editing.FilteredInGrid, Table.Col()) && !IsCellNumberKey(Typed)) return;
     const std::string& Old = CurrentText(Table);
-    Write(Table, Typed == Keys::Backspace ? WithoutCharacterBefore(Old, Length(Old)) : Typing);
+    Write(Table, Typed == Keys::Backspace ? WithoutCharacterBefore(Old, CharacterCount(Old)) : Typing);
     OpenEditor(Editing);
 }
 
@@ -200,7 +186,7 @@ void KeyPressInEditor(const CellEditing& Editing, int& Key)
     case Keys::Right:
     case Keys::Down: Write(Table, Editor.Text); break;
     default:
-        if (Editor.MaxLength == 0 || Length(Editor.Text) < Editor.MaxLength)
+        if (Editor.MaxLength == 0 || CharacterCount(Editor.Text.Get()) < Editor.MaxLength)
             Write(Table, Editor.Text.Get() + Character(Key));
     }
 }
@@ -210,7 +196,7 @@ bool LeavesText(const TextBox& Editor, int Key)
 {
     switch (Key) {
     case Keys::Left: return Editor.SelStart == 0;
-    case Keys::Right: return Editor.SelStart >= Length(Editor.Text);
+    case Keys::Right: return Editor.SelStart >= CharacterCount(Editor.Text.Get());
     case Keys::Up:
     case Keys::Down: return true;
     default: return false;
@@ -237,7 +223,7 @@ void KeyDownInEditor(const CellEditing& Editing, int& Key)
     TextBox& Editor = Editing.Editor;
     if (Key == Keys::Escape) {
         Editor.Text = Editing.Table.Tag;
-        Editor.SelStart = Length(Editor.Text);
+        Editor.SelStart = CharacterCount(Editor.Text.Get());
     } else if (LeavesText(Editor, Key)) {
         const int Arrow = std::exchange(Key, 0);
         Commit(Editing);
