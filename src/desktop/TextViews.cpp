@@ -1,4 +1,5 @@
 // Views of text boxes.
+#include "base/CodePage.h"
 #include "desktop/Binding.h"
 #include "desktop/KeyEvents.h"
 #include "desktop/Views.h"
@@ -63,6 +64,22 @@ int CursorAt(const QString& Text, int Caret)
     return Cursor;
 }
 
+// The text in characters that a project file can hold, so that nothing changes unseen when it is saved: of a
+// letter with a foreign accent the letter stays, any other foreign character becomes "?".
+QString Storable(const QString& Text)
+{
+    QString Held;
+    for (const int Each : CodePoints(Text)) {
+        const auto Code = static_cast<char32_t>(Each);
+        const char32_t Plain =
+            InCodePage(Code)
+                ? Code
+                : QString::fromUcs4(&Code, 1).normalized(QString::NormalizationForm_KD).toUcs4().front();
+        Held += InCodePage(Plain) ? QString::fromUcs4(&Plain, 1) : QString("?");
+    }
+    return Held;
+}
+
 // Asks the record's handlers before it takes a key.
 template <typename Widget>
 class TextView : public Widget {
@@ -125,8 +142,16 @@ QLineEdit* MakeLine(TextBox& Record, int Bound)
         View->setText(QString::fromStdString(Text));
         View->setCursorPosition(View->hasFocus() ? Cursor : 0); // a text that doesn't fit shows its beginning
     });
-    QObject::connect(View, &QLineEdit::textChanged, View,
-                     [&Record, View](const QString& Text) { Enter(Record.Text, Text.toStdString(), View); });
+    QObject::connect(View, &QLineEdit::textChanged, View, [&Record, View](const QString& Text) {
+        const QString Held = Storable(Text);
+        if (Held != Text) {
+            const QSignalBlocker Once(View);
+            const int Cursor = View->cursorPosition();
+            View->setText(Held);
+            View->setCursorPosition(Cursor);
+        }
+        Enter(Record.Text, Held.toStdString(), View);
+    });
     Attach(Record, View);
     return View;
 }
@@ -135,6 +160,20 @@ QLineEdit* MakeLine(TextBox& Record, int Bound)
 std::string RecordText(const QPlainTextEdit& View)
 {
     return View.toPlainText().replace('\n', "\r\n").toStdString();
+}
+
+void HoldStorable(QPlainTextEdit& View)
+{
+    const QString Text = View.toPlainText();
+    const QString Held = Storable(Text);
+    if (Held == Text) return;
+    QTextCursor Cursor = View.textCursor();
+    const int Caret = Cursor.position();
+    Cursor.joinPreviousEditBlock();
+    Cursor.select(QTextCursor::Document);
+    Cursor.insertText(Held);
+    Cursor.endEditBlock();
+    MoveCursor(View, Caret);
 }
 
 // Takes back what is too much of the text that was just put in, which ends at the caret.
@@ -177,6 +216,7 @@ QPlainTextEdit* MultilineView(TextBox& Record)
     QObject::connect(View, &QPlainTextEdit::textChanged, View, [&Record, View, Bound] {
         {
             const QSignalBlocker Once(View);
+            HoldStorable(*View);
             HoldBound(*View, Bound);
         }
         Enter(Record.Text, RecordText(*View), View);
