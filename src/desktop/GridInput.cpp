@@ -164,6 +164,7 @@ void GridView::focusInEvent(QFocusEvent*)
 
 void GridView::focusOutEvent(QFocusEvent*)
 {
+    HeldKey = 0; // it comes up elsewhere
     viewport()->update();
 }
 
