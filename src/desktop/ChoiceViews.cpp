@@ -3,6 +3,7 @@
 #include "desktop/Icons.h"
 #include "desktop/Views.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
 #include <QPushButton>
@@ -20,10 +21,19 @@ void Click(const Handler& Clicked)
     Guarded([&] { Clicked(); });
 }
 
+// A list of long entries may get narrower than they are where the window has less room; opened, it shows
+// them whole.
 void SetEntries(QComboBox& View, const std::vector<std::string>& Entries)
 {
+    constexpr std::size_t LeastLetters = 12;
+    std::size_t Longest = 0;
     View.clear();
-    for (const std::string& Each : Entries) View.addItem(QString::fromStdString(Each).trimmed());
+    for (const std::string& Each : Entries) {
+        View.addItem(QString::fromStdString(Each).trimmed());
+        Longest = std::max(Longest, Each.size());
+    }
+    View.setMinimumContentsLength(Longest > LeastLetters ? LeastLetters : 0);
+    View.view()->setMinimumWidth(std::max(View.view()->minimumWidth(), View.sizeHint().width()));
 }
 
 // Qt's group keeps one of its options checked; the record may have none.

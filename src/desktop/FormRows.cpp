@@ -169,7 +169,10 @@ QLabel* MutedText(const QString& Words)
 
 QWidget* DigitsWide(QWidget* Field, int Digits)
 {
-    Field->setFixedWidth(Field->fontMetrics().horizontalAdvance('0') * Digits + 2 * CardMargin);
+    constexpr double LeastPart = 0.6;
+    const int Width = Field->fontMetrics().horizontalAdvance('0') * Digits;
+    Field->setMaximumWidth(Width + 2 * CardMargin);
+    Field->setMinimumWidth(static_cast<int>(Width * LeastPart) + 2 * CardMargin);
     return Field;
 }
 

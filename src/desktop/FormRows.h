@@ -57,7 +57,7 @@ void NameField(QWidget* Field, const QString& Name);
 QLabel* Text(const QString& Words);
 QLabel* MutedText(const QString& Words);
 
-// A field as wide as so many digits.
+// A field as wide as so many digits, or a little narrower where the window has less room.
 QWidget* DigitsWide(QWidget* Field, int Digits);
 
 // Gives the number fields of bars that stand under each other one width.
