@@ -60,14 +60,22 @@ bool SavingStarts()
     return true;
 }
 
-void SaveInPlace()
+bool HasFile()
+{
+    return frmLCC.lblFileName.Caption.Get() != NewProjectCaption;
+}
+
+// False when a check has failed or the file couldn't be written; the user has been told.
+bool SaveInPlace()
 {
     try {
         CommitProject();
         HideProgress();
+        return Committing == 0;
     } catch (const Failure& Problem) {
         Saved = 0;
         ReportFailure(Problem.what());
+        return false;
     }
 }
 
@@ -207,10 +215,10 @@ void OpenProjectFile(const std::filesystem::path& Path)
 void SaveCommand()
 {
     if (!SavingStarts()) return;
-    if (frmLCC.lblFileName.Caption.Get() == NewProjectCaption)
-        SaveProjectAs();
-    else
+    if (HasFile())
         SaveInPlace();
+    else
+        SaveProjectAs();
 }
 
 void SaveAsCommand()
@@ -235,6 +243,15 @@ void SaveProjectAs()
     }
     if (!Chosen) return HideProgress();
     SaveTo(*Chosen);
+}
+
+bool SaveToViewProfile()
+{
+    ShowDoing("Saving project");
+    if (HasFile()) return SaveInPlace();
+    Warn("The project must first be saved before the profile can be viewed");
+    SaveProjectAs();
+    return HasFile();
 }
 
 void DeleteCommand()

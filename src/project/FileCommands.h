@@ -31,6 +31,11 @@ void SaveCommand();
 void SaveAsCommand();
 void SaveProjectAs();
 
+// Saves the project as it stands on the input screen, which stays, so that the profile view shows what is
+// stored. False when that wasn't done: a check has failed, the file can't be written, or the user has
+// cancelled.
+bool SaveToViewProfile();
+
 // Deletes the project's file after a question. A project that has changed isn't deleted.
 void DeleteCommand();
 void DeleteProject();

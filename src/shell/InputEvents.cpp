@@ -3,6 +3,7 @@
 
 #include "project/CommitFields.h"
 #include "project/CostTables.h"
+#include "project/FileCommands.h"
 #include "project/HourPattern.h"
 #include "project/InputScreen.h"
 #include "project/ProfileTable.h"
@@ -15,6 +16,7 @@
 #include "shell/Help.h"
 #include "shell/Hints.h"
 #include "shell/KeyFilters.h"
+#include "shell/Shell.h"
 
 namespace velorix {
 namespace {
@@ -59,31 +61,31 @@ void PumpDemandUnitsChosen()
 // txtGFlowrate takes any key.
 void ConnectNumberKeys()
 {
-    for (TextBox* Each : {&frmLCC.txtKsNew,
-                          &frmLCC.txtKsOld,
-                          &frmLCC.txtKsOldYears,
+    for (TextBox* Each : {&frmLCC.txtPFlowrate,
+                          &frmLCC.txtPumpOperatingFlowrate,
+                          &frmLCC.txtPumpEfficiency,
                           &frmLCC.txtTRWL,
                           &frmLCC.txtBRWL,
                           &frmLCC.txtPPRWL,
                           &frmLCC.txtPERWL,
-                          &frmLCC.txtPFlowrate,
-                          &frmLCC.txtPumpOperatingFlowrate,
-                          &frmLCC.txtSPeak,
-                          &frmLCC.txtPumpEfficiency,
+                          &frmLCC.txtKsNew,
+                          &frmLCC.txtKsOld,
+                          &frmLCC.txtKsOldYears,
                           &frmLCC.txtLiningThickness,
+                          &frmLCC.txtSPeak,
                           &frmLCC.txtSStandard,
                           &frmLCC.txtSOffpeak,
                           &frmLCC.txtWPeak,
                           &frmLCC.txtWStandard,
                           &frmLCC.txtWOffpeak,
                           &frmLCC.txtEscalation,
-                          &frmLCC.txtElectrical,
-                          &frmLCC.txtEnergyEscalation,
                           &frmLCC.txtDiscountRate,
+                          &frmLCC.txtEnergyEscalation,
                           &frmLCC.txtMechanical,
+                          &frmLCC.txtElectrical,
+                          &frmLCC.txtSupervision,
                           &frmLCC.txtWaterSales,
-                          &frmLCC.txtWaterIncrease,
-                          &frmLCC.txtSupervision})
+                          &frmLCC.txtWaterIncrease})
         Each->KeyPress = KeepNumberKey;
     for (auto* Column : {&frmLCC.txtH, &frmLCC.txtQ, &frmLCC.txtEfficiency})
         for (TextBox& Each : *Column) Each.KeyPress = KeepNumberKey;
@@ -175,6 +177,14 @@ void ConnectFrames()
     frmLCC.sscCancelLaying.Click = CloseLaying; // what was typed stays in the grid
 }
 
+void ConnectViews()
+{
+    frmLCC.sscViewProfile.Click = [] {
+        if (SaveToViewProfile()) ShowProfile();
+    };
+    frmLCC.sscViewCurve.Click = [] { ShowPumpCurve(); };
+}
+
 void ConnectRows()
 {
     frmLCC.sscAdd.Click = [] { ChangeProfileRows(InsertProfileRow); };
@@ -209,6 +219,7 @@ void ConnectInputScreen()
     ConnectOptions();
     ConnectHours();
     ConnectFrames();
+    ConnectViews();
     ConnectRows();
     ConnectHelp();
 }

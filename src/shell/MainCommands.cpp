@@ -87,8 +87,6 @@ void ConnectMainWindow()
     MDIProject.sscSave.Click = SaveCommand;
     MDIProject.sscPrint.Click = PrintCommand;
     HelpOn(MDIProject.sscHelp, 1000);
-    frmLCC.sscViewProfile.Click = [] { ShowProfile(); };
-    frmLCC.sscViewCurve.Click = [] { ShowPumpCurve(); };
     MDIProject.tmrWelcome.Tick = WelcomeTick;
     MDIProject.tmrCurrency.Tick = RefreshCurrency;
     MDIProject.sspProject.MouseMove = [] { MDIProject.StatusText.Caption = ""; };

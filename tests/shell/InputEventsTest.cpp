@@ -102,6 +102,38 @@ TEST_F(InputEventsTest, TheLifeOfAPumpingProjectLeavesItsDemand)
     EXPECT_EQ(frmLCC.msgPumpDemand.Rows(), PumpRows);
 }
 
+// The view shows what is stored, so it comes up only over a project that has been saved.
+TEST_F(InputEventsTest, TheProfileIsSavedAheadOfItsView)
+{
+    int Views = 0;
+    ShowProfile = [&Views] { ++Views; };
+    const auto Press = [&] {
+        Windows.Messages.clear();
+        frmLCC.sscViewProfile.Click();
+        return Views;
+    };
+    EXPECT_EQ(Press(), 0);
+    ASSERT_EQ(Windows.Messages.size(), 2U);
+    EXPECT_EQ(Windows.Messages[0].Text, "The project must first be saved before the profile can be viewed");
+    EXPECT_EQ(Windows.Messages[1].Text, "Enter the project name !");
+
+    frmLCC.txtProject.Text = "Ridge main";
+    frmLCC.txtDesigner.Text = "M. Naidoo";
+    EXPECT_EQ(Press(), 0) << "no file chosen";
+    EXPECT_TRUE(frmLCC.Visible);
+
+    Windows.Files = {std::filesystem::temp_directory_path() / "velorix-view-test.vlx"};
+    std::filesystem::remove(*Windows.Files.front());
+    EXPECT_EQ(Press(), 1);
+    frmLCC.txtProject.Text = "Ridge main, phase 2";
+    EXPECT_EQ(Press(), 2);
+    EXPECT_EQ(wProject, "Ridge main, phase 2");
+    frmLCC.txtTRWL.Text = "";
+    EXPECT_EQ(Press(), 2) << "a check has failed";
+    std::filesystem::remove(FileName);
+    ShowProfile = {};
+}
+
 TEST_F(InputEventsTest, OptionsShowTheirFields)
 {
     frmLCC.optGCalculatedFlowrate.Value = true;

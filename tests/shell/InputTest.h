@@ -44,15 +44,14 @@ protected:
 private:
     static constexpr int OtherKey = 1; // the code of a pressed key is of no matter where a character follows
 
-    // The events in the order in which a view raises them.
+    // The events in the order in which a view raises them. The key is let go where the focus is then.
     void Send(int Code, int Character)
     {
-        if (auto* Table = dynamic_cast<Grid*>(Windows.Focused)) {
-            SendToGrid(*Table, Code, Character);
-            if (Windows.Focused == Table) Table->KeyUp(Code); // let go where it was pressed
-        } else if (auto* Box = dynamic_cast<TextBox*>(Windows.Focused)) {
+        if (auto* Pressed = dynamic_cast<Grid*>(Windows.Focused))
+            SendToGrid(*Pressed, Code, Character);
+        else if (auto* Box = dynamic_cast<TextBox*>(Windows.Focused))
             SendToBox(*Box, Code, Character);
-        }
+        if (auto* Table = dynamic_cast<Grid*>(Windows.Focused)) Table->KeyUp(Code);
     }
 
     static void SendToGrid(Grid& Table, int Code, int Character)
