@@ -48,10 +48,8 @@ void AnalyseDialogLoads()
 {
     frmAnalyse.tmrMatrix.Enabled = true;
     frmAnalyse.tmrStopMatrix.Enabled = true;
-    if (Analysed == 1) {
-        frmResults.Unload();
-        Analysed = 0;
-    }
+    if (frmResults.IsLoaded()) frmResults.Unload(); // after a failed analysis too
+    Analysed = 0;
 }
 
 void EndDecoration()

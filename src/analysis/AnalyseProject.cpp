@@ -29,16 +29,6 @@ void ShowProgress(int Percent)
     System().Repaint();
 }
 
-// The results are complete by now: a fault in showing them costs the picture, not the analysis.
-void Show(void (*Part)())
-{
-    try {
-        Part();
-    } catch (const Failure&) {
-        ClearArithmeticFlags();
-    }
-}
-
 void LoadResultsHidden()
 {
     frmResults.LoadHidden();
@@ -54,15 +44,15 @@ void ShowDutyCommand()
 
 void HandOverToResults()
 {
-    Show(ShowHeadlines);
+    ShowHeadlines();
     ShowProgress(75);
-    Show(ShowDutyCommand);
+    ShowDutyCommand();
     ShowProgress(80);
-    Show(FillCapitalCostTable);
+    FillCapitalCostTable();
     ShowProgress(85);
-    Show(FillCombos);
+    FillCombos();
     ShowProgress(90);
-    Show(TakeProfileForPlot);
+    TakeProfileForPlot();
     ShowProgress(95);
     ShowProgress(100);
 }
@@ -109,8 +99,8 @@ void RunAnalysis()
 
 void RefreshResults()
 {
-    Show(FillCapitalCostTable);
-    Show(FillCombos);
+    FillCapitalCostTable();
+    FillCombos();
 }
 
 void AnalyseProject()
