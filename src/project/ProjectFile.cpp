@@ -61,6 +61,8 @@ void ReadProjectRecord()
 void WriteProjectFile(const std::filesystem::path& Path, const ProjectFields& Record, ShortFile Rule)
 {
     CompleteInterruptedWrite(Path);
+    std::error_code Unknown;
+    const bool New = !std::filesystem::exists(Path, Unknown);
     File Target = File::OpenToWrite(Path);
     const std::uintmax_t Length = Target.Length();
     std::int64_t Number = RecordNumber(Length);
@@ -76,6 +78,7 @@ void WriteProjectFile(const std::filesystem::path& Path, const ProjectFields& Re
         Target.Flush();
     } catch (const FileFailure&) {
         PutBack(Path, Target, Change);
+        if (New) std::filesystem::remove(Path, Unknown); // opened, an empty file would pass for a project
         throw;
     }
     ForgetNote(Path);

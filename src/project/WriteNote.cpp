@@ -93,10 +93,14 @@ void FlushFolder(const std::filesystem::path& Entry)
     ::close(Handle);
 }
 
-bool FolderTakesFiles(const std::filesystem::path& Entry)
+// Nothing where there can't be such a file: a folder closed to the user, a name that is taken.
+std::optional<File> CreateNote(const std::filesystem::path& Path)
 {
-    const std::filesystem::path Folder = Entry.has_parent_path() ? Entry.parent_path() : ".";
-    return ::access(Folder.c_str(), W_OK | X_OK) == 0;
+    try {
+        return File::CreateNew(Path);
+    } catch (const FileFailure&) {
+        return std::nullopt;
+    }
 }
 
 // Leaves room in the longest name that a file can have for what the note's name adds.
@@ -128,12 +132,12 @@ std::filesystem::path NotePath(const std::filesystem::path& Project)
 void NoteWrite(const std::filesystem::path& Project, const PendingWrite& Change)
 {
     const std::filesystem::path Path = NotePath(Project);
-    if (!FolderTakesFiles(Path)) return;
+    std::optional<File> Note = CreateNote(Path);
+    if (!Note) return;
     const std::string Bytes = ToBytes(Change);
     try {
-        File Note = File::CreateNew(Path);
-        Note.Write(0, Bytes.data(), Bytes.size());
-        Note.Flush();
+        Note->Write(0, Bytes.data(), Bytes.size());
+        Note->Flush();
     } catch (const FileFailure&) {
         ForgetNote(Project);
         throw;

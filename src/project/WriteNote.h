@@ -20,8 +20,8 @@ struct PendingWrite {
 // The note of a project file stands beside it, hidden, under a name of its own.
 std::filesystem::path NotePath(const std::filesystem::path& Project);
 
-// Writes the note, on the disk when it returns. Where the folder takes no new file at all, the write goes on
-// without one. Throws FileFailure when there is no room for it: then there is none for the record either.
+// Writes the note, on the disk when it returns. Where no such file can be made, the write goes on without
+// one. Throws FileFailure when there is no room for its bytes: nothing is written to a full disk.
 void NoteWrite(const std::filesystem::path& Project, const PendingWrite& Change);
 
 // Finishes the write that a note tells of, if the file holds nothing but old and new bytes in the record's
