@@ -23,16 +23,7 @@ QString StartFolder(const std::filesystem::path& Wanted)
 QString SuffixOf(const QString& Filter)
 {
     const QString Pattern = Filter.section('(', -1).section(')', 0, 0).section(' ', 0, 0);
-    return Pattern.startsWith("*.") && Pattern != "*.*" ? Pattern.mid(2) : QString();
-}
-
-// Where a filter takes all files, the first that asks for one tells it.
-QString DefaultSuffix(const QString& Chosen, const QStringList& Filters)
-{
-    QString Suffix = SuffixOf(Chosen);
-    for (const QString& Each : Filters)
-        if (Suffix.isEmpty()) Suffix = SuffixOf(Each);
-    return Suffix;
+    return Pattern.startsWith("*.") ? Pattern.mid(2) : QString();
 }
 
 std::optional<std::filesystem::path> Ask(const FileDialog& Dialog, QFileDialog::AcceptMode Mode)
@@ -49,9 +40,7 @@ std::optional<std::filesystem::path> Ask(const FileDialog& Dialog, QFileDialog::
     Window.setNameFilters(Filters);
     if (!Filters.isEmpty())
         Window.selectNameFilter(Filters.value(Dialog.FilterIndex - 1, Filters.constFirst()));
-    const auto SetSuffix = [&Window, &Filters](const QString& Chosen) {
-        Window.setDefaultSuffix(DefaultSuffix(Chosen, Filters));
-    };
+    const auto SetSuffix = [&Window](const QString& Chosen) { Window.setDefaultSuffix(SuffixOf(Chosen)); };
     if (Saves) {
         SetSuffix(Window.selectedNameFilter());
         QObject::connect(&Window, &QFileDialog::filterSelected, &Window, SetSuffix);
@@ -67,9 +56,10 @@ QStringList NameFilters(const std::string& Filter)
 {
     QStringList Filters;
     const QStringList Parts = QString::fromStdString(Filter).split('|');
-    for (qsizetype Name = 0; Name + 1 < Parts.size(); Name += 2)
-        Filters += Parts[Name].section('(', 0, 0).trimmed() + " (" +
-                   QString(Parts[Name + 1]).replace(';', ' ') + ')';
+    for (qsizetype Name = 0; Name + 1 < Parts.size(); Name += 2) {
+        const QString Patterns = Parts[Name + 1].trimmed().replace(';', ' ').replace("*.*", "*");
+        Filters += Parts[Name].section('(', 0, 0).trimmed() + " (" + Patterns + ')';
+    }
     return Filters;
 }
 

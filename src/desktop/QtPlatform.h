@@ -61,7 +61,8 @@ bool OnlyPainting();
 // beside it when the program is installed there. A folder with projects beside the binary wins.
 std::filesystem::path ProgramFolderOf(const std::filesystem::path& BinaryFolder);
 
-// "Name (*.a *.b)" of each pair of a filter such as "Name|*.a;*.b|All files|*.*".
+// "Name (*.a *.b)" of each pair of a filter such as "Name|*.a;*.b|All files|*.*". All files are "(*)": the
+// toolkit would take "*.*" for names with a point only.
 QStringList NameFilters(const std::string& Filter);
 
 } // namespace velorix
