@@ -26,7 +26,9 @@ void ReportFailure(const std::string& Reason)
 {
     HideProgress();
     Warn(Reason);
-    if (ProjectOpen == 1) ShowInputScreen();
+    if (ProjectOpen != 1) return;
+    ShowInputScreen();
+    ShowTitle();
 }
 
 void StopWelcome()
@@ -60,11 +62,6 @@ bool SavingStarts()
     return true;
 }
 
-bool HasFile()
-{
-    return frmLCC.lblFileName.Caption.Get() != NewProjectCaption;
-}
-
 // False when a check has failed or the file couldn't be written; the user has been told.
 bool SaveInPlace()
 {
@@ -93,16 +90,21 @@ bool HasExtension(const std::filesystem::path& Path)
     return Path.extension().string().size() > 1;
 }
 
-// The dialog has asked about replacing the file of the name as typed; once the extension is added it may be
-// another file.
+bool IsFile(const std::filesystem::path& Path)
+{
+    std::error_code Unknown;
+    return std::filesystem::is_regular_file(Path, Unknown);
+}
+
+// A new file gets the extension when its name was typed without one. The dialog has asked about replacing the
+// file of the name as typed, this may be another.
 std::optional<std::filesystem::path> AskWhereToSave(const FileDialog& Dialog)
 {
     while (true) {
         std::optional<std::filesystem::path> Chosen = System().AskFileToSave(Dialog);
-        if (!Chosen || HasExtension(*Chosen)) return Chosen;
+        if (!Chosen || HasExtension(*Chosen) || IsFile(*Chosen)) return Chosen;
         Chosen->replace_extension(ProjectExtension);
-        std::error_code Unknown;
-        if (!std::filesystem::exists(*Chosen, Unknown) ||
+        if (!IsFile(*Chosen) ||
             Confirm(Chosen->filename().string() + " already exists. Do you want to replace it ?"))
             return Chosen;
     }
@@ -132,11 +134,14 @@ void SaveTo(const std::filesystem::path& Path)
     }
 }
 
-// Files only: a folder, or a file that isn't there, can't be deleted.
-bool DeleteFile(const std::filesystem::path& Path)
+// Deletes the file of the trimmed FileName. Files only: a folder, or a file that isn't there, can't be
+// deleted; nor one whose name is that of the project but for blanks.
+bool DeleteProjectFile()
 {
+    const std::string Path = Trim(FileName);
+    if (Path != FileName && IsFile(FileName)) return false;
     std::error_code Refused;
-    return std::filesystem::is_regular_file(Path, Refused) && std::filesystem::remove(Path, Refused);
+    return IsFile(Path) && std::filesystem::remove(Path, Refused);
 }
 
 } // namespace
@@ -272,7 +277,7 @@ void DeleteProject()
         frmLCC.Visible = true;
         return;
     }
-    if (!DeleteFile(Trim(FileName))) {
+    if (!DeleteProjectFile()) {
         System().Show(
             {.Text = "Could not delete the project.", .Title = "Error !", .Icon = MessageIcon::None});
         return;
@@ -281,6 +286,7 @@ void DeleteProject()
     Saved = 0;
     frmLCC.Visible = false;
     if (Analysed == 1) frmResults.Visible = false;
+    MDIProject.Caption = ProgramTitle;
     Warn("The current project was successfully deleted");
 }
 

@@ -31,9 +31,9 @@ void SaveCommand();
 void SaveAsCommand();
 void SaveProjectAs();
 
-// Saves the project as it stands on the input screen, which stays, so that the profile view shows what is
-// stored. False when that wasn't done: a check has failed, the file can't be written, or the user has
-// cancelled.
+// Saves the project ahead of the profile view, from the input screen, which stays. False when a check has
+// failed, the file can't be written, or a project without a file was given none. A SaveAs of 1 keeps this
+// save from writing too: the view then shows what the commit has taken.
 bool SaveToViewProfile();
 
 // Deletes the project's file after a question. A project that has changed isn't deleted.

@@ -23,15 +23,17 @@ std::string FileName;
 bool RedrawProfileView = false;
 Handler ProjectLoaded;
 
-namespace {
-
-void ShowFileAndTitle()
+bool HasFile()
 {
-    frmLCC.lblFileName.Caption = Trim(FileName);
-    MDIProject.Caption = wProject.empty() ? ProgramTitle : ProgramTitle + " (" + wProject + ")";
+    return frmLCC.lblFileName.Caption.Get() != NewProjectCaption;
 }
 
-} // namespace
+void ShowTitle()
+{
+    MDIProject.tmrWelcome.Enabled = false; // it would write over the title
+    const bool Named = HasFile() && !wProject.empty();
+    MDIProject.Caption = Named ? ProgramTitle + " (" + wProject + ")" : ProgramTitle;
+}
 
 void LoadProject()
 {
@@ -47,7 +49,10 @@ void LoadProject()
     ShowProgress(10);
     CopyRecordToWorkingSet();
     frmLCC.sstInput.TabVisible = std::vector<bool>(frmLCC.sstInput.TabCaptions.size(), true);
-    if (NewProject == 0) ShowFileAndTitle();
+    if (NewProject == 0) {
+        frmLCC.lblFileName.Caption = Trim(FileName);
+        ShowTitle();
+    }
     NewProject = 0;
 
     ShowProgress(50);
@@ -55,6 +60,7 @@ void LoadProject()
     ShowProgress(70);
     ShowProgress(100);
 
+    if (Analysed == 1) frmResults.Unload();
     Analysed = 0;
     ProjectOpen = 1;
     Saved = 1;

@@ -29,6 +29,12 @@ void NewProjectDefaults();
 // fills the input screen. Throws FileFailure, with everything as it was, when the file can't be read.
 void LoadProject();
 
+// Whether the open project has been opened from a file or saved to one.
+bool HasFile();
+
+// The title of the main window: the program's name, with that of the project once it has a file.
+void ShowTitle();
+
 // Every edit of the input ends here: the results are thrown away, the project is neither analysed nor saved.
 void MarkChanged();
 

@@ -9,8 +9,19 @@
 
 namespace velorix {
 
+namespace {
+
+// The hint of a field goes with its screen.
+void ClearHint()
+{
+    MDIProject.StatusText.Caption = "";
+}
+
+} // namespace
+
 void HideScreens()
 {
+    ClearHint();
     if (frmLCC.Visible) {
         frmLCC.Visible = false;
         ViewState = 1;
@@ -34,6 +45,7 @@ void RestoreScreens()
 void LeaveProjectScreens()
 {
     if (ProjectOpen != 1) return;
+    ClearHint();
     frmLCC.Visible = false;
     for (Screen* Viewer : std::initializer_list<Screen*>{&frmView, &frmPumpView})
         if (Viewer->Visible) Viewer->Unload();

@@ -125,7 +125,7 @@ void ResultsCommand()
 {
     if (Analysed != 1) {
         Warn("Project has not been analysed.");
-        if (ProjectOpen == 1) frmLCC.Visible = true;
+        if (ProjectOpen == 1) ShowInputScreen();
         return;
     }
     frmLCC.Visible = false;
