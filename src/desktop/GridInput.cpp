@@ -18,7 +18,7 @@ namespace {
 
 constexpr int LeftButton = 1;
 constexpr int RightButton = 2;
-constexpr int NoMenuButton = 4; // a press that opens nothing, and still ends an editing
+constexpr int OtherButton = 4; // opens nothing, and still ends an editing
 
 // Up and Down choose in the list; these go on in the grid.
 bool LeavesList(const QKeyEvent& Key)
@@ -55,9 +55,10 @@ void GridView::keyPressEvent(QKeyEvent* Key)
         if (!IsData(First)) return;
         Guarded([&] { Record.Select(First.Row, First.Col); });
         ExtendTo({Record.Rows() - 1, Record.Cols() - 1});
-    } else if (AsksForMenu(*Key))
+    } else if (AsksForMenu(*Key)) {
+        BringUpCurrent();
         OpenMenu(viewport()->mapToGlobal(RectOf(Record.Row(), Record.Col()).bottomLeft()));
-    else if (!Extend(*Key))
+    } else if (!Extend(*Key))
         PressKey(*Key);
 }
 
@@ -120,20 +121,19 @@ void GridView::OpenMenu(QPoint OnScreen)
 void GridView::mousePressEvent(QMouseEvent* Press)
 {
     const bool Left = Press->button() == Qt::LeftButton;
-    if (!Left && Press->button() != Qt::RightButton) return Press->ignore();
+    const bool Right = Press->button() == Qt::RightButton;
     Settle();
     const Place Cell = CellAt(Press->position().toPoint());
-    if (IsData(Cell)) {
-        if (Left && Press->modifiers() & Qt::ShiftModifier) return ExtendTo(Cell);
+    if (IsData(Cell) && Left && Press->modifiers() & Qt::ShiftModifier) {
+        ExtendTo(Cell);
+    } else if (IsData(Cell) && (Left || Right)) {
         Guarded([&] { Record.Select(Cell.Row, Cell.Col); });
         Extent = Current();
     }
-    if (Left)
-        Guarded([this] { Record.MouseDown(LeftButton); });
-    else if (IsData(Cell))
+    if (Right && IsData(Cell))
         OpenMenu(Press->globalPosition().toPoint());
     else
-        Guarded([this] { Record.MouseDown(NoMenuButton); });
+        Guarded([&] { Record.MouseDown(Left ? LeftButton : OtherButton); });
     Settle();
 }
 
@@ -143,11 +143,10 @@ void GridView::mouseMoveEvent(QMouseEvent* Move)
         ExtendTo(DataCellNear(Move->position().toPoint()));
 }
 
-// Opens the cell, as F2 does.
 void GridView::mouseDoubleClickEvent(QMouseEvent* Press)
 {
     if (Press->button() == Qt::LeftButton && IsData(CellAt(Press->position().toPoint())))
-        PressDown(Record.KeyDown, Keys::F2);
+        Guarded([this] { Record.DblClick(); });
 }
 
 // The press has opened the menu already.

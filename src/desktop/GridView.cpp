@@ -130,6 +130,13 @@ void GridView::Reveal(int Row, int Col)
     Shift(*horizontalScrollBar(), Cell.left(), Cell.right(), Pane.left(), Pane.right());
 }
 
+// The current cell may have been scrolled away.
+void GridView::BringUpCurrent()
+{
+    if (IsData(Current())) Reveal(Record.Row(), Record.Col());
+    PlaceEditors();
+}
+
 void GridView::PlaceEditors()
 {
     if (!IsData(Current())) return;
@@ -293,19 +300,20 @@ bool GridView::eventFilter(QObject* Watched, QEvent* Event)
     switch (Event->type()) {
     case QEvent::Show:
         Settle();
-        if (IsData(Current())) Reveal(Record.Row(), Record.Col()); // the cell may have been scrolled away
-        PlaceEditors();
+        BringUpCurrent();
         break;
     case QEvent::Hide:
         if (Over->isHidden() && Over->hasFocus()) setFocus(); // the focus must not wander off with it
         break;
     case QEvent::KeyPress:
         HeldKey = SpecialKey(*static_cast<QKeyEvent*>(Event));
-        if (IsData(Current())) Reveal(Record.Row(), Record.Col());
+        BringUpCurrent();
         break;
     case QEvent::FocusIn:
-        if (Over == List && static_cast<QFocusEvent*>(Event)->reason() == Qt::OtherFocusReason)
+        if (Over == List && static_cast<QFocusEvent*>(Event)->reason() == Qt::OtherFocusReason) {
+            BringUpCurrent();
             QMetaObject::invokeMethod(List, &QComboBox::showPopup, Qt::QueuedConnection);
+        }
         [[fallthrough]];
     case QEvent::FocusOut: viewport()->update(); break;
     default: break;

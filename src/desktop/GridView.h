@@ -70,6 +70,7 @@ private:
     void Measure();
     void SetScrollRanges();
     void PlaceEditors();
+    void BringUpCurrent();
     void LayOver(QWidget& View);
 
     QSize SizeFor(int DataRows) const;

@@ -23,6 +23,13 @@ int ControlCharacter(int Key)
     }
 }
 
+bool HoldsChord(const QKeyEvent& Key)
+{
+    const Qt::KeyboardModifiers Held = Key.modifiers() & Chords;
+    const bool ThirdLevel = Held == (Qt::ControlModifier | Qt::AltModifier); // AltGr on some keyboards
+    return Held && !ThirdLevel;
+}
+
 int MovingKey(int Key)
 {
     switch (Key) {
@@ -49,11 +56,15 @@ int SpecialKey(const QKeyEvent& Key)
     return Key.modifiers() & Qt::ShiftModifier ? 0 : MovingKey(Key.key());
 }
 
+bool IsCommandKey(const QKeyEvent& Key)
+{
+    return HoldsChord(Key) && !(Key.modifiers() & Qt::ControlModifier) && !Key.text().isEmpty() &&
+           Key.text().front().isPrint();
+}
+
 std::vector<int> TypedKeys(const QKeyEvent& Key)
 {
-    const Qt::KeyboardModifiers Held = Key.modifiers() & Chords;
-    const bool ThirdLevel = Held == (Qt::ControlModifier | Qt::AltModifier); // AltGr on some keyboards
-    if (Held && !ThirdLevel) return {};
+    if (HoldsChord(Key)) return {};
     if (const int Code = ControlCharacter(Key.key())) return {Code};
     const QString Text = Key.text();
     if (Text.isEmpty() || !(Text.front().isPrint() || Text.front().isSurrogate())) return {};

@@ -18,6 +18,9 @@ int SpecialKey(const QKeyEvent& Key);
 // Empty for a key that types nothing and for a shortcut.
 std::vector<int> TypedKeys(const QKeyEvent& Key);
 
+// True for a character typed with Alt or Meta, which is meant as a command and not as text.
+bool IsCommandKey(const QKeyEvent& Key);
+
 // Raises the event for each character; false when the handler has dropped one.
 bool Press(const KeyHandler& Pressed, const std::vector<int>& Typed);
 

@@ -93,6 +93,7 @@ protected:
     void keyPressEvent(QKeyEvent* Key) override
     {
         const bool Escape = Key->key() == Qt::Key_Escape;
+        if (IsCommandKey(*Key)) return Key->ignore();
         if (!Allows(SpecialKey(*Key), TypedKeys(*Key))) {
             Key->setAccepted(!Escape); // a box never keeps its dialog from closing
             return;

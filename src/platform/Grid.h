@@ -57,7 +57,8 @@ struct Grid : Control {
     KeyHandler KeyPress;
     KeyHandler KeyDown;
     KeyHandler KeyUp;
-    Event<int> MouseDown; // the button: 1 left, 2 right
+    Event<int> MouseDown; // the button: 1 left, 2 right, 4 any other
+    Handler DblClick;     // with the left button, on the current cell
 
     Event<int, int> CellView; // tells the attached view that a cell has changed
     Handler ShapeView;        // tells it that rows or the current cell have

@@ -28,16 +28,10 @@ std::string Character(int Key)
     return Control || Surrogate || Key > 0x10FFFF ? std::string() : Utf8Of(static_cast<char32_t>(Key));
 }
 
-// The text without the character before the caret.
-std::string WithoutCharacterBefore(std::string Text, int Caret)
+std::string WithoutLastCharacter(std::string Text)
 {
-    int Seen = 0;
-    for (std::size_t Start = 0; Start < Text.size(); ++Start) {
-        if (!StartsCharacter(Text[Start]) || ++Seen != Caret) continue;
-        std::size_t End = Start + 1;
-        while (End < Text.size() && !StartsCharacter(Text[End])) ++End;
-        return Text.erase(Start, End - Start);
-    }
+    while (!Text.empty() && !StartsCharacter(Text.back())) Text.pop_back();
+    if (!Text.empty()) Text.pop_back();
     return Text;
 }
 
@@ -136,6 +130,12 @@ void KeyDownInGrid(const CellEditing& Editing, int& Key)
     OpenEditor(Editing);
 }
 
+// Unlike F2, which opens the filtered columns only.
+void DoubleClickInGrid(const CellEditing& Editing)
+{
+    if (OnEditableCell(Editing)) OpenEditor(Editing);
+}
+
 void KeyPressInGrid(const CellEditing& Editing, int& Key)
 {
     if (Key == Keys::Escape) return;
@@ -151,8 +151,7 @@ void KeyPressInGrid(const CellEditing& Editing, int& Key)
     }
     if (!OnEditableCell(Editing)) return;
     if (Contains(Editing.FilteredInGrid, Table.Col()) && !IsCellNumberKey(Typed)) return;
-    const std::string& Old = CurrentText(Table);
-    Write(Table, Typed == Keys::Backspace ? WithoutCharacterBefore(Old, CharacterCount(Old)) : Typing);
+    Write(Table, Typed == Keys::Backspace ? WithoutLastCharacter(CurrentText(Table)) : Typing);
     OpenEditor(Editing);
 }
 
@@ -164,31 +163,16 @@ void MouseDownInGrid(const CellEditing& Editing, int Button)
     if (Button == RightButton && Editing.Menu && OnDataCell(Editing.Table)) Editing.Menu->Visible = true;
 }
 
+// What else is typed reaches the cell by the editor's Change.
 void KeyPressInEditor(const CellEditing& Editing, int& Key)
 {
     Grid& Table = Editing.Table;
-    const TextBox& Editor = Editing.Editor;
-    if (Contains(Editing.FilteredInEditor, Table.Col()) && !IsCellNumberKey(Key)) {
-        Key = 0;
-        return;
-    }
-    switch (Key) {
-    case Keys::Enter:
-        Key = 0;
-        Commit(Editing);
-        Advance(Table);
-        System().SetFocus(Table);
-        break;
-    case Keys::Backspace: Write(Table, WithoutCharacterBefore(Editor.Text, Editor.SelStart)); break;
-    case Keys::Escape:
-    case Keys::Left:
-    case Keys::Up:
-    case Keys::Right:
-    case Keys::Down: Write(Table, Editor.Text); break;
-    default:
-        if (Editor.MaxLength == 0 || CharacterCount(Editor.Text.Get()) < Editor.MaxLength)
-            Write(Table, Editor.Text.Get() + Character(Key));
-    }
+    if (Contains(Editing.FilteredInEditor, Table.Col()) && !IsCellNumberKey(Key)) Key = 0;
+    if (Key != Keys::Enter) return;
+    Key = 0;
+    Commit(Editing);
+    Advance(Table);
+    System().SetFocus(Table);
 }
 
 // True when the pressed key leads out of the editor's text.
@@ -232,8 +216,8 @@ void KeyDownInEditor(const CellEditing& Editing, int& Key)
     }
 }
 
-// The key events see a text before the key is in it. What went into its middle, was pasted or deleted reaches
-// the cell here, so that the cell is right however the editor is left.
+// The cell mirrors its editor, whatever changes the text: keys, a paste, Escape. So it is right however the
+// editor is left.
 void EditorChanged(const CellEditing& Editing)
 {
     if (Editing.Editor.Visible) Write(Editing.Table, Editing.Editor.Text);
@@ -330,6 +314,7 @@ void ConnectGridEditor(const CellEditing& Editing)
             Editing.EnterOnLastRow();
     };
     Table.MouseDown = [&Editing](int Button) { MouseDownInGrid(Editing, Button); };
+    Table.DblClick = [&Editing] { DoubleClickInGrid(Editing); };
 
     Editing.Editor.KeyDown = [&Editing](int& Key) { KeyDownInEditor(Editing, Key); };
     Editing.Editor.KeyPress = [&Editing](int& Key) { KeyPressInEditor(Editing, Key); };
