@@ -26,6 +26,8 @@ public:
 
     void Fill(const T& Value) { Entries.fill(Value); }
 
+    bool operator==(const BoundedArray&) const = default;
+
     // The entries side by side, for kernels that have checked their range beforehand.
     T* Data() { return Entries.data(); }
     const T* Data() const { return Entries.data(); }

@@ -3,6 +3,7 @@
 
 #include "base/Format.h"
 #include "base/NumberText.h"
+#include "base/Text.h"
 #include "project/CommitFields.h"
 #include "project/CostTables.h"
 #include "project/HourPattern.h"
@@ -231,6 +232,25 @@ void ShowLiningOption()
     for (Control* Each : std::initializer_list<Control*>{&frmLCC.txtLiningThickness,
                                                          &frmLCC.comLiningThicknessUnits, &frmLCC.Label51})
         Each->Enabled = frmLCC.optMortar.Value;
+}
+
+void FillUnusedBoxes()
+{
+    const auto FillIfEmpty = [](TextBox& Box, Single Value) {
+        if (Trimmed(Box.Text.Get()).empty()) ShowNumber(Box, Value);
+    };
+    if (!frmLCC.optGSpecifiedFlowrate.Value) FillIfEmpty(frmLCC.txtGFlowrate, wFlowrate);
+    if (!frmLCC.optPumpFixed.Value) FillIfEmpty(frmLCC.txtPFlowrate, wFlowrate);
+    if (frmLCC.optPumpDetails.Value) {
+        FillIfEmpty(frmLCC.txtPumpOperatingFlowrate, wPumpOperatingFlowrate);
+        FillIfEmpty(frmLCC.txtPumpEfficiency, wPumpEfficiency);
+        return;
+    }
+    for (int Point = 0; Point < 6; ++Point) {
+        FillIfEmpty(frmLCC.txtH[Point], wPumpCurve[3 * Point + 1]);
+        FillIfEmpty(frmLCC.txtQ[Point], wPumpCurve[3 * Point + 2]);
+        FillIfEmpty(frmLCC.txtEfficiency[Point], wPumpCurve[3 * Point + 3]);
+    }
 }
 
 void ShowCurrencySigns()

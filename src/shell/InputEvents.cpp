@@ -36,9 +36,9 @@ void ConnectEdits()
     frmLCC.dtpDate.Change = MarkChanged;
 }
 
-// The table is read first, so that what was typed since the last reading shows again. Not so when the load
-// step has set the selector, to the unit that is stored or, for a unit that the list doesn't know, to none:
-// the table still shows the project before then.
+// The table is read first, so that what was typed since the last reading shows again; rows behind one without
+// level and length go, as at a load. Not so when the load step has set the selector, to the unit that is
+// stored or, for a unit that the list doesn't know, to none: the table still shows the project before then.
 void DiameterUnitsChosen()
 {
     MarkChanged();
@@ -128,11 +128,15 @@ void ConnectBars()
     ConnectBar(frmLCC.hscMElectrical, frmLCC.lblMElectrical, wMElectrical, PercentCaption);
 }
 
+// A box that goes out of use isn't left empty: the commit reads it all the same, and the user couldn't reach
+// it to mend that.
 void ConnectOption(OptionButton& Option, void (*ShowOption)())
 {
     Option.Click = [ShowOption] {
         MarkChanged();
         ShowOption();
+        FillUnusedBoxes();
+        for (const Grid* Each : {&frmLCC.msgDemand, &frmLCC.msgPumpDemand}) SettleGridEditor(*Each);
     };
 }
 
@@ -171,7 +175,9 @@ void ConnectFrames()
     frmLCC.sscOK.Click = [] { frmLCC.fraPumpDetails.Visible = false; };
     frmLCC.sscLaying.Click = [] { frmLCC.fraLaying.Visible = true; };
     frmLCC.sscHideLaying.Click = [] {
+        const auto Before = wLaying;
         ReadLayingGrid();
+        if (!(wLaying == Before)) MarkChanged(); // cells that were typed ahead of an analysis
         CloseLaying();
     };
     frmLCC.sscCancelLaying.Click = CloseLaying; // what was typed stays in the grid
