@@ -35,6 +35,10 @@ void ShowView(QWidget* View, bool Visible)
     ShowBuddies(View);
 }
 
+// The control that was last told of its focus. A window that comes to the front again gives the focus back to
+// its field, which is no news then.
+const Control* LastFocused = nullptr;
+
 // Raises the events of focus and pointer.
 class ViewEvents : public QObject {
 public:
@@ -46,7 +50,7 @@ public:
 
     bool eventFilter(QObject* Watched, QEvent* Event) override
     {
-        if (Event->type() == QEvent::FocusIn) Guarded([this] { Record.GotFocus(); });
+        if (Event->type() == QEvent::FocusIn) TakeFocus(static_cast<QFocusEvent*>(Event)->reason());
         if (Event->type() != QEvent::MouseMove || !Record.MouseMove) return false;
         Guarded([this] { Record.MouseMove(); });
         // Nobody wants to know of a bare move, and what lies below must not believe that the pointer is on
@@ -56,6 +60,11 @@ public:
     }
 
 private:
+    void TakeFocus(Qt::FocusReason Reason)
+    {
+        if (Reason != Qt::ActiveWindowFocusReason || LastFocused != &Record) TellFocus(Record);
+    }
+
     Control& Record;
 };
 
@@ -73,6 +82,18 @@ public:
 
 } // namespace
 
+void RaiseEvents(Control& Record, QWidget* View)
+{
+    View->setMouseTracking(true);
+    View->installEventFilter(new ViewEvents(Record, View));
+}
+
+void TellFocus(Control& Record)
+{
+    LastFocused = &Record;
+    Guarded([&] { Record.GotFocus(); });
+}
+
 void Attach(Control& Record, QWidget* View, QWidget* Target)
 {
     if (!Target) Target = View;
@@ -80,17 +101,12 @@ void Attach(Control& Record, QWidget* View, QWidget* Target)
     for (QWidget* Each : {View, Target}) {
         Each->setToolTip(QString::fromStdString(Record.ToolTip));
         Each->setAccessibleName(Each->toolTip());
-        Each->setMouseTracking(true);
         Each->setProperty(OfRecord, true);
     }
 
-    auto* const Events = new ViewEvents(Record, View);
-    View->installEventFilter(Events);
-    if (Target != View) Target->installEventFilter(Events);
-    if (auto* const Area = qobject_cast<QAbstractScrollArea*>(View)) {
-        Area->viewport()->setMouseTracking(true);
-        Area->viewport()->installEventFilter(Events);
-    }
+    RaiseEvents(Record, View);
+    if (Target != View) RaiseEvents(Record, Target);
+    if (auto* const Area = qobject_cast<QAbstractScrollArea*>(View)) RaiseEvents(Record, Area->viewport());
 
     Follow(Record.Visible, View, [View](bool Visible) { ShowView(View, Visible); });
     Follow(Record.Enabled, View, [View](bool Enabled) { View->setEnabled(Enabled); });

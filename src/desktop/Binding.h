@@ -53,6 +53,12 @@ void Enter(Property<T>& Field, T Value, QObject* View)
 // goes to Target, the view itself unless told otherwise.
 void Attach(Control& Record, QWidget* View, QWidget* Target = nullptr);
 
+// Raises the record's events of focus and pointer for what happens to the widget.
+void RaiseEvents(Control& Record, QWidget* View);
+
+// Raises GotFocus.
+void TellFocus(Control& Record);
+
 // The widget that takes the focus of a control; nullptr when no view shows it.
 QWidget* FocusTarget(const Control& Record);
 

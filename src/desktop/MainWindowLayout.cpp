@@ -87,7 +87,7 @@ QAction* HelpMenu(QWidget* Owner)
 }
 
 // A tool button for a command of the menu bar, which itself shows text only.
-QToolButton* Tool(QAction* Action, const QString& IconName)
+QToolButton* Tool(MenuItem& Record, QAction* Action, const QString& IconName)
 {
     auto* const Button = new QToolButton;
     Button->setIcon(DrawnIcon(IconName));
@@ -95,6 +95,7 @@ QToolButton* Tool(QAction* Action, const QString& IconName)
     Button->setToolTip(Action->toolTip());
     NameField(Button, Action->text());
     QObject::connect(Button, &QToolButton::clicked, Action, &QAction::trigger);
+    RaiseEvents(Record, Button);
     const auto Show = [Button, Action] {
         Button->setEnabled(Action->isEnabled());
         Button->setVisible(Action->isVisible());
@@ -110,8 +111,8 @@ QWidget* ToolStrip(QAction* Analyse, QAction* Preferences)
                                                ToolView(MDIProject.sscOpen, "open"),
                                                ToolView(MDIProject.sscSave, "save"),
                                                ToolView(MDIProject.sscPrint, "print"),
-                                               Tool(Analyse, "analyse"),
-                                               Tool(Preferences, "preferences"),
+                                               Tool(MDIProject.mnuAnalyse, Analyse, "analyse"),
+                                               Tool(MDIProject.mnuPreferences, Preferences, "preferences"),
                                                ToolView(MDIProject.sscHelp, "help")};
     QGroupBox* const Strip = WithRole(View(MDIProject.sspProject), "bar");
     auto* const Layout = new QHBoxLayout(Strip);
@@ -134,10 +135,13 @@ QWidget* PicturePage()
     Layout->addStretch(1);
     auto* const Row = new QHBoxLayout;
     Row->addStretch(1);
-    Row->addWidget(new PictureView("pipe", PictureWidth, "Pipeline between two reservoirs"), 1000);
+    QWidget* const Picture = new PictureView("pipe", PictureWidth, "Pipeline between two reservoirs");
+    Row->addWidget(Picture, 1000);
     Row->addStretch(1);
     Layout->addLayout(Row, 1000);
     Layout->addStretch(1);
+    Page->setFocusPolicy(Qt::StrongFocus); // else the focus would go to a tool button
+    for (QWidget* Each : {Page, Picture}) RaiseEvents(MDIProject.sspProject, Each);
     return Page;
 }
 
@@ -178,6 +182,15 @@ void FillStatusBar(QStatusBar* Bar)
     Bar->addPermanentWidget(Progress);
     Bar->addPermanentWidget(View(MDIProject.lblSystem));
     Bar->addPermanentWidget(Clock());
+}
+
+// The first widget of the page that takes the focus; the page itself when there is none.
+QWidget* FirstField(QWidget* Page)
+{
+    QWidget* Field = Page;
+    do Field = Field->nextInFocusChain();
+    while (Field != Page && !(Page->isAncestorOf(Field) && Field->focusPolicy() & Qt::TabFocus));
+    return Field;
 }
 
 // The one local file of a drag; nothing for anything else.
@@ -234,10 +247,11 @@ void MainWindow::TakeFirstSize()
 void MainWindow::ShowScreen()
 {
     QWidget* const Top = frmResults.Visible ? ResultsScreen : frmLCC.Visible ? InputScreen : Picture;
+    if (Screens->currentWidget()->isAncestorOf(focusWidget()))
+        Screens->setFocus(); // a page that goes would hand it to a tool button
     Screens->setCurrentWidget(Top);
     // The screen remembers who had its focus; a cell editor that has closed meanwhile hands it to its grid.
-    QWidget* Last = Top->focusWidget();
-    if (!Last || Last->isVisibleTo(Top)) return;
+    QWidget* Last = Top->focusWidget() ? Top->focusWidget() : FirstField(Top);
     while (Last != Top && (Last->focusPolicy() == Qt::NoFocus || !Last->isVisibleTo(Top)))
         Last = Last->parentWidget();
     Last->setFocus();

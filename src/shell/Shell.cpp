@@ -77,8 +77,9 @@ void ConnectScreens()
     ConnectKindOfSystem();
     ConnectAnalyseDialog();
     ConnectResults();
-    for (Screen* Each : std::initializer_list<Screen*>{&frmAbout, &frmAgree, &frmAnalyse, &frmDeleteRow,
-                                                       &frmDisclaimer, &frmLCCType, &frmPref, &frmResults})
+    for (Screen* Each :
+         std::initializer_list<Screen*>{&frmAbout, &frmAgree, &frmAnalyse, &frmDeleteRow, &frmDisclaimer,
+                                        &frmDutyPoint, &frmLCCType, &frmPref, &frmResults})
         ConnectHints(*Each);
 }
 
