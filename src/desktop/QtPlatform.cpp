@@ -101,22 +101,66 @@ private:
     Screen& Shown;
 };
 
+// Keeps keys and mouse presses from every widget while it stands.
+class InputEater : public QObject {
+public:
+    InputEater() { QCoreApplication::instance()->installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* Event) override
+    {
+        switch (Event->type()) {
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::ShortcutOverride:
+        case QEvent::Shortcut:
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::Wheel:
+        case QEvent::Close: return true;
+        default: return false;
+        }
+    }
+};
+
+// Lets go of the keys and mouse presses that came while the program was busy: they weren't meant for what the
+// screen shows now.
+void DropInput()
+{
+    const QScopedValueRollback<bool> Now(Painting, true);
+    InputEater Eater;
+    QCoreApplication::processEvents();
+}
+
+void ChangePointer(PointerShape& Pointer, PointerShape Shape)
+{
+    const bool WasDefault = Pointer == PointerShape::Default;
+    Pointer = Shape;
+    const QCursor Cursor(Shape == PointerShape::Hourglass ? Qt::WaitCursor : Qt::CrossCursor);
+    if (Shape == PointerShape::Default) {
+        if (!WasDefault) QApplication::restoreOverrideCursor();
+    } else if (WasDefault)
+        QApplication::setOverrideCursor(Cursor);
+    else
+        QApplication::changeOverrideCursor(Cursor);
+}
+
 // Shows the default pointer for as long as the user has to answer.
 class PointerPause {
 public:
-    PointerPause(Platform& Windows, PointerShape Before)
-        : Owner(Windows)
-        , Shape(Before)
+    explicit PointerPause(PointerShape& InUse)
+        : Pointer(InUse)
+        , Before(InUse)
     {
-        Owner.SetPointer(PointerShape::Default);
+        ChangePointer(Pointer, PointerShape::Default);
     }
-    ~PointerPause() { Owner.SetPointer(Shape); }
+    ~PointerPause() { ChangePointer(Pointer, Before); }
     PointerPause(const PointerPause&) = delete;
     PointerPause& operator=(const PointerPause&) = delete;
 
 private:
-    Platform& Owner;
-    const PointerShape Shape;
+    PointerShape& Pointer;
+    const PointerShape Before;
 };
 
 } // namespace
@@ -129,7 +173,7 @@ void QtPlatform::RegisterDialog(Screen& Shown, DialogMaker Make)
 Answer QtPlatform::Show(const Message& Box)
 {
     const KeepArithmeticFlags Keep;
-    const PointerPause Pause(*this, Pointer);
+    const PointerPause Pause(Pointer);
     QMessageBox Window(TopWindow());
     Window.setIcon(IconOf(Box.Icon));
     Window.setWindowTitle(QString::fromStdString(Box.Title));
@@ -144,7 +188,7 @@ void QtPlatform::ShowModal(Screen& Shown)
     const auto Maker = Dialogs.find(&Shown);
     if (Maker == Dialogs.end()) throw std::logic_error("no dialog shows the screen " + Shown.Name);
     const KeepArithmeticFlags Keep;
-    const PointerPause Pause(*this, Pointer);
+    const PointerPause Pause(Pointer);
 
     const std::unique_ptr<QDialog> Dialog(Maker->second(TopWindow()));
     Dialog->setModal(true);
@@ -172,20 +216,16 @@ std::optional<PrintChoice> QtPlatform::AskPrinter(const PrintDialog&)
 void QtPlatform::SetFocus(Control& Target)
 {
     const KeepArithmeticFlags Keep;
-    if (QWidget* const View = FocusTarget(Target)) View->setFocus(Qt::OtherFocusReason);
+    QWidget* const View = FocusTarget(Target);
+    if (!View) return;
+    View->setFocus(Qt::OtherFocusReason);
+    if (!View->hasFocus()) TellFocus(Target); // it comes with the window, which isn't in front yet
 }
 
 void QtPlatform::SetPointer(PointerShape Shape)
 {
-    const bool WasDefault = Pointer == PointerShape::Default;
-    Pointer = Shape;
-    const QCursor Cursor(Shape == PointerShape::Hourglass ? Qt::WaitCursor : Qt::CrossCursor);
-    if (Shape == PointerShape::Default) {
-        if (!WasDefault) QApplication::restoreOverrideCursor();
-    } else if (WasDefault)
-        QApplication::setOverrideCursor(Cursor);
-    else
-        QApplication::changeOverrideCursor(Cursor);
+    if (Pointer == PointerShape::Hourglass && Shape == PointerShape::Default) DropInput();
+    ChangePointer(Pointer, Shape);
 }
 
 void QtPlatform::Repaint()
