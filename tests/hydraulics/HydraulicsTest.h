@@ -19,10 +19,22 @@ protected:
     void TearDown() override { InstallPlatform(nullptr); }
 
     // Normalises and solves, as an analysis does.
-    static void Solve()
+    void Solve()
     {
+        Windows.Messages.clear();
         NormaliseInputs();
         SolveFlows();
+    }
+
+    // A row as the normalising leaves it, with its friction factor in Year. Behind it stands the ground of a
+    // longer profile before, which must take no part.
+    static void AddRow(double Elevation, double Length, double Diameter, double K, double Factor)
+    {
+        sample::AddNode({Elevation, 0, Diameter, K});
+        InternalDiameter[NodeCount] = Diameter;
+        SectionLength[NodeCount] = Length;
+        Lambda(NodeCount, Year) = Factor;
+        wElevation[NodeCount + 1] = 5000;
     }
 
     void ExpectGradelineFailure() const
@@ -34,6 +46,7 @@ protected:
                   "Could not determine the hydraulic gradeline. Please check input data");
     }
 
+    static constexpr int Year = 3; // of what is worked for one year alone
     ScriptedPlatform Windows;
 };
 

@@ -55,11 +55,9 @@ struct Curve {
 inline Curve SystemCurve(int Year)
 {
     Curve Points;
-    const double First = wPumpCurve[2];
-    const double Last = wPumpCurve[17];
     ClearArithmeticFlags();
     for (int i = 1; i <= 10000; ++i) {
-        const Single Q = (First + (Last - First) * i / 10000) * FlowFactor;
+        const Single Q = (wPumpCurve[2] + (wPumpCurve[17] - wPumpCurve[2]) * i / 10000) * FlowFactor;
         const Single Head = SystemHeadAt(Q, Year);
         if (ArithmeticFailed()) break;
         Points.Head.push_back(Head);

@@ -47,21 +47,12 @@ inline void SetAgeing(double KsNew, double KsOld, double Years)
     wKsOldYears = Years;
 }
 
-struct PumpPoint {
-    double Head;
-    double Flow;
-    double Efficiency;
-};
-
-inline void SetPumpCurve(const std::array<PumpPoint, 6>& Points)
+// Each point: head, flow, efficiency.
+inline void SetPumpCurve(const std::array<std::array<double, 3>, 6>& Points)
 {
     wSystemType = 1;
     wPumpDetails = 1;
-    for (int p = 1; p <= 6; ++p) {
-        wPumpCurve[3 * p - 2] = Points[p - 1].Head;
-        wPumpCurve[3 * p - 1] = Points[p - 1].Flow;
-        wPumpCurve[3 * p] = Points[p - 1].Efficiency;
-    }
+    for (int i = 0; i < 18; ++i) wPumpCurve[i + 1] = Points[i / 3][i % 3];
 }
 
 } // namespace velorix::sample
