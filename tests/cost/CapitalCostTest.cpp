@@ -10,14 +10,6 @@ namespace {
 
 class CapitalCostTest : public CostTest {
 protected:
-    // Rates and conditions of the trench that the tests below work out by hand.
-    static void ReadUsualRates()
-    {
-        const double Values[] = {50, 40, 200, 120, 30, 110, 25, 20, 25, 60, 40, 0.9, 0.1};
-        for (int i = 0; i < 13; ++i) wLaying[i + 1] = Values[i];
-        ReadLayingRates();
-    }
-
     // A pipeline with a pipe of 1 million, mechanical and electrical works of 4 million, 20 percent
     // preliminary and general items, 10 percent contingencies, 12 percent escalation over two years.
     static void DescribePipelineOfAMillion()
@@ -32,19 +24,6 @@ protected:
         wEscalation = 12;
         BuildFor(2);
     }
-
-    // Trench width for a bore, read off the backfill of 1 m of trench at 1 a cubic metre.
-    static double WidthFor(Single Diameter, Single Lining)
-    {
-        NodeCount = 2;
-        InternalDiameter[1] = Diameter;
-        LiningLoss = Lining;
-        SectionLength[1] = 1;
-        RateBackfilling = 1;
-        Cover = 1.1;
-        ComputeCapitalCost();
-        return BackfillCost[1];
-    }
 };
 
 // By hand for 100 m of a bore of 0.5 m: W = 1.1 m, T = 0.9 + 0.5 + 0.1 = 1.5 m; rates mixed by their shares
@@ -52,7 +31,9 @@ protected:
 // section is half as long. Stored values carry seven digits.
 TEST_F(CapitalCostTest, TrenchByHand)
 {
-    ReadUsualRates();
+    const double Values[] = {50, 40, 200, 120, 30, 110, 25, 20, 25, 60, 40, 0.9, 0.1};
+    for (int i = 0; i < 13; ++i) wLaying[i + 1] = Values[i];
+    ReadLayingRates();
     NodeCount = 3;
     LiningLoss = 0.01;
     for (int i = 1; i <= 2; ++i) InternalDiameter[i] = 0.49;
@@ -75,40 +56,38 @@ TEST_F(CapitalCostTest, TrenchByHand)
     // 13200 + 924 + 2735.538 + 1760 + 5000 = 23619.538 for 100 m
     EXPECT_NEAR(LayingCost, 23619.538 * 1.5, 0.02);
     EXPECT_EQ(PipeSupplyCost, 90000 + 40000 + 300);
-}
 
-TEST_F(CapitalCostTest, TrenchWidensBeyondABoreOfExactly32Bits)
-{
-    EXPECT_NEAR(WidthFor(0.7, 0), 1.3, 1e-6);
-    EXPECT_NEAR(WidthFor(std::nextafter(0.7F, 1.0F), 0), 1.5, 1e-6);
-    EXPECT_NEAR(WidthFor(1, 0), 1.8, 1e-6);
-    EXPECT_NEAR(WidthFor(std::nextafter(1.0F, 2.0F), 0), 2.0, 1e-6);
-    EXPECT_NEAR(WidthFor(2, 0), 3.0, 1e-6);
-    EXPECT_NEAR(WidthFor(std::nextafter(2.0F, 3.0F), 0), 3.2, 1e-6);
-
-    // The double sum of these two lies above the 32 bits of 0.7, and rounds to them.
-    const Single Diameter = 0.68;
-    const Single Lining = 0.02;
-    ASSERT_GT(Diameter + Lining, Single(0.7));
-    EXPECT_NEAR(WidthFor(Diameter, Lining), 1.3, 1e-6);
-}
-
-// 150 percent of import at no cost leaves the trench's blanket a rate of -50: 100 m x 0.46365 m2 x -50.
-TEST_F(CapitalCostTest, BlanketMayGoBelowZeroAndBackfillMayNot)
-{
-    ReadUsualRates();
+    // 150 percent of import at no cost leave the blanket a rate of -50. Backfill doesn't go below zero.
     RateBlanketTrench = 100;
     RateBlanketImport = 0;
     PercentBlanketImport = 150;
     Cover = 0.05;
-    NodeCount = 2;
-    InternalDiameter[1] = 0.5;
-    SectionLength[1] = 100;
     ComputeCapitalCost();
-
-    EXPECT_NEAR(BlanketCost[1], -2318.2523, 0.001);
+    EXPECT_NEAR(BlanketCost[1], (0.6 * 1.1 - 0.196349541) * 100 * -50, 0.003);
     EXPECT_EQ(BackfillCost[1], 0);
-    EXPECT_NEAR(LayingCost, ExcavationCost[1] + BeddingCost[1] - 2318.2523 + 5000, 0.002);
+}
+
+// Widths read off the backfill of 1 m of trench, a metre high, at 1 a cubic metre.
+TEST_F(CapitalCostTest, TrenchWidensBeyondABoreOfExactly32Bits)
+{
+    NodeCount = 2;
+    SectionLength[1] = 1;
+    RateBackfilling = 1;
+    Cover = 1.1;
+    const float Ends[][3] = {
+        {0.7F, 1.3F, 1.5F}, {1, 1.8F, 2}, {2, 3, 3.2F}}; // bore, width up to it and beyond
+    for (const auto& [End, Width, Beyond] : Ends) {
+        InternalDiameter[1] = End;
+        ComputeCapitalCost();
+        EXPECT_NEAR(BackfillCost[1], Width, 1e-6);
+        InternalDiameter[1] = std::nextafter(End, 9.0F);
+        ComputeCapitalCost();
+        EXPECT_NEAR(BackfillCost[1], Beyond, 1e-6);
+    }
+    InternalDiameter[1] = 0.68; // with the lining a double above the 32 bits of 0.7, which rounds to them
+    LiningLoss = 0.02;
+    ComputeCapitalCost();
+    EXPECT_NEAR(BackfillCost[1], 1.3, 1e-6);
 }
 
 // The sum of 1.01^m over 24 months is 1.01 (1.01^24 - 1) / 0.01 = 27.2431995, so the escalation is
@@ -129,84 +108,56 @@ TEST_F(CapitalCostTest, BuildUpByHand)
     EXPECT_NEAR(TotalCapitalCost, 1.14 * (6600000 + 891879.86 + 719317.9 + 150000), 2);
     EXPECT_NEAR(CapitalSeries[1], TotalCapitalCost / 2, 0.5);
     EXPECT_EQ(CapitalSeries[2], CapitalSeries[1]);
-    EXPECT_EQ(CapitalSeries[3], 0);
-}
 
-TEST_F(CapitalCostTest, WithoutConstructionYearsNothingEscalates)
-{
-    DescribePipelineOfAMillion();
-    for (const int Years : {0, -3}) {
-        BuildFor(Years);
-        EscalationAmount = 1;
-        CapitalSeries[1] = 1;
-        ComputeCapitalCost();
-        EXPECT_EQ(EscalationAmount, 0) << Years;
-        // Fees of 1.32 and 5.28 million are 152000 and 492400.
-        EXPECT_NEAR(TotalCapitalCost, 1.14 * (6600000 + 152000 + 492400), 1) << Years;
-        EXPECT_EQ(CapitalSeries[1], 0) << Years;
-    }
+    // Without construction years nothing escalates. Fees of 1.32 and 5.28 million are 152000 and 492400.
+    BuildFor(0);
+    ComputeCapitalCost();
+    EXPECT_NEAR(TotalCapitalCost, 1.14 * (6600000 + 152000 + 492400 + 150000), 1);
+    EXPECT_EQ(CapitalSeries[1], 0);
 }
 
 // The fee at the end of a bracket is the sum of all brackets up to there; the next one starts from it.
 TEST_F(CapitalCostTest, FeeScalesAreContinuous)
 {
-    const auto ExpectEnd = [](double (*Fee)(double), double End, double Sum, double NextShare) {
-        EXPECT_NEAR(Fee(End), Sum, 1e-6);
-        EXPECT_NEAR(Fee(std::nextafter(End, 1e9)), Sum, 1e-6);
-        EXPECT_NEAR(Fee(End + 1000), Sum + 1000 * NextShare, 1e-6);
+    struct BracketEnd {
+        double (*Fee)(double);
+        double Value, Sum, ShareBelow, ShareAbove;
     };
-    EXPECT_EQ(CivilFee(400000), 50000);
-    ExpectEnd(CivilFee, 800000, 100000, 0.1);
-    ExpectEnd(CivilFee, 3400000, 360000, 0.075);
-    ExpectEnd(CivilFee, 13100000, 1087500, 0.055);
-
-    EXPECT_EQ(MechanicalElectricalFee(400000), 50000);
-    ExpectEnd(MechanicalElectricalFee, 800000, 100000, 0.1);
-    ExpectEnd(MechanicalElectricalFee, 2500000, 270000, 0.08);
-    ExpectEnd(MechanicalElectricalFee, 7400000, 662000, 0.07);
-    ExpectEnd(MechanicalElectricalFee, 17100000, 1341000, 0.06);
-    ExpectEnd(MechanicalElectricalFee, 31400000, 2199000, 0.055);
-}
-
-TEST_F(CapitalCostTest, ConstructionThatCostsNothingFails)
-{
-    DescribePipelineOfAMillion();
-    ComputeCapitalCost();
-    const Single Total = TotalCapitalCost;
-    const Single Fees = ConsultingFees;
-
-    wPipeCost[1] = 0;
-    wMechanical = 0;
-    wElectrical = 0;
-    frmLCC.txtSupervision.Text = std::string("150000");
-    EXPECT_THROW(ComputeCapitalCost(), ArithmeticFailure);
-    EXPECT_EQ(PipeSupplyCost, 0);
-    EXPECT_EQ(EscalationAmount, 0);
-    EXPECT_EQ(ConsultingFees, Fees);
-    EXPECT_EQ(SupervisionCost, 0);
-    EXPECT_EQ(TotalCapitalCost, Total);
-}
-
-TEST_F(CapitalCostTest, SupervisionThatIsNoNumberFails)
-{
-    DescribePipelineOfAMillion();
-    SupervisionCost = 77;
-    for (const char* Text : {"", "R 150000", "a lot"}) {
-        ConsultingFees = 0;
-        frmLCC.txtSupervision.Text = std::string(Text);
-        EXPECT_THROW(ComputeCapitalCost(), ConversionFailure) << Text;
-        EXPECT_GT(ConsultingFees, 700000) << Text;
-        EXPECT_EQ(SupervisionCost, 77) << Text;
-        EXPECT_EQ(TotalCapitalCost, 0) << Text;
+    const BracketEnd Ends[] = {{CivilFee, 800000, 100000, 0.125, 0.1},
+                               {CivilFee, 3400000, 360000, 0.1, 0.075},
+                               {CivilFee, 13100000, 1087500, 0.075, 0.055},
+                               {MechanicalElectricalFee, 800000, 100000, 0.125, 0.1},
+                               {MechanicalElectricalFee, 2500000, 270000, 0.1, 0.08},
+                               {MechanicalElectricalFee, 7400000, 662000, 0.08, 0.07},
+                               {MechanicalElectricalFee, 17100000, 1341000, 0.07, 0.06},
+                               {MechanicalElectricalFee, 31400000, 2199000, 0.06, 0.055}};
+    for (const BracketEnd& End : Ends) {
+        EXPECT_NEAR(End.Fee(End.Value), End.Sum, 1e-6);
+        EXPECT_NEAR(End.Fee(End.Value - 100), End.Sum - 100 * End.ShareBelow, 1e-6);
+        EXPECT_NEAR(End.Fee(End.Value + 100), End.Sum + 100 * End.ShareAbove, 1e-6);
     }
 }
 
-TEST_F(CapitalCostTest, MoreThanAHundredConstructionYearsFail)
+// Each failure leaves what was computed before it, and what comes after it as it was.
+TEST_F(CapitalCostTest, FailuresEndTheBuildUpWhereTheyHappen)
 {
     DescribePipelineOfAMillion();
+    SupervisionCost = 77;
+    frmLCC.txtSupervision.Text = std::string("R 150000");
+    EXPECT_THROW(ComputeCapitalCost(), ConversionFailure);
+    EXPECT_GT(ConsultingFees, 700000);
+    EXPECT_EQ(SupervisionCost, 77);
+    EXPECT_EQ(TotalCapitalCost, 0);
+
+    frmLCC.txtSupervision.Text = std::string("0");
     BuildFor(101);
     EXPECT_THROW(ComputeCapitalCost(), SubscriptFailure);
     EXPECT_EQ(CapitalSeries[100], Single(TotalCapitalCost / 101));
+
+    wPipeCost[1] = wMechanical = wElectrical = 0; // construction that costs nothing
+    EXPECT_THROW(ComputeCapitalCost(), ArithmeticFailure);
+    EXPECT_EQ(EscalationAmount, 0);
+    EXPECT_GT(ConsultingFees, 700000);
 }
 
 } // namespace

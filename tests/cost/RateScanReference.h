@@ -31,12 +31,10 @@ inline ScanResult PlainScan(Single ReturnBefore)
     for (int k = 0; k <= LastRate; ++k) {
         const double r = k / 10000.0;
         double I = 0;
-        for (int y = 1; y <= wLife; ++y) I += IncomeSeries[y] / std::pow(1 + r, n + y - 1);
-
-        double P = 0;
-        if (n < 2) P = TotalCapitalCost;
+        double P = n < 2 ? double(TotalCapitalCost) : 0;
         for (int t = 1; n >= 2 && t <= n; ++t) P += (TotalCapitalCost / n) / std::pow(1 + r, t - 1);
         for (int y = 1; y <= wLife; ++y) {
+            I += IncomeSeries[y] / std::pow(1 + r, n + y - 1);
             P += MaintTotal[y] / std::pow(1 + r, n + y - 1);
             P += OperationalCost[y] / std::pow(1 + r, n + y - 1);
             P += EnergyCost[y] / std::pow(1 + r, n + y - 1);
