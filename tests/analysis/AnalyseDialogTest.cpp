@@ -15,51 +15,33 @@ protected:
         AnalyseDialogLoads();
         frmAnalyse.Visible = true;
         EndDecoration();
+        EXPECT_FALSE(frmAnalyse.tmrMatrix.Enabled);
+        EXPECT_FALSE(frmAnalyse.tmrStopMatrix.Enabled);
     }
 };
 
-TEST_F(AnalyseDialogTest, ControlsAppearAfterTheDecoration)
-{
-    frmAnalyse.LoadHidden();
-    AnalyseDialogLoads();
-    EXPECT_TRUE(frmAnalyse.tmrStopMatrix.Enabled);
-    EXPECT_FALSE(frmAnalyse.sscAnalyse.Visible);
-    EndDecoration();
-    EXPECT_FALSE(frmAnalyse.tmrMatrix.Enabled);
-    EXPECT_FALSE(frmAnalyse.tmrStopMatrix.Enabled);
-    EXPECT_TRUE(frmAnalyse.sscAnalyse.Visible);
-    EXPECT_EQ(frmAnalyse.sscAnalyse.Caption.Get(), "&Analyse");
-}
-
-TEST_F(AnalyseDialogTest, ContinueShowsTheResults)
+// The supervision fee is read as it stands on the screen.
+TEST_F(AnalyseDialogTest, RunsUntilAnAnalysisStandsAndThenShowsIt)
 {
     Open(GravityRecord());
     OpenDialog();
+    frmLCC.txtSupervision.Text = "";
     AnalysePressed();
     EXPECT_EQ(frmAnalyse.sscAnalyse.Caption.Get(), "&Continue");
     EXPECT_TRUE(frmAnalyse.sscAnalyse.Enabled);
     EXPECT_EQ(Windows.Pointer, PointerShape::Default);
+    EXPECT_EQ(frmAnalyse.proBar.Value, 70);
+    EXPECT_EQ(Analysed, 0);
+
+    frmLCC.txtSupervision.Text = "0";
+    AnalysePressed();
+    EXPECT_EQ(Analysed, 1);
     EXPECT_FALSE(frmResults.Visible);
     EXPECT_EQ(frmResults.comEnd.Text(), "0.000"); // chainages of the plot before, there being none
-
     AnalysePressed();
     EXPECT_TRUE(frmResults.Visible);
     EXPECT_FALSE(frmAnalyse.IsLoaded());
     EXPECT_EQ(frmResults.comEnd.Text(), "6000.000");
-}
-
-TEST_F(AnalyseDialogTest, FailedAnalysisCanBeRunAgain)
-{
-    Open(GravityRecord());
-    frmLCC.txtSupervision.Text = "";
-    OpenDialog();
-    AnalysePressed();
-    EXPECT_EQ(frmAnalyse.sscAnalyse.Caption.Get(), "&Continue");
-    EXPECT_EQ(frmAnalyse.proBar.Value, 70);
-    EXPECT_EQ(Analysed, 0);
-    frmLCC.txtSupervision.Text = "0";
-    AnalysePressed();
-    EXPECT_EQ(Analysed, 1);
 }
 
 TEST_F(AnalyseDialogTest, OpeningAndCancelDropEarlierResults)
