@@ -28,15 +28,12 @@ protected:
                 ReadFile(Folder / "err.txt")};
     }
 
-    // An example as JSON, to be changed.
-    static nlohmann::json Example(const std::string& Name)
+    // Writes the project file of an example with some fields changed.
+    void WriteExample(const std::string& Name, const std::string& Example,
+                      const nlohmann::json& Changes = nlohmann::json::object()) const
     {
-        return nlohmann::json::parse(ReadFile(Examples / (Name + ".json")));
-    }
-
-    // Writes the project file that the JSON describes.
-    void WriteProject(const std::string& Name, const nlohmann::json& Project) const
-    {
+        auto Project = nlohmann::json::parse(ReadFile(Examples / (Example + ".json")));
+        Project.update(Changes);
         WriteFile(Name, BytesOf(ProjectFromJson(Project.dump())));
     }
 };
