@@ -1,18 +1,8 @@
 // Files of any bytes, opened in the real window and looked at page by page.
-#include "analysis/Program.h"
 #include "analysis/SampleRecords.h"
-#include "desktop/DesktopTest.h"
-#include "desktop/MainWindowLayout.h"
+#include "desktop/MainWindowTest.h"
 #include "project/FileCommands.h"
-#include "project/Session.h"
-#include "project/WorkingSet.h"
-#include "screens/Lcc.h"
-#include "screens/MainWindow.h"
-#include "screens/Results.h"
-#include "shell/MainCommands.h"
-#include "shell/Shell.h"
 
-#include <QCoreApplication>
 #include <QTemporaryDir>
 
 #include <fstream>
@@ -21,24 +11,8 @@
 namespace velorix {
 namespace {
 
-class ForeignFilesTest : public DesktopTest {
+class ForeignFilesTest : public MainWindowTest {
 protected:
-    ForeignFilesTest()
-    {
-        ConnectScreens();
-        Main = std::make_unique<MainWindow>();
-        MainWindowLoads();
-        StartSession();
-        Main->resize(800, 600);
-        Main->show();
-    }
-
-    ~ForeignFilesTest() override
-    {
-        for (Screen* Each : std::initializer_list<Screen*>{&MDIProject, &frmLCC, &frmResults}) Each->Unload();
-        ResetSession();
-    }
-
     // Opens the bytes as the window opens a dropped file, and paints every page of what they spell.
     void OpenAndLook(const std::string& Bytes)
     {
@@ -58,12 +32,11 @@ protected:
     }
 
     QTemporaryDir Folder;
-    std::unique_ptr<MainWindow> Main;
+    std::mt19937 Random{20050303};
 };
 
 TEST_F(ForeignFilesTest, AnyBytesAreShown)
 {
-    std::mt19937 Random(20050303);
     OpenAndLook("");
     for (int Round = 0; Round < 6; ++Round) {
         std::string Bytes(Random() % 60001, '\0');
@@ -76,7 +49,6 @@ TEST_F(ForeignFilesTest, AnyBytesAreShown)
 // A sound project, then one whose numbers are partly overwritten, over and over in one window.
 TEST_F(ForeignFilesTest, SoundAndSpoiledProjectsTakeTurns)
 {
-    std::mt19937 Random(7);
     for (int Round = 0; Round < 6; ++Round) {
         const RecordImage Image = ToImage(Round % 2 == 0 ? GravityRecord(30) : PumpCurveRecord(200));
         std::string Bytes(Image.begin(), Image.end());

@@ -1,0 +1,41 @@
+// The main window as the program starts with it, every screen connected.
+#pragma once
+
+#include "analysis/Program.h"
+#include "desktop/DesktopTest.h"
+#include "desktop/MainWindowLayout.h"
+#include "desktop/Style.h"
+#include "project/Session.h"
+#include "project/WorkingSet.h"
+#include "screens/Lcc.h"
+#include "screens/MainWindow.h"
+#include "screens/Results.h"
+#include "shell/MainCommands.h"
+#include "shell/Shell.h"
+
+namespace velorix {
+
+class MainWindowTest : public DesktopTest {
+protected:
+    MainWindowTest()
+    {
+        ApplyStyle(*static_cast<QApplication*>(QApplication::instance()));
+        ConnectScreens();
+        Main = std::make_unique<MainWindow>();
+        MainWindowLoads();
+        StartSession();
+        Main->resize(800, 600);
+        Main->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(Main.get()));
+    }
+
+    ~MainWindowTest() override
+    {
+        for (Screen* Each : std::initializer_list<Screen*>{&MDIProject, &frmLCC, &frmResults}) Each->Unload();
+        ResetSession();
+    }
+
+    std::unique_ptr<MainWindow> Main;
+};
+
+} // namespace velorix
