@@ -1,18 +1,9 @@
 // The whole program under a user's hands: its window, its dialogs and its grids, by keyboard.
-#include "project/Session.h"
-#include "analysis/Program.h"
 #include "desktop/Binding.h"
-#include "desktop/DesktopTest.h"
 #include "desktop/DialogLayouts.h"
-#include "desktop/MainWindowLayout.h"
+#include "desktop/MainWindowTest.h"
 #include "project/ProjectFile.h"
-#include "project/WorkingSet.h"
 #include "screens/Dialogs.h"
-#include "screens/Lcc.h"
-#include "screens/MainWindow.h"
-#include "screens/Results.h"
-#include "shell/MainCommands.h"
-#include "shell/Shell.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -42,25 +33,13 @@ public:
     }
 };
 
-class SessionTest : public DesktopTest {
+class SessionTest : public MainWindowTest {
 protected:
     SessionTest()
     {
         InstallPlatform(&Saving);
         RegisterDialogs(Saving);
-        ConnectScreens();
-        Main = std::make_unique<MainWindow>();
-        MainWindowLoads();
-        StartSession();
-        Main->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(Main.get()));
         Saving.Target = Folder.filePath("ridge.vlx").toStdString();
-    }
-
-    ~SessionTest() override
-    {
-        for (Screen* Each : std::initializer_list<Screen*>{&MDIProject, &frmLCC, &frmResults}) Each->Unload();
-        ResetSession();
     }
 
     // Keys go where the focus is.
@@ -114,7 +93,6 @@ protected:
 
     SavingPlatform Saving;
     QTemporaryDir Folder;
-    std::unique_ptr<MainWindow> Main;
 };
 
 TEST_F(SessionTest, WhatIsTypedFromNothingIsWhatTheFileHolds)
