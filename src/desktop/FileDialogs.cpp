@@ -4,7 +4,9 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QStandardPaths>
+#include <QTreeView>
 
 namespace velorix {
 namespace {
@@ -44,6 +46,12 @@ std::optional<std::filesystem::path> Ask(const FileDialog& Dialog, QFileDialog::
     if (Saves) {
         SetSuffix(Window.selectedNameFilter());
         QObject::connect(&Window, &QFileDialog::filterSelected, &Window, SetSuffix);
+    }
+
+    if (auto* const Entries = Window.findChild<QTreeView*>()) { // the toolkit's own dialog cuts size and date
+        constexpr int KindOfFile = 2;
+        Entries->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        Entries->hideColumn(KindOfFile);
     }
 
     if (Window.exec() != QDialog::Accepted || Window.selectedFiles().isEmpty()) return std::nullopt;

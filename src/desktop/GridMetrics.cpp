@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <cstdint>
 
 namespace velorix {
 namespace {
@@ -91,7 +92,7 @@ void GridMetrics::Measure(const Grid& Table, const QFont& Font, int DotsPerInch,
         ColLeft.push_back(ColLeft.back() + std::max({Least, Needed, LeastWidth}));
     }
     Natural = ColLeft.back();
-    if (Table.Cols() > 0) ColLeft.back() = std::max(ColLeft.back(), RoomWidth);
+    Spread(Table, RoomWidth);
 
     Rows = Table.Rows();
     const int Line = Metrics.height();
@@ -99,6 +100,17 @@ void GridMetrics::Measure(const Grid& Table, const QFont& Font, int DotsPerInch,
     RowHeight = std::max(Pixels(Table.DataRowHeight), Line + CellPadding);
     HeaderHeight = std::max(Pixels(Table.HeaderHeight), HeadingLines * Line + CellPadding);
     Fixed = {Left(std::min(Table.FixedCols, Table.Cols())), Top(std::min(Table.FixedRows, Rows))};
+}
+
+// Shares the room that is left among the columns that aren't fixed, in proportion to their widths.
+void GridMetrics::Spread(const Grid& Table, int RoomWidth)
+{
+    const int Start = Left(std::min(Table.FixedCols, Table.Cols()));
+    if (Start == Natural || RoomWidth <= Natural) return;
+    for (int& Each : ColLeft)
+        if (Each > Start)
+            Each = Start +
+                   static_cast<int>(std::int64_t{Each - Start} * (RoomWidth - Start) / (Natural - Start));
 }
 
 int GridMetrics::ColAt(int X) const

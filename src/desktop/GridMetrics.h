@@ -26,7 +26,7 @@ bool IsFixedCell(const Grid& Table, int Row, int Col);
 class GridMetrics {
 public:
     // The told column widths are the least ones: no heading is clipped, headings may break into two lines,
-    // and the last column fills what is left of the room.
+    // and the columns that aren't fixed share what is left of the room.
     void Measure(const Grid& Table, const QFont& Font, int DotsPerInch, int RoomWidth);
 
     // False once the grid's shape differs from what was measured.
@@ -43,7 +43,7 @@ public:
     QSize Size() const { return {ColLeft.back(), Top(Rows)}; }
     QSize FixedSize() const { return Fixed; }
 
-    // Without what the last column was stretched by.
+    // Without what the columns were stretched by.
     int NaturalWidth() const { return Natural; }
 
 private:
@@ -53,6 +53,8 @@ private:
         return {Table.Rows(),        Table.FixedRows,       Table.FixedCols, Table.HeaderHeight,
                 Table.DataRowHeight, Table.MergeEqualCells, Table.ColWidth};
     }
+
+    void Spread(const Grid& Table, int RoomWidth);
 
     Shape Told;
     std::vector<int> ColLeft = {0}; // of each column, and the right end of the last

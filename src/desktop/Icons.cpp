@@ -69,14 +69,16 @@ QByteArray InMode(const QString& Name, QIcon::Mode Mode)
 
 class DrawingEngine : public QIconEngine {
 public:
-    explicit DrawingEngine(QString DrawingName)
+    DrawingEngine(QString DrawingName, bool OfMenu)
         : Name(std::move(DrawingName))
+        , InMenu(OfMenu)
     {
     }
 
     void paint(QPainter* Painter, const QRect& Place, QIcon::Mode Mode, QIcon::State) override
     {
-        QSvgRenderer(InMode(Name, Mode)).render(Painter, Place);
+        const bool Highlit = InMenu && Mode == QIcon::Active;
+        QSvgRenderer(InMode(Name, Highlit ? QIcon::Selected : Mode)).render(Painter, Place);
     }
 
     QPixmap pixmap(const QSize& Size, QIcon::Mode Mode, QIcon::State State) override
@@ -88,17 +90,23 @@ public:
         return Image;
     }
 
-    QIconEngine* clone() const override { return new DrawingEngine(Name); }
+    QIconEngine* clone() const override { return new DrawingEngine(Name, InMenu); }
 
 private:
     const QString Name;
+    const bool InMenu;
 };
 
 } // namespace
 
 QIcon DrawnIcon(const QString& Name)
 {
-    return QIcon(new DrawingEngine(Name));
+    return QIcon(new DrawingEngine(Name, false));
+}
+
+QIcon MenuIcon(const QString& Name)
+{
+    return QIcon(new DrawingEngine(Name, true));
 }
 
 PictureView::PictureView(const QString& Name, int Width, const QString& Description, QWidget* Owner)

@@ -11,6 +11,9 @@ namespace velorix {
 // that it is crisp on any display.
 QIcon DrawnIcon(const QString& Name);
 
+// The same for a menu, where the entry under the pointer has a dark background.
+QIcon MenuIcon(const QString& Name);
+
 // A picture that keeps its proportions in the room it gets, and takes no more than its natural width.
 class PictureView : public QWidget {
 public:

@@ -15,7 +15,7 @@ namespace velorix {
 
 QWidget* LayingPane()
 {
-    constexpr int PictureWidth = 340;
+    constexpr int PictureWidth = 310;
     constexpr int WidestTable = 620;
 
     QWidget* const Table = View(frmLCC.msgLaying, frmLCC.txtLaying);

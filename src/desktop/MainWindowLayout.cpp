@@ -54,7 +54,7 @@ QAction* MenuOf(MenuItem& Heading, const std::vector<QAction*>& Entries, QWidget
 QAction* Command(MenuItem& Record, const char* Icon = nullptr, const QKeySequence& Shortcut = {})
 {
     QAction* const Entry = View(Record);
-    if (Icon) Entry->setIcon(DrawnIcon(Icon));
+    if (Icon) Entry->setIcon(MenuIcon(Icon));
     Entry->setShortcut(Shortcut);
     return Entry;
 }

@@ -9,19 +9,8 @@
 
 namespace velorix {
 
-namespace {
-
-// The hint of a field goes with its screen.
-void ClearHint()
-{
-    MDIProject.StatusText.Caption = "";
-}
-
-} // namespace
-
 void HideScreens()
 {
-    ClearHint();
     if (frmLCC.Visible) {
         frmLCC.Visible = false;
         ViewState = 1;
@@ -45,7 +34,6 @@ void RestoreScreens()
 void LeaveProjectScreens()
 {
     if (ProjectOpen != 1) return;
-    ClearHint();
     frmLCC.Visible = false;
     for (Screen* Viewer : std::initializer_list<Screen*>{&frmView, &frmPumpView})
         if (Viewer->Visible) Viewer->Unload();

@@ -71,10 +71,12 @@ LccScreen::LccScreen()
     SetGrid(msgProfile, {900, 1200, 1200, 1000, 1000, 1000, 1200, 1900});
     SetGrid(msgDemand, {1000, 1200});
     SetGrid(msgPumpDemand, {1000, 1200});
-    SetGrid(msgLaying, {3600, 2000});
+    SetGrid(msgLaying, {3600, 2400});
     SetGrid(msgOperational, {1600, 1900, 1900});
     SetGrid(msgOtherOperational, {2500, 1900});
     msgLaying.MergeEqualCells = true;
+    for (int Heading : {9, 10})
+        for (int Col : {0, 1}) msgLaying.SetBold(Heading, Col, true);
 
     constexpr int LongestCell = 40;
     for (TextBox* Each :

@@ -13,7 +13,7 @@ ResultsScreen::ResultsScreen()
     sscDutypoint.Enabled = false; // until there is a plot of the duty points to show
     msgCost.ColWidth = {3100, 1850};
     msgCost.DataRowHeight = msgCost.HeaderHeight = 350;
-    msgAnnualCost.ColWidth = {2850, 1150, 1450};
+    msgAnnualCost.ColWidth = {2350, 1250, 1850};
     msgAnnualCost.DataRowHeight = msgAnnualCost.HeaderHeight = 350;
     msgAnnualCost.MergeEqualCells = true;
     DesignEnds();

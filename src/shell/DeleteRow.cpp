@@ -2,6 +2,7 @@
 #include "shell/DeleteRow.h"
 
 #include "base/Failure.h"
+#include "base/Text.h"
 #include "platform/Platform.h"
 #include "project/ProfileTable.h"
 #include "screens/Dialogs.h"
@@ -37,7 +38,8 @@ void AskToDeleteRow()
 {
     const Grid& Table = frmLCC.msgProfile;
     for (int Field = 0; Field <= frmDeleteRow.lblDelete.LastIndex; ++Field)
-        frmDeleteRow.lblDelete[Field].Caption = Table.Text(Table.Row(), Field + 1); // col 0 is the number
+        frmDeleteRow.lblDelete[Field].Caption =
+            Trim(Table.Text(Table.Row(), Field + 1)); // col 0 is the number
     System().ShowModal(frmDeleteRow);
 }
 

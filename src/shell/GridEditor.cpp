@@ -8,6 +8,7 @@
 #include "project/Session.h"
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
+#include "shell/Hints.h"
 #include "shell/KeyFilters.h"
 
 #include <algorithm>
@@ -326,9 +327,7 @@ void ConnectGridEditors()
 {
     for (const CellEditing& Each : InputGrids) ConnectGridEditor(Each);
     ProjectLoaded = SettleAll;
-    frmLCC.Visible.Changed = [] {
-        if (frmLCC.Visible) SettleAll();
-    };
+    frmLCC.Visible.Changed = [] { frmLCC.Visible ? SettleAll() : ClearHint(); };
 }
 
 void SettleGridEditor(const Grid& Table)

@@ -15,6 +15,14 @@ void ConnectHints(Screen& Target)
                              dynamic_cast<MenuItem*>(Each);
         if (Pressed) Each->MouseMove = ShowHint;
     }
+    Target.Visible.Changed = [&Target] {
+        if (!Target.Visible) ClearHint();
+    };
+}
+
+void ClearHint()
+{
+    MDIProject.StatusText.Caption = "";
 }
 
 } // namespace velorix

@@ -6,7 +6,9 @@
 namespace velorix {
 
 // Shows a control's tool tip in the status bar: that of an input when it gets the focus, that of a button or
-// menu entry when the pointer comes over it.
+// menu entry when the pointer comes over it. The hint goes with its screen.
 void ConnectHints(Screen& Target);
+
+void ClearHint();
 
 } // namespace velorix

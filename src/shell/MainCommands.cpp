@@ -89,7 +89,7 @@ void ConnectMainWindow()
     HelpOn(MDIProject.sscHelp, 1000);
     MDIProject.tmrWelcome.Tick = WelcomeTick;
     MDIProject.tmrCurrency.Tick = RefreshCurrency;
-    MDIProject.sspProject.MouseMove = [] { MDIProject.StatusText.Caption = ""; };
+    MDIProject.sspProject.MouseMove = ClearHint;
     ConnectHints(MDIProject);
     DisableWhatIsMissing();
 }

@@ -7,8 +7,8 @@
 #include "project/ViewState.h"
 #include "project/WorkingSet.h"
 #include "screens/Dialogs.h"
-#include "screens/MainWindow.h"
 #include "shell/Help.h"
+#include "shell/Hints.h"
 
 #include <cmath>
 
@@ -32,7 +32,7 @@ void ShowAllowances()
 
 void LeaveDialog()
 {
-    MDIProject.StatusText.Caption = "";
+    ClearHint();
     frmPref.Unload();
     RestoreScreens();
 }

@@ -254,7 +254,7 @@ TEST_F(DeleteRowTest, YesDeletesTheRowThatIsShown)
     EXPECT_THAT(Windows.HelpTopics, ElementsAre(3060));
     Windows.Answers = {Answer::Yes};
     DeleteWith(frmDeleteRow.sscYes);
-    EXPECT_THAT(Shown, ElementsAre("62", ComponentTable[1]));
+    EXPECT_THAT(Shown, ElementsAre("62", "Node"));
     EXPECT_EQ(frmLCC.msgProfile.Rows(), 3);
     EXPECT_EQ(frmLCC.msgProfile.Text(2, 1), "63");
 }
