@@ -7,9 +7,9 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDate>
-#include <QDesktopServices>
 #include <QDialog>
 #include <QEventLoop>
+#include <QFile>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMessageBox>
@@ -18,7 +18,6 @@
 #include <QScreen>
 #include <QStandardPaths>
 #include <QSysInfo>
-#include <QUrl>
 
 #include <memory>
 #include <stdexcept>
@@ -285,12 +284,24 @@ std::filesystem::path QtPlatform::ProgramFolder()
     return ProgramFolderOf(QFileInfo(QCoreApplication::applicationDirPath()).filesystemAbsoluteFilePath());
 }
 
-void QtPlatform::ShowHelp(const std::filesystem::path& HelpFile, int)
+// The window belongs to the one that asks for it: beside a dialog it can be used while the dialog stands.
+void QtPlatform::ShowHelp(const std::filesystem::path& HelpFile, int Topic)
 {
-    const QFileInfo File(HelpFile);
-    if (File.isFile() && QDesktopServices::openUrl(QUrl::fromLocalFile(File.absoluteFilePath()))) return;
-    Show(
-        {.Text = "The help file can't be opened:\n\n" + HelpFile.string(), .Icon = MessageIcon::Information});
+    QFile File(HelpFile);
+    std::vector<HelpTopic> Topics;
+    if (File.open(QIODevice::ReadOnly)) Topics = HelpTopicsIn(QString::fromUtf8(File.readAll()));
+    if (Topics.empty()) {
+        Show({.Text = "The help file can't be opened:\n\n" + HelpFile.string(),
+              .Icon = MessageIcon::Information});
+        return;
+    }
+    QWidget* const Owner = TopWindow();
+    if (Help && Help->parentWidget() != Owner && Help != Owner) delete Help;
+    if (!Help) Help = new HelpWindow(std::move(Topics), Owner);
+    Help->ShowTopic(Topic);
+    Help->show();
+    Help->raise();
+    Help->activateWindow();
 }
 
 void QtPlatform::EndProgram()

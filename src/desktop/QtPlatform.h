@@ -1,8 +1,10 @@
 // The services of the window system, by Qt.
 #pragma once
 
+#include "desktop/HelpWindow.h"
 #include "platform/Platform.h"
 
+#include <QPointer>
 #include <QStringList>
 
 #include <functional>
@@ -50,6 +52,7 @@ public:
 
 private:
     std::unordered_map<Screen*, DialogMaker> Dialogs;
+    QPointer<HelpWindow> Help; // while it is open
     PointerShape Pointer = PointerShape::Default;
     bool Ended = false;
 };

@@ -13,7 +13,8 @@ constexpr PixelSize RecommendedSize = {800, 600};
 constexpr const char* Agreement =
     "Velorix helps to estimate the life cycle cost of bulk water pipelines.\n\n"
     "Before you start, please agree to the following:\n\n"
-    "1.  The results depend on the data that you enter and on the methods of calculation. They support the "
+    "1.  The results depend on the data that you enter and on the methods that the help describes. They "
+    "support the "
     "judgement of a trained engineer and do not replace it.\n\n"
     "2.  You check the input data and the results before you base a design, a tariff or a budget on them.\n\n"
     "3.  The program is free software under the MIT licence, provided as it is, without warranty of any "

@@ -1,0 +1,173 @@
+// Search, history and text of the help.
+#include "desktop/HelpWindow.h"
+
+#include "desktop/FormRows.h"
+#include "desktop/Style.h"
+
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QScreen>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QSplitter>
+#include <QTextBrowser>
+#include <QTextTable>
+#include <QToolButton>
+
+namespace velorix {
+namespace {
+
+constexpr QSize WindowSize(900, 640);
+
+QToolButton* StepButton(Qt::ArrowType Arrow, const QString& Name, const QKeySequence& Keys)
+{
+    auto* const Button = new QToolButton;
+    Button->setArrowType(Arrow);
+    Button->setAutoRaise(true);
+    Button->setShortcut(Keys);
+    Button->setToolTip(Name + " (" + Keys.toString() + ")");
+    NameField(Button, Name);
+    return Button;
+}
+
+// Thin lines and some air; the reader of Markdown leaves tables without.
+void FormatTables(QTextDocument& Document)
+{
+    constexpr int Padding = 4;
+    for (QTextFrame* Each : Document.rootFrame()->childFrames()) {
+        auto* const Table = qobject_cast<QTextTable*>(Each);
+        if (!Table) continue;
+        QTextTableFormat Format = Table->format();
+        Format.setCellPadding(Padding);
+        Format.setCellSpacing(0);
+        Format.setBorder(1);
+        Format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+        Format.setBorderBrush(Colors().Border);
+        Format.setBorderCollapse(true);
+        Format.setTopMargin(Gap);
+        Format.setBottomMargin(Gap);
+        Table->setFormat(Format);
+    }
+}
+
+} // namespace
+
+HelpWindow::HelpWindow(std::vector<HelpTopic> AllTopics, QWidget* Owner)
+    : QWidget(Owner, Qt::Window)
+    , Topics(std::move(AllTopics))
+{
+    setWindowTitle("Velorix Help");
+    setAttribute(Qt::WA_DeleteOnClose);
+    resize(WindowSize.boundedTo(screen()->availableSize()));
+
+    auto* const Panes = new QSplitter;
+    Panes->addWidget(TopicPane());
+    Panes->addWidget(TextPane());
+    Panes->setStretchFactor(1, 1);
+    Panes->setChildrenCollapsible(false);
+    auto* const Layout = new QVBoxLayout(this);
+    Layout->setContentsMargins(Gap, Gap, Gap, Gap);
+    Layout->addWidget(Panes);
+
+    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, Words,
+            [this] { Words->setFocus(); });
+    Words->setFocus();
+}
+
+QWidget* HelpWindow::TopicPane()
+{
+    Words = new QLineEdit;
+    Words->setPlaceholderText("Search for help on...");
+    Words->setClearButtonEnabled(true);
+    NameField(Words, "Search for help on");
+    List = new QListWidget;
+    List->setSpacing(2);
+    NameField(List, "Topics");
+    for (const HelpTopic& Each : Topics) List->addItem(Each.Title);
+    connect(Words, &QLineEdit::textChanged, this, &HelpWindow::Search);
+    connect(List, &QListWidget::currentRowChanged, this, &HelpWindow::Choose);
+    return InColumn({Words, List});
+}
+
+QWidget* HelpWindow::TextPane()
+{
+    Back = StepButton(Qt::LeftArrow, "Back", QKeySequence::Back);
+    Forward = StepButton(Qt::RightArrow, "Forward", QKeySequence::Forward);
+    connect(Back, &QToolButton::clicked, this, [this] { Step(-1); });
+    connect(Forward, &QToolButton::clicked, this, [this] { Step(1); });
+
+    Text = new QTextBrowser;
+    Text->setOpenLinks(false);
+    Text->document()->setDocumentMargin(2 * Gap);
+    NameField(Text, "Help text");
+    connect(Text, &QTextBrowser::anchorClicked, this,
+            [this](const QUrl& Link) { ShowTopic(Link.fragment().toInt()); });
+    return InColumn({InRow({Back, Forward, nullptr}), Text});
+}
+
+void HelpWindow::ShowTopic(int Number)
+{
+    int Found = 0;
+    for (std::size_t Index = 0; Index < Topics.size(); ++Index)
+        if (Topics[Index].Number == Number) Found = static_cast<int>(Index);
+    Choose(Found);
+}
+
+void HelpWindow::Search(const QString& Wanted)
+{
+    int First = -1;
+    for (int Topic = List->count() - 1; Topic >= 0; --Topic) {
+        const bool Hit = Holds(Topics[static_cast<std::size_t>(Topic)], Wanted);
+        List->item(Topic)->setHidden(!Hit);
+        if (Hit) First = Topic;
+    }
+    if (First >= 0 && List->currentRow() >= 0 && List->currentItem()->isHidden()) Choose(First);
+    MarkWords();
+}
+
+void HelpWindow::Choose(int Topic)
+{
+    if (Topic < 0 || Topic >= List->count()) return;
+    if (Place >= 0 && Chosen[static_cast<std::size_t>(Place)] == Topic) return;
+    Chosen.resize(static_cast<std::size_t>(++Place));
+    Chosen.push_back(Topic);
+    Open(Topic);
+}
+
+void HelpWindow::Step(int Direction)
+{
+    Place += Direction;
+    Open(Chosen.at(static_cast<std::size_t>(Place)));
+}
+
+void HelpWindow::Open(int Topic)
+{
+    {
+        const QSignalBlocker Silent(List);
+        List->setCurrentRow(Topic);
+    }
+    Text->setMarkdown(Topics[static_cast<std::size_t>(Topic)].Text);
+    FormatTables(*Text->document());
+    MarkWords();
+    Back->setEnabled(Place > 0);
+    Forward->setEnabled(Place + 1 < static_cast<int>(Chosen.size()));
+}
+
+// Shows the words that are searched for.
+void HelpWindow::MarkWords()
+{
+    QList<QTextEdit::ExtraSelection> Marks;
+    for (const QString& Word : Words->text().split(' ', Qt::SkipEmptyParts)) {
+        QTextCursor At(Text->document());
+        while (!(At = Text->document()->find(Word, At)).isNull()) {
+            QTextCharFormat Format;
+            Format.setBackground(Colors().Tint);
+            Marks.push_back({At, Format});
+        }
+    }
+    Text->setExtraSelections(Marks);
+}
+
+} // namespace velorix

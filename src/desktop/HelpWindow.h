@@ -1,0 +1,42 @@
+// The window of the help: its topics at the left, the chosen one at the right.
+#pragma once
+
+#include "desktop/HelpTopics.h"
+
+#include <QWidget>
+
+class QLineEdit;
+class QListWidget;
+class QTextBrowser;
+class QToolButton;
+
+namespace velorix {
+
+// A window of its own over its owner, with which it closes. It can stay open beside the owner's fields.
+class HelpWindow : public QWidget {
+public:
+    HelpWindow(std::vector<HelpTopic> AllTopics, QWidget* Owner);
+
+    // Opens the topic of that number, the first one when there is none.
+    void ShowTopic(int Number);
+
+private:
+    QWidget* TopicPane();
+    QWidget* TextPane();
+    void Search(const QString& Words);
+    void Choose(int Topic);   // as the user does: the step can be taken back
+    void Step(int Direction); // through what was chosen
+    void Open(int Topic);
+    void MarkWords();
+
+    const std::vector<HelpTopic> Topics;
+    QLineEdit* Words = nullptr;
+    QListWidget* List = nullptr; // one entry a topic, in their order
+    QTextBrowser* Text = nullptr;
+    QToolButton* Back = nullptr;
+    QToolButton* Forward = nullptr;
+    std::vector<int> Chosen; // topics, oldest first
+    int Place = -1;          // of the open topic among them
+};
+
+} // namespace velorix

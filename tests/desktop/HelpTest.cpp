@@ -1,0 +1,129 @@
+// The help: the file that is shipped, and the window that shows it.
+#include "desktop/HelpWindow.h"
+#include "desktop/MainWindowTest.h"
+#include "screens/Analyse.h"
+#include "screens/Dialogs.h"
+
+#include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QRegularExpression>
+#include <QTextBrowser>
+#include <QToolButton>
+
+#include <set>
+
+namespace velorix {
+namespace {
+
+std::vector<HelpTopic> ShippedTopics()
+{
+    QFile File(HELP_FILE);
+    EXPECT_TRUE(File.open(QIODevice::ReadOnly));
+    return HelpTopicsIn(QString::fromUtf8(File.readAll()));
+}
+
+std::set<int> NumbersOf(const std::vector<HelpTopic>& Topics)
+{
+    std::set<int> Numbers;
+    for (const HelpTopic& Each : Topics) EXPECT_TRUE(Numbers.insert(Each.Number).second) << Each.Number;
+    return Numbers;
+}
+
+class TopicPlatform : public NotingPlatform {
+public:
+    std::set<int> Asked;
+
+    void ShowHelp(const std::filesystem::path&, int Topic) override { Asked.insert(Topic); }
+};
+
+class HelpTest : public MainWindowTest {};
+
+TEST_F(HelpTest, EveryHelpCommandAndEveryLinkFindsItsTopic)
+{
+    TopicPlatform Topics;
+    InstallPlatform(&Topics);
+    for (const Screen* Each : std::initializer_list<Screen*>{&MDIProject, &frmLCC, &frmLCCType, &frmPref,
+                                                             &frmDeleteRow, &frmAnalyse})
+        for (Control* Command : Each->Controls) {
+            if (!Command->ToolTip.starts_with("Help")) continue;
+            if (auto* Button = dynamic_cast<CommandButton*>(Command)) Button->Click();
+            if (auto* Entry = dynamic_cast<MenuItem*>(Command)) Entry->Click();
+        }
+    EXPECT_GE(Topics.Asked.size(), 11U);
+    const std::vector<HelpTopic> Shipped = ShippedTopics();
+    const std::set<int> Numbers = NumbersOf(Shipped);
+    for (const int Each : Topics.Asked) EXPECT_TRUE(Numbers.count(Each)) << Each;
+
+    static const QRegularExpression Link("\\]\\(#(\\d*)\\)");
+    for (const HelpTopic& Each : Shipped)
+        for (auto Found = Link.globalMatch(Each.Text); Found.hasNext();) {
+            const QString Number = Found.next().captured(1);
+            EXPECT_TRUE(Numbers.count(Number.toInt())) << Each.Number << ": " << Number.toStdString();
+        }
+}
+
+class HelpWindowTest : public DesktopTest {
+protected:
+    HelpWindowTest()
+    {
+        Host->show();
+        Window->show();
+        Window->ShowTopic(30);
+    }
+
+    QString Shown() const { return Window->findChild<QTextBrowser*>()->toPlainText(); }
+    QListWidget& List() const { return *Window->findChild<QListWidget*>(); }
+    void Search(const QString& Words) { Window->findChild<QLineEdit*>()->setText(Words); }
+
+    HelpWindow* const Window = new HelpWindow(
+        HelpTopicsIn("lost\n# Contents {#10}\nStart here.\n# Pipe laying {#20}\nTrench and bedding.\n"
+                     "# Energy {#30}\nPeak hours. See [laying](#20).\n"),
+        Host.get());
+};
+
+TEST_F(HelpWindowTest, LinksAndChoicesAreStepsThatCanBeTakenBack)
+{
+    EXPECT_TRUE(Shown().contains("Peak hours"));
+    emit Window->findChild<QTextBrowser*>()->anchorClicked(QUrl("#20"));
+    EXPECT_TRUE(Shown().contains("Trench"));
+    List().setCurrentRow(0);
+    EXPECT_TRUE(Shown().startsWith("Contents"));
+
+    const QList<QToolButton*> Steps =
+        Window->findChildren<QToolButton*>(QString(), Qt::FindChildrenRecursively);
+    QToolButton* Back = nullptr;
+    QToolButton* Forward = nullptr;
+    for (QToolButton* Each : Steps) {
+        if (Each->accessibleName() == "Back") Back = Each;
+        if (Each->accessibleName() == "Forward") Forward = Each;
+    }
+    EXPECT_FALSE(Forward->isEnabled());
+    Back->click();
+    Back->click();
+    EXPECT_TRUE(Shown().contains("Peak hours"));
+    EXPECT_EQ(List().currentRow(), 2);
+    EXPECT_FALSE(Back->isEnabled());
+    Forward->click();
+    EXPECT_TRUE(Shown().contains("Trench"));
+    Window->ShowTopic(99); // no such topic
+    EXPECT_TRUE(Shown().startsWith("Contents"));
+    EXPECT_FALSE(Forward->isEnabled()); // a new way
+}
+
+TEST_F(HelpWindowTest, ASearchListsTheTopicsThatHoldAllWordsAndMarksThem)
+{
+    Search("bedding TRENCH");
+    EXPECT_TRUE(List().item(0)->isHidden());
+    EXPECT_FALSE(List().item(1)->isHidden());
+    EXPECT_TRUE(List().item(2)->isHidden());
+    EXPECT_TRUE(Shown().contains("Trench"));
+    EXPECT_EQ(Window->findChild<QTextBrowser*>()->extraSelections().size(), 2);
+    Search("nowhere");
+    EXPECT_TRUE(Shown().contains("Trench")); // what stood stays
+    Search("");
+    EXPECT_FALSE(List().item(0)->isHidden());
+}
+
+} // namespace
+} // namespace velorix
