@@ -126,6 +126,16 @@ QWidget* FocusTarget(const Control& Record)
     return Found == FocusTargets.end() ? nullptr : Found->second.data();
 }
 
+QWidget* NearestInReach(QWidget* View)
+{
+    const QWidget* const Window = View->window();
+    const auto InReach = [Window](const QWidget* Each) {
+        return Each->focusPolicy() != Qt::NoFocus && Each->isEnabled() && Each->isVisibleTo(Window);
+    };
+    while (!View->isWindow() && !InReach(View)) View = View->parentWidget();
+    return View;
+}
+
 void IgnoreStrayWheel(QWidget* View)
 {
     View->setFocusPolicy(Qt::StrongFocus); // not by the wheel

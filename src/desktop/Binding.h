@@ -62,6 +62,9 @@ void TellFocus(Control& Record);
 // The widget that takes the focus of a control; nullptr when no view shows it.
 QWidget* FocusTarget(const Control& Record);
 
+// The widget, or the nearest around it that shows and takes the focus; the window at the last.
+QWidget* NearestInReach(QWidget* View);
+
 // Lets the wheel scroll the page instead of changing a value that happens to lie under the pointer. With the
 // focus on the view it changes the value.
 void IgnoreStrayWheel(QWidget* View);

@@ -25,12 +25,13 @@ void Click(const Handler& Clicked)
 // them whole.
 void SetEntries(QComboBox& View, const std::vector<std::string>& Entries)
 {
-    constexpr std::size_t LeastLetters = 12;
-    std::size_t Longest = 0;
+    constexpr qsizetype LeastLetters = 12;
+    qsizetype Longest = 0;
     View.clear();
     for (const std::string& Each : Entries) {
-        View.addItem(QString::fromStdString(Each).trimmed());
-        Longest = std::max(Longest, Each.size());
+        const QString Entry = QString::fromStdString(Each).trimmed();
+        View.addItem(Entry);
+        Longest = std::max(Longest, Entry.size());
     }
     View.setMinimumContentsLength(Longest > LeastLetters ? LeastLetters : 0);
     View.view()->setMinimumWidth(std::max(View.view()->minimumWidth(), View.sizeHint().width()));

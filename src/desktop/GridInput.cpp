@@ -145,7 +145,7 @@ void GridView::mouseMoveEvent(QMouseEvent* Move)
 
 void GridView::mouseDoubleClickEvent(QMouseEvent* Press)
 {
-    if (Press->button() == Qt::LeftButton && IsData(CellAt(Press->position().toPoint())))
+    if (Press->button() == Qt::LeftButton && CellAt(Press->position().toPoint()) == Current())
         Guarded([this] { Record.DblClick(); });
 }
 

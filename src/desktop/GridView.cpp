@@ -303,7 +303,8 @@ bool GridView::eventFilter(QObject* Watched, QEvent* Event)
         BringUpCurrent();
         break;
     case QEvent::Hide:
-        if (Over->isHidden() && Over->hasFocus()) setFocus(); // the focus must not wander off with it
+        // The focus must not wander off with it, nor come back to it with the window.
+        if (Over->isHidden() && window()->focusWidget() == Over) setFocus();
         break;
     case QEvent::KeyPress:
         HeldKey = SpecialKey(*static_cast<QKeyEvent*>(Event));

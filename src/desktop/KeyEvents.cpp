@@ -58,8 +58,9 @@ int SpecialKey(const QKeyEvent& Key)
 
 bool IsCommandKey(const QKeyEvent& Key)
 {
-    return HoldsChord(Key) && !(Key.modifiers() & Qt::ControlModifier) && !Key.text().isEmpty() &&
-           Key.text().front().isPrint();
+    const Qt::KeyboardModifiers Held = Key.modifiers();
+    if (Held & Qt::ControlModifier || !(Held & (Qt::AltModifier | Qt::MetaModifier))) return false;
+    return !Key.text().isEmpty() && Key.text().front().isPrint();
 }
 
 std::vector<int> TypedKeys(const QKeyEvent& Key)

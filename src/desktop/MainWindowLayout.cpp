@@ -250,11 +250,8 @@ void MainWindow::ShowScreen()
     if (Screens->currentWidget()->isAncestorOf(focusWidget()))
         Screens->setFocus(); // a page that goes would hand it to a tool button
     Screens->setCurrentWidget(Top);
-    // The screen remembers who had its focus; a cell editor that has closed meanwhile hands it to its grid.
-    QWidget* Last = Top->focusWidget() ? Top->focusWidget() : FirstField(Top);
-    while (Last != Top && (Last->focusPolicy() == Qt::NoFocus || !Last->isVisibleTo(Top)))
-        Last = Last->parentWidget();
-    Last->setFocus();
+    // The screen remembers who had its focus.
+    NearestInReach(Top->focusWidget() ? Top->focusWidget() : FirstField(Top))->setFocus();
 }
 
 void MainWindow::closeEvent(QCloseEvent* Event)

@@ -3,6 +3,7 @@
 
 #include "desktop/Binding.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
@@ -107,6 +108,7 @@ public:
 
     bool eventFilter(QObject*, QEvent* Event) override
     {
+        if (QApplication::activeModalWidget() != Dialog) return false; // a message that has come up meanwhile
         switch (Event->type()) {
         case QEvent::KeyPress:
         case QEvent::KeyRelease:
@@ -120,6 +122,9 @@ public:
         default: return false;
         }
     }
+
+private:
+    const QWidget* const Dialog = QApplication::activeModalWidget();
 };
 
 // Lets go of the keys and mouse presses that came while the program was busy: they weren't meant for what the
@@ -128,6 +133,8 @@ void DropInput()
 {
     const QScopedValueRollback<bool> Now(Painting, true);
     InputEater Eater;
+    QCoreApplication::eventDispatcher()
+        ->wakeUp(); // for what was read, and left, by an earlier look at the events
     QCoreApplication::processEvents();
 }
 
@@ -217,8 +224,9 @@ void QtPlatform::SetFocus(Control& Target)
     const KeepArithmeticFlags Keep;
     QWidget* const View = FocusTarget(Target);
     if (!View) return;
-    View->setFocus(Qt::OtherFocusReason);
-    if (!View->hasFocus()) TellFocus(Target); // it comes with the window, which isn't in front yet
+    // On a page that doesn't show the focus stays in reach: on the tabs that lead there.
+    NearestInReach(View)->setFocus(Qt::OtherFocusReason);
+    if (!View->hasFocus()) TellFocus(Target); // nor while another window is in front
 }
 
 void QtPlatform::SetPointer(PointerShape Shape)

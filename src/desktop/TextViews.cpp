@@ -1,7 +1,7 @@
 // Views of text boxes.
-#include "base/CodePage.h"
 #include "desktop/Binding.h"
 #include "desktop/KeyEvents.h"
+#include "desktop/StorableText.h"
 #include "desktop/Views.h"
 
 #include <QFocusEvent>
@@ -64,22 +64,6 @@ int CursorAt(const QString& Text, int Caret)
     return Cursor;
 }
 
-// The text in characters that a project file can hold, so that nothing changes unseen when it is saved: of a
-// letter with a foreign accent the letter stays, any other foreign character becomes "?".
-QString Storable(const QString& Text)
-{
-    QString Held;
-    for (const int Each : CodePoints(Text)) {
-        const auto Code = static_cast<char32_t>(Each);
-        const char32_t Plain =
-            InCodePage(Code)
-                ? Code
-                : QString::fromUcs4(&Code, 1).normalized(QString::NormalizationForm_KD).toUcs4().front();
-        Held += InCodePage(Plain) ? QString::fromUcs4(&Plain, 1) : QString("?");
-    }
-    return Held;
-}
-
 // Asks the record's handlers before it takes a key.
 template <typename Widget>
 class TextView : public Widget {
@@ -134,6 +118,20 @@ private:
     TextBox& Record;
 };
 
+// Puts the storable text in place of what the user has just put in, as the one step that he can take back.
+void HoldStorable(QLineEdit& View, const QString& Text)
+{
+    const QString Held = Storable(Text);
+    if (Held == Text) return;
+    const auto Caret = static_cast<int>(Storable(Text.left(View.cursorPosition())).size());
+    const QSignalBlocker Once(View);
+    View.undo();
+    const Replacement Step = Between(View.text(), Held);
+    View.setSelection(Step.Start, Step.Length);
+    View.insert(Step.With);
+    View.setCursorPosition(Caret);
+}
+
 QLineEdit* MakeLine(TextBox& Record, int Bound)
 {
     auto* const View = new TextView<QLineEdit>(Record);
@@ -144,14 +142,8 @@ QLineEdit* MakeLine(TextBox& Record, int Bound)
         View->setCursorPosition(View->hasFocus() ? Cursor : 0); // a text that doesn't fit shows its beginning
     });
     QObject::connect(View, &QLineEdit::textChanged, View, [&Record, View](const QString& Text) {
-        const QString Held = Storable(Text);
-        if (Held != Text) {
-            const QSignalBlocker Once(View);
-            const int Cursor = View->cursorPosition();
-            View->setText(Held);
-            View->setCursorPosition(Cursor);
-        }
-        Enter(Record.Text, Held.toStdString(), View);
+        HoldStorable(*View, Text);
+        Enter(Record.Text, View->text().toStdString(), View);
     });
     Attach(Record, View);
     return View;
@@ -169,10 +161,12 @@ void HoldStorable(QPlainTextEdit& View)
     const QString Held = Storable(Text);
     if (Held == Text) return;
     QTextCursor Cursor = View.textCursor();
-    const int Caret = Cursor.position();
+    const auto Caret = static_cast<int>(Storable(Text.left(Cursor.position())).size());
+    const Replacement Step = Between(Text, Held);
     Cursor.joinPreviousEditBlock();
-    Cursor.select(QTextCursor::Document);
-    Cursor.insertText(Held);
+    Cursor.setPosition(Step.Start);
+    Cursor.setPosition(Step.Start + Step.Length, QTextCursor::KeepAnchor);
+    Cursor.insertText(Step.With);
     Cursor.endEditBlock();
     MoveCursor(View, Caret);
 }

@@ -57,7 +57,7 @@ struct Grid : Control {
     KeyHandler KeyPress;
     KeyHandler KeyDown;
     KeyHandler KeyUp;
-    Event<int> MouseDown; // the button: 1 left, 2 right, 4 any other
+    Event<int> MouseDown; // the button: 1 left, 2 right on a data cell, 4 any other press
     Handler DblClick;     // with the left button, on the current cell
 
     Event<int, int> CellView; // tells the attached view that a cell has changed

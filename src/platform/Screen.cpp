@@ -16,6 +16,12 @@ Screen::Screen(std::string ScreenName, std::string ScreenCaption)
     , Caption(std::move(ScreenCaption))
 {
     UnderConstruction = this;
+    Visible.Changed = [this] {
+        if (Visible)
+            Shown();
+        else
+            Hidden();
+    };
 }
 
 void Screen::DesignEnds()

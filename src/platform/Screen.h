@@ -23,8 +23,10 @@ struct Screen {
     Property<bool> Enabled{true};
     std::vector<Control*> Controls;
 
-    Event<> Load;  // raised when an unloaded screen is loaded
-    Event<> Close; // answers the user who closes the screen by its frame; unset, the screen is unloaded
+    Event<> Load;   // raised when an unloaded screen is loaded
+    Event<> Shown;  // raised when the screen has come up
+    Event<> Hidden; // and when it has gone
+    Event<> Close;  // answers the user who closes the screen by its frame; unset, the screen is unloaded
 
     bool IsLoaded() const { return Loaded; }
 

@@ -1,9 +1,9 @@
 // The order in which the input screen is filled, page by page.
 #include "project/InputScreen.h"
 
+#include "base/Failure.h"
 #include "base/Format.h"
 #include "base/NumberText.h"
-#include "base/Text.h"
 #include "project/CommitFields.h"
 #include "project/CostTables.h"
 #include "project/HourPattern.h"
@@ -19,6 +19,16 @@ constexpr int EnergyPage = 2;
 void ShowNumber(TextBox& Box, Single Value)
 {
     Box.Text = GeneralText(Value);
+}
+
+bool HoldsNumber(const TextBox& Box)
+{
+    try {
+        ParseSingle(Box.Text.Get());
+        return true;
+    } catch (const Failure&) {
+        return false;
+    }
 }
 
 // The working set takes what the bar can hold, ahead of the bar: a bar that shows what is stored already
@@ -236,20 +246,20 @@ void ShowLiningOption()
 
 void FillUnusedBoxes()
 {
-    const auto FillIfEmpty = [](TextBox& Box, Single Value) {
-        if (Trimmed(Box.Text.Get()).empty()) ShowNumber(Box, Value);
+    const auto Fill = [](TextBox& Box, Single Value) {
+        if (!HoldsNumber(Box)) ShowNumber(Box, Value);
     };
-    if (!frmLCC.optGSpecifiedFlowrate.Value) FillIfEmpty(frmLCC.txtGFlowrate, wFlowrate);
-    if (!frmLCC.optPumpFixed.Value) FillIfEmpty(frmLCC.txtPFlowrate, wFlowrate);
+    if (!frmLCC.optGSpecifiedFlowrate.Value) Fill(frmLCC.txtGFlowrate, wFlowrate);
+    if (!frmLCC.optPumpFixed.Value) Fill(frmLCC.txtPFlowrate, wFlowrate);
     if (frmLCC.optPumpDetails.Value) {
-        FillIfEmpty(frmLCC.txtPumpOperatingFlowrate, wPumpOperatingFlowrate);
-        FillIfEmpty(frmLCC.txtPumpEfficiency, wPumpEfficiency);
+        Fill(frmLCC.txtPumpOperatingFlowrate, wPumpOperatingFlowrate);
+        Fill(frmLCC.txtPumpEfficiency, wPumpEfficiency);
         return;
     }
     for (int Point = 0; Point < 6; ++Point) {
-        FillIfEmpty(frmLCC.txtH[Point], wPumpCurve[3 * Point + 1]);
-        FillIfEmpty(frmLCC.txtQ[Point], wPumpCurve[3 * Point + 2]);
-        FillIfEmpty(frmLCC.txtEfficiency[Point], wPumpCurve[3 * Point + 3]);
+        Fill(frmLCC.txtH[Point], wPumpCurve[3 * Point + 1]);
+        Fill(frmLCC.txtQ[Point], wPumpCurve[3 * Point + 2]);
+        Fill(frmLCC.txtEfficiency[Point], wPumpCurve[3 * Point + 3]);
     }
 }
 

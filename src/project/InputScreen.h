@@ -16,7 +16,7 @@ void ShowPumpDemandOption();
 void ShowPumpingOption();
 void ShowLiningOption();
 
-// Shows the stored value in the boxes that are empty while their option isn't chosen.
+// Shows the stored value in the boxes that hold no number while their option isn't chosen.
 void FillUnusedBoxes();
 
 // "R" or "$" in the labels beside the money fields, by the currency of the working set.

@@ -62,7 +62,8 @@ void WriteProjectFile(const std::filesystem::path& Path, const ProjectFields& Re
 {
     CompleteInterruptedWrite(Path);
     std::error_code Unknown;
-    const bool New = !std::filesystem::exists(Path, Unknown);
+    const bool New =
+        std::filesystem::symlink_status(Path, Unknown).type() == std::filesystem::file_type::not_found;
     File Target = File::OpenToWrite(Path);
     const std::uintmax_t Length = Target.Length();
     std::int64_t Number = RecordNumber(Length);

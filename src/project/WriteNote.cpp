@@ -93,12 +93,15 @@ void FlushFolder(const std::filesystem::path& Entry)
     ::close(Handle);
 }
 
-// Nothing where there can't be such a file: a folder closed to the user, a name that is taken.
+// Nothing where there can't be such a file: a folder closed to the user, a name that is taken. An older note
+// that can't be replaced is a failure: it would be taken for this write's, and undo it.
 std::optional<File> CreateNote(const std::filesystem::path& Path)
 {
     try {
         return File::CreateNew(Path);
     } catch (const FileFailure&) {
+        std::error_code Unknown;
+        if (std::filesystem::is_regular_file(Path, Unknown)) throw;
         return std::nullopt;
     }
 }

@@ -21,7 +21,8 @@ struct PendingWrite {
 std::filesystem::path NotePath(const std::filesystem::path& Project);
 
 // Writes the note, on the disk when it returns. Where no such file can be made, the write goes on without
-// one. Throws FileFailure when there is no room for its bytes: nothing is written to a full disk.
+// one. Throws FileFailure when an older note can't be replaced, and when there is no room for the new one's
+// bytes: nothing is written to a full disk.
 void NoteWrite(const std::filesystem::path& Project, const PendingWrite& Change);
 
 // Finishes the write that a note tells of, if the file holds nothing but old and new bytes in the record's

@@ -8,7 +8,6 @@
 #include "project/Session.h"
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
-#include "shell/Hints.h"
 #include "shell/KeyFilters.h"
 
 #include <algorithm>
@@ -327,7 +326,7 @@ void ConnectGridEditors()
 {
     for (const CellEditing& Each : InputGrids) ConnectGridEditor(Each);
     ProjectLoaded = SettleAll;
-    frmLCC.Visible.Changed = [] { frmLCC.Visible ? SettleAll() : ClearHint(); };
+    frmLCC.Shown = SettleAll;
 }
 
 void SettleGridEditor(const Grid& Table)

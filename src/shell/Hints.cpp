@@ -15,9 +15,7 @@ void ConnectHints(Screen& Target)
                              dynamic_cast<MenuItem*>(Each);
         if (Pressed) Each->MouseMove = ShowHint;
     }
-    Target.Visible.Changed = [&Target] {
-        if (!Target.Visible) ClearHint();
-    };
+    Target.Hidden = ClearHint;
 }
 
 void ClearHint()

@@ -128,8 +128,8 @@ void ConnectBars()
     ConnectBar(frmLCC.hscMElectrical, frmLCC.lblMElectrical, wMElectrical, PercentCaption);
 }
 
-// A box that goes out of use isn't left empty: the commit reads it all the same, and the user couldn't reach
-// it to mend that.
+// A box that goes out of use is left with a number: the commit reads it all the same, and the user couldn't
+// reach it to mend it.
 void ConnectOption(OptionButton& Option, void (*ShowOption)())
 {
     Option.Click = [ShowOption] {
@@ -177,7 +177,7 @@ void ConnectFrames()
     frmLCC.sscHideLaying.Click = [] {
         const auto Before = wLaying;
         ReadLayingGrid();
-        if (!(wLaying == Before)) MarkChanged(); // cells that were typed ahead of an analysis
+        if (wLaying != Before) MarkChanged(); // cells that were typed ahead of an analysis
         CloseLaying();
     };
     frmLCC.sscCancelLaying.Click = CloseLaying; // what was typed stays in the grid

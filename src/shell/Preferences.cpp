@@ -8,7 +8,6 @@
 #include "project/WorkingSet.h"
 #include "screens/Dialogs.h"
 #include "shell/Help.h"
-#include "shell/Hints.h"
 
 #include <cmath>
 
@@ -32,8 +31,7 @@ void ShowAllowances()
 
 void LeaveDialog()
 {
-    ClearHint();
-    frmPref.Unload();
+    frmPref.Unload(); // its hint goes with it
     RestoreScreens();
 }
 
