@@ -5,11 +5,12 @@
 #include "screens/Dialogs.h"
 #include "screens/Viewers.h"
 
-#include <algorithm>
 #include <gmock/gmock.h>
 
 namespace velorix {
 namespace {
+
+using testing::HasSubstr;
 
 class FileCommandsTest : public ProjectTest {
 protected:
@@ -22,9 +23,7 @@ protected:
     // A complete gravity project in a file of that name.
     std::filesystem::path StartSaved(const std::string& Name)
     {
-        StartNew(0);
-        frmLCC.txtProject.Text = "Hill main";
-        frmLCC.txtDesigner.Text = "A. Designer";
+        StartComplete(0);
         Windows.Files = {Folder / Name};
         SaveCommand();
         return Folder / Name;
@@ -36,46 +35,46 @@ protected:
         MarkChanged();
     }
 
-    static ProjectFields RecordIn(const std::filesystem::path& Path)
+    // Deletes the project as a user who is sure.
+    void Delete()
     {
-        const std::string Bytes = ReadFile(Path);
+        Windows.Answers = {Answer::Yes};
+        DeleteCommand();
+    }
+
+    // Shows the results of an analysis.
+    static void ShowResults()
+    {
+        frmResults.LoadHidden();
+        frmResults.Visible = true;
+        Analysed = 1;
+    }
+
+    static Single KsNewIn(const std::filesystem::path& Path)
+    {
         RecordImage Image{};
-        EXPECT_EQ(Bytes.size(), Image.size());
-        std::copy_n(Bytes.begin(), std::min(Bytes.size(), Image.size()), Image.begin());
-        return FromImage(Image);
+        ReadFile(Path).copy(Image.data(), Image.size());
+        return FromImage(Image).KsNew;
     }
 
-    std::string LastMessage() const { return Windows.Messages.empty() ? "" : Windows.Messages.back().Text; }
-
-    static void ExpectNothingVisible()
+    // What stands in the main window.
+    static std::string Shown()
     {
-        EXPECT_FALSE(frmLCC.Visible);
-        EXPECT_FALSE(frmResults.Visible);
-        ExpectNoProgress();
+        std::string Names;
+        if (frmLCC.Visible) Names += "input ";
+        if (frmResults.Visible) Names += "results ";
+        if (MDIProject.lblProgessBar.Visible || MDIProject.proProgressBar.Visible) Names += "progress ";
+        return Names;
     }
 
-    static void ExpectNoProgress()
-    {
-        EXPECT_FALSE(MDIProject.lblProgessBar.Visible);
-        EXPECT_FALSE(MDIProject.proProgressBar.Visible);
-    }
+    static std::string Title() { return MDIProject.Caption; }
 };
 
 // --- Save and Save As ---
 
-TEST_F(FileCommandsTest, ChecksComeBeforeTheSaveDialog)
-{
-    StartNew(0);
-    SaveCommand();
-    EXPECT_EQ(LastMessage(), "Enter the project name !");
-    EXPECT_THAT(Windows.FileDialogs, testing::IsEmpty());
-    EXPECT_TRUE(frmLCC.Visible);
-    EXPECT_EQ(SaveAs, 1);
-    ExpectNoProgress();
-}
-
 TEST_F(FileCommandsTest, SaveAsShowsWhatIsStoredUnderTheNewName)
 {
+    MDIProject.tmrWelcome.Enabled = true;
     const std::filesystem::path File = StartSaved("first.vlx");
     ASSERT_EQ(Windows.FileDialogs.size(), 1U);
     EXPECT_EQ(Windows.FileDialogs[0].Folder, Folder / "Projects");
@@ -83,15 +82,16 @@ TEST_F(FileCommandsTest, SaveAsShowsWhatIsStoredUnderTheNewName)
     EXPECT_TRUE(Windows.FileDialogs[0].OverwritePrompt);
     EXPECT_EQ(FileName, File.string());
     EXPECT_EQ(frmLCC.lblFileName.Caption.Get(), File.string());
-    EXPECT_EQ(MDIProject.Caption.Get(), "  Velorix (Hill main)");
     EXPECT_EQ(SaveAs, 0);
+    EXPECT_EQ(Title(), "  Velorix (Hill main)");
+    EXPECT_FALSE(MDIProject.tmrWelcome.Enabled); // which would write over the title
 
     const std::string Before = ReadFile(File);
     TypeKsNew("0.3");
     Windows.Files = {Folder / "second.vlx"};
     SaveAsCommand();
     EXPECT_EQ(FileName, (Folder / "second.vlx").string());
-    EXPECT_EQ(RecordIn(Folder / "second.vlx").KsNew, Single(0.3));
+    EXPECT_EQ(KsNewIn(Folder / "second.vlx"), Single(0.3));
     EXPECT_EQ(ReadFile(File), Before);
 }
 
@@ -101,8 +101,7 @@ TEST_F(FileCommandsTest, CancelledSaveAsKeepsTheNextSaveFromWriting)
     const std::string Before = ReadFile(File);
     TypeKsNew("0.3");
     SaveAsCommand(); // no file chosen
-    ExpectNothingVisible();
-    EXPECT_EQ(MDIProject.lblProgessBar.Caption.Get(), "");
+    EXPECT_EQ(Shown(), "");
     EXPECT_EQ(ProjectRecord.KsNew, Single(0.3));
     EXPECT_EQ(SaveAs, 1);
 
@@ -116,13 +115,13 @@ TEST_F(FileCommandsTest, CancelledSaveAsKeepsTheNextSaveFromWriting)
 
     Windows.Files = {File};
     SaveAsCommand();
-    EXPECT_EQ(RecordIn(File).KsNew, Single(0.4));
+    EXPECT_EQ(KsNewIn(File), Single(0.4));
     TypeKsNew("0.5");
     SaveCommand();
-    EXPECT_EQ(RecordIn(File).KsNew, Single(0.5));
+    EXPECT_EQ(KsNewIn(File), Single(0.5));
 }
 
-TEST_F(FileCommandsTest, ExtensionIsAddedAndAsksBeforeItReplacesAFile)
+TEST_F(FileCommandsTest, ExtensionIsAddedToANewNameAndAsksBeforeItReplacesAFile)
 {
     const std::string Before = "someone's file";
     WriteFile("main.vlx", Before);
@@ -130,17 +129,18 @@ TEST_F(FileCommandsTest, ExtensionIsAddedAndAsksBeforeItReplacesAFile)
     EXPECT_EQ(FileName, (Folder / "other.vlx").string());
     EXPECT_THAT(Windows.Messages, testing::IsEmpty());
 
-    Windows.Files = {Folder / "main", Folder / "third.dat"};
+    Windows.Files = {Folder / "main", WriteFile("third", "")};
     Windows.Answers = {Answer::No};
     SaveAsCommand();
-    EXPECT_THAT(LastMessage(), testing::HasSubstr("main.vlx"));
+    EXPECT_EQ(LastMessage(), "main.vlx already exists. Do you want to replace it ?");
     EXPECT_EQ(ReadFile(Folder / "main.vlx"), Before);
-    EXPECT_EQ(FileName, (Folder / "third.dat").string());
+    EXPECT_EQ(FileName, (Folder / "third").string());
 
+    TypeKsNew("0.3");
     Windows.Files = {Folder / "main."};
     Windows.Answers = {Answer::Yes};
     SaveAsCommand();
-    EXPECT_EQ(TextOf(RecordIn(Folder / "main.vlx").Project), "Hill main");
+    EXPECT_EQ(KsNewIn(Folder / "main.vlx"), Single(0.3));
 }
 
 TEST_F(FileCommandsTest, FailingSaveTellsTheReasonAndKeepsTheProject)
@@ -149,59 +149,37 @@ TEST_F(FileCommandsTest, FailingSaveTellsTheReasonAndKeepsTheProject)
     frmLCC.txtKsNew.Text = "0.3";
     ASSERT_EQ(Saved, 1);                      // even so it is unsaved after the failure
     std::filesystem::resize_file(File, 8325); // half a record: none to replace
-    const std::string Before = ReadFile(File);
     SaveCommand();
-    EXPECT_THAT(LastMessage(), testing::HasSubstr(File.string()));
-    EXPECT_EQ(Windows.Messages.back().Title, "Velorix");
-    EXPECT_EQ(Windows.Messages.back().Icon, MessageIcon::Exclamation);
-    EXPECT_EQ(ReadFile(File), Before);
-
-    std::filesystem::remove(File);
-    std::filesystem::create_directory(File);
-    SaveCommand();
-    EXPECT_EQ(Windows.Messages.size(), 2U);
-    EXPECT_THAT(LastMessage(), testing::HasSubstr("directory"));
+    ExpectTold("Can't write \"" + File.string() + "\": the file holds no project to replace");
+    EXPECT_EQ(std::filesystem::file_size(File), 8325U);
     EXPECT_EQ(ProjectOpen, 1);
     EXPECT_EQ(Saved, 0);
     EXPECT_EQ(frmLCC.txtKsNew.Text.Get(), "0.3");
-    EXPECT_TRUE(frmLCC.Visible);
-    ExpectNoProgress();
+    EXPECT_EQ(Shown(), "input ");
 }
 
 TEST_F(FileCommandsTest, FailingSaveAsKeepsTheOldName)
 {
     StartNew(0);
-    frmLCC.txtProject.Text = frmLCC.txtDesigner.Text = "x";
+    SaveCommand();
+    ExpectTold("Enter the project name !", "Error !");
+    EXPECT_THAT(Windows.FileDialogs, testing::IsEmpty()); // the checks come first
+
+    StartComplete(0);
     Windows.Files = {Folder / "missing" / "main.vlx"};
     SaveCommand();
-    EXPECT_THAT(LastMessage(), testing::HasSubstr("No such file or directory"));
+    EXPECT_THAT(LastMessage(), HasSubstr("No such file or directory"));
     EXPECT_EQ(FileName, "");
     EXPECT_EQ(frmLCC.lblFileName.Caption.Get(), NewProjectCaption); // so the next save asks again
     EXPECT_EQ(SaveAs, 0);                                           // the next save in place writes
     EXPECT_EQ(Saved, 0);
-    EXPECT_EQ(frmLCC.txtProject.Text.Get(), "x");
-    EXPECT_TRUE(frmLCC.Visible);
-    ExpectNoProgress();
-}
-
-TEST_F(FileCommandsTest, SavingTakesTheOtherScreensOutOfTheWay)
-{
-    StartSaved("main.vlx");
-    frmResults.LoadHidden();
-    frmView.LoadHidden();
-    frmResults.Visible = frmView.Visible = true;
-    Analysed = 1;
-    SaveCommand();
-    EXPECT_FALSE(frmResults.Visible);
-    EXPECT_FALSE(frmView.IsLoaded());
-    EXPECT_TRUE(frmLCC.Visible);
-    EXPECT_EQ(Analysed, 0);
-    EXPECT_TRUE(RedrawProfileView);
+    EXPECT_EQ(frmLCC.txtProject.Text.Get(), "Hill main");
+    EXPECT_EQ(Shown(), "input ");
 }
 
 // --- Open ---
 
-TEST_F(FileCommandsTest, OpenAsksForAFileAndLoadsIt)
+TEST_F(FileCommandsTest, OpenLoadsTheChosenFile)
 {
     const std::filesystem::path File = StartSaved("main.vlx");
     StartNew(1);
@@ -210,14 +188,14 @@ TEST_F(FileCommandsTest, OpenAsksForAFileAndLoadsIt)
     Windows.Files = {File};
     OpenProjectCommand();
     EXPECT_EQ(frmLCC.txtProject.Text.Get(), "Hill main");
+    EXPECT_EQ(Title(), "  Velorix (Hill main)");
     EXPECT_FALSE(MDIProject.tmrWelcome.Enabled);
     EXPECT_EQ(SaveAs, 0);
 
     OpenProjectCommand(); // cancelled
-    ExpectNothingVisible();
-    EXPECT_EQ(MDIProject.Caption.Get(), "  Velorix");
+    EXPECT_EQ(Shown(), "");
+    EXPECT_EQ(Title(), "  Velorix");
     EXPECT_EQ(frmLCC.txtProject.Text.Get(), "Hill main");
-    EXPECT_EQ(FileName, File.string());
     EXPECT_EQ(ProjectOpen, 1);
 }
 
@@ -228,17 +206,41 @@ TEST_F(FileCommandsTest, UnreadableFileKeepsTheOpenProject)
     TypeKsNew("0.3");
     Windows.Files = {Folder / "gone.vlx"};
     OpenProjectCommand();
-    EXPECT_THAT(LastMessage(), testing::HasSubstr("No such file or directory"));
+    ExpectTold("Can't read \"" + (Folder / "gone.vlx").string() + "\": No such file or directory");
+    frmView.LoadHidden();
+    frmView.Visible = true;
     OpenProjectFile(Folder); // dropped on the window
-    EXPECT_THAT(LastMessage(), testing::HasSubstr("directory"));
-    EXPECT_EQ(Windows.Messages.size(), 2U);
-    EXPECT_EQ(Windows.Messages.back().Title, "Velorix");
+    EXPECT_FALSE(frmView.IsLoaded());
+    EXPECT_THAT(LastMessage(), HasSubstr("Is a directory"));
     EXPECT_EQ(FileName, File.string());
     EXPECT_EQ(frmLCC.lblFileName.Caption.Get(), File.string());
+    EXPECT_EQ(Title(), "  Velorix (Hill main)");
     EXPECT_EQ(BytesOf(ProjectRecord), Before);
     EXPECT_EQ(frmLCC.txtKsNew.Text.Get(), "0.3");
-    EXPECT_TRUE(frmLCC.Visible);
-    ExpectNoProgress();
+    EXPECT_EQ(Shown(), "input ");
+}
+
+TEST_F(FileCommandsTest, ResultsGoWithEverySaveAndLoad)
+{
+    const std::filesystem::path File = StartSaved("main.vlx");
+    ShowResults();
+    frmView.LoadHidden();
+    frmView.Visible = true;
+    SaveCommand();
+    EXPECT_EQ(Shown(), "input ");
+    EXPECT_FALSE(frmView.IsLoaded());
+    EXPECT_EQ(Analysed, 0);
+    EXPECT_TRUE(RedrawProfileView);
+
+    // A deleted project leaves its results, and the next one may differ in nothing that a box shows.
+    std::filesystem::copy_file(File, Folder / "copy.vlx");
+    ShowResults();
+    Delete();
+    frmResults.Visible = true; // by the menu
+    OpenProjectFile(Folder / "copy.vlx");
+    EXPECT_EQ(Shown(), "input ");
+    EXPECT_FALSE(frmResults.IsLoaded());
+    EXPECT_EQ(Analysed, 0);
 }
 
 // A window system whose file dialogs don't come up.
@@ -255,14 +257,13 @@ TEST_F(FileCommandsTest, DialogThatDoesNotComeUpHasItsMessage)
     WithoutDialogs Bare;
     Bare.Folder = Folder;
     InstallPlatform(&Bare);
-    OpenProjectCommand();
-    EXPECT_TRUE(frmLCC.Visible);
-    SaveAsCommand();
-    EXPECT_TRUE(frmLCC.Visible);
-    ASSERT_EQ(Bare.Messages.size(), 2U);
-    EXPECT_EQ(Bare.Messages[0].Text, " Can't open project !");
-    EXPECT_EQ(Bare.Messages[1].Text, "Can't Save the project !");
-    ExpectNoProgress();
+    const std::pair<void (*)(), const char*> Cases[] = {{OpenProjectCommand, " Can't open project !"},
+                                                        {SaveAsCommand, "Can't Save the project !"}};
+    for (const auto& [Command, Text] : Cases) {
+        Command();
+        EXPECT_EQ(Bare.Messages.back().Text, Text);
+        EXPECT_EQ(Shown(), "input ");
+    }
 }
 
 // --- New ---
@@ -271,41 +272,31 @@ TEST_F(FileCommandsTest, NewProjectOffersToSaveTheOpenOne)
 {
     const std::filesystem::path File = StartSaved("main.vlx");
     TypeKsNew("0.3");
+    ShowResults();
     MDIProject.tmrWelcome.Enabled = true;
+    Windows.ModalScripts["frmLCCType"] = LccTypeCancel;
+    NewProjectCommand(); // not saved, and the old project stays, hidden
+    EXPECT_EQ(LastMessage(), "Do you want to save the project ?");
+    EXPECT_EQ(KsNewIn(File), 0.0);
+    EXPECT_EQ(Shown(), "");
+    EXPECT_FALSE(frmLCCType.IsLoaded());
+    EXPECT_EQ(frmLCC.txtKsNew.Text.Get(), "0.3");
+    EXPECT_EQ(Analysed, 1);
+
     Windows.Answers = {Answer::Yes};
     Windows.ModalScripts["frmLCCType"] = [] {
-        EXPECT_FALSE(frmLCC.Visible);
+        EXPECT_EQ(Shown(), "");
         frmLCCType.optPumping.Value = true;
         LccTypeContinue();
     };
     NewProjectCommand();
-    EXPECT_EQ(LastMessage(), "Do you want to save the project ?");
-    EXPECT_EQ(RecordIn(File).KsNew, Single(0.3));
+    EXPECT_EQ(KsNewIn(File), Single(0.3));
     EXPECT_EQ(wSystemType, 1);
     EXPECT_EQ(frmLCC.txtKsNew.Text.Get(), "0");
     EXPECT_EQ(frmLCC.lblFileName.Caption.Get(), NewProjectCaption);
-    EXPECT_EQ(MDIProject.Caption.Get(), "  Velorix");
+    EXPECT_EQ(Title(), "  Velorix");
     EXPECT_FALSE(MDIProject.tmrWelcome.Enabled);
-    EXPECT_TRUE(frmLCC.Visible);
-    EXPECT_FALSE(frmLCCType.IsLoaded());
-}
-
-TEST_F(FileCommandsTest, CancelledNewKeepsTheOldProjectHidden)
-{
-    const std::filesystem::path File = StartSaved("main.vlx");
-    const std::string Before = ReadFile(File);
-    TypeKsNew("0.3");
-    frmResults.LoadHidden();
-    frmResults.Visible = true;
-    Analysed = 1;
-    Windows.ModalScripts["frmLCCType"] = LccTypeCancel;
-    NewProjectCommand();
-    EXPECT_EQ(ReadFile(File), Before);
-    ExpectNothingVisible();
-    EXPECT_FALSE(frmLCCType.IsLoaded());
-    EXPECT_EQ(frmLCC.txtKsNew.Text.Get(), "0.3");
-    EXPECT_EQ(ProjectOpen, 1);
-    EXPECT_EQ(Analysed, 1);
+    EXPECT_EQ(Shown(), "input ");
 }
 
 // --- Delete ---
@@ -315,57 +306,41 @@ TEST_F(FileCommandsTest, DeleteAsksAndRemovesTheFile)
     const std::filesystem::path File = StartSaved("main.vlx");
     TypeKsNew("0.3");
     DeleteCommand();
-    EXPECT_EQ(LastMessage(), "The project has not been saved and thus cannot be deleted");
-    EXPECT_EQ(Windows.Messages.back().Icon, MessageIcon::None);
+    ExpectTold("The project has not been saved and thus cannot be deleted", "Velorix", MessageIcon::None);
 
     SaveCommand();
     DeleteCommand(); // No
     EXPECT_EQ(LastMessage(), "Are you sure you want to delete the current project ?");
-    EXPECT_TRUE(frmLCC.Visible);
+    EXPECT_EQ(Shown(), "input ");
     EXPECT_TRUE(std::filesystem::exists(File));
 
-    Windows.Answers = {Answer::Yes};
-    DeleteCommand();
-    EXPECT_EQ(LastMessage(), "The current project was successfully deleted");
+    StartNew(1); // the name of the last file stays when a project is begun, and Delete goes by it
+    Delete();
+    ExpectTold("The current project was successfully deleted");
     EXPECT_FALSE(std::filesystem::exists(File));
     EXPECT_EQ(ProjectOpen, 0);
     EXPECT_EQ(Saved, 0);
-    ExpectNothingVisible();
-
-    for (void (*Command)() : {SaveCommand, SaveAsCommand}) {
-        Command();
-        EXPECT_EQ(LastMessage(), "First open an existing project or start a new project");
-        ExpectNothingVisible();
-    }
-    DeleteCommand();
-    EXPECT_EQ(LastMessage(), "First open the project that you want to delete");
+    EXPECT_EQ(Title(), "  Velorix");
+    EXPECT_EQ(Shown(), "");
 }
 
-// The name of the last file stays when a project is begun, and so does what Delete goes by.
-TEST_F(FileCommandsTest, DeleteAfterNewGoesByTheOldName)
+// No file, a folder, and a file whose name is that of another but for a blank.
+TEST_F(FileCommandsTest, DeleteRefusesWhatIsNotTheFileOfTheProject)
 {
-    StartNew(0);
-    Windows.Answers = {Answer::Yes};
-    DeleteCommand();
-    EXPECT_EQ(LastMessage(), "Could not delete the project.");
-    EXPECT_EQ(Windows.Messages.back().Title, "Error !");
-    EXPECT_EQ(Windows.Messages.back().Icon, MessageIcon::None);
-    EXPECT_EQ(ProjectOpen, 1);
-    EXPECT_EQ(Saved, 1);
-    ExpectNothingVisible();
-
-    const std::filesystem::path File = StartSaved("older.vlx");
-    StartNew(0);
-    Windows.Answers = {Answer::Yes};
-    DeleteCommand();
-    EXPECT_FALSE(std::filesystem::exists(File));
-
-    StartNew(0);
-    std::filesystem::create_directory(File); // an empty folder is no project
-    Windows.Answers = {Answer::Yes};
-    DeleteCommand();
-    EXPECT_EQ(LastMessage(), "Could not delete the project.");
-    EXPECT_TRUE(std::filesystem::exists(File));
+    WriteFile("main.vlx", "");
+    WriteFile("main.vlx ", "");
+    std::filesystem::create_directory(Folder / "folder.vlx");
+    for (const char* Name : {"gone.vlx", "folder.vlx", "main.vlx "}) {
+        StartNew(0);
+        FileName = (Folder / Name).string();
+        Delete();
+        ExpectTold("Could not delete the project.", "Error !", MessageIcon::None);
+        EXPECT_EQ(ProjectOpen, 1);
+        EXPECT_EQ(Saved, 1);
+        EXPECT_EQ(Shown(), "");
+    }
+    for (const char* Each : {"main.vlx", "main.vlx ", "folder.vlx"})
+        EXPECT_TRUE(std::filesystem::exists(Folder / Each)) << Each;
 }
 
 // --- Exit ---

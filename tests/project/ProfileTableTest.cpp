@@ -27,14 +27,18 @@ protected:
         }
     }
 
-    static std::string Cell(int Row, int Col) { return frmLCC.msgProfile.Text(Row, Col); }
+    static std::string RowText(int Row)
+    {
+        std::string Text;
+        for (int Col = 0; Col < 8; ++Col) Text += (Col > 0 ? "|" : "") + frmLCC.msgProfile.Text(Row, Col);
+        return Text;
+    }
 };
 
 TEST_F(ProfileTableTest, EndsAtTheFirstZeroOrUnusedEntry)
 {
     EXPECT_EQ(NodeCount, 4);
-    EXPECT_EQ(Cell(2, 1), "52.5");
-    EXPECT_EQ(Cell(4, 7), "Non-return valve    "); // padded to the table's width
+    EXPECT_EQ(RowText(4), "4|54.5|300|304|0|40|1|Non-return valve    "); // padded to the table's width
     wElevation[3] = wAccLength[3] = 0.0;
     FillProfileGrid();
     EXPECT_EQ(NodeCount, 2);
@@ -62,6 +66,7 @@ TEST_F(ProfileTableTest, ReadTakesLeadingDigitsAndPaddedNames)
     frmLCC.msgProfile.SetText(2, 1, "");
     frmLCC.msgProfile.SetText(3, 1, "9e99"); // too large to be stored: the cell counts as unreadable
     frmLCC.msgProfile.SetText(3, 7, "Node");
+    wWallThickness[5] = 6.0;
     ReadProfileGrid();
     EXPECT_EQ(wElevation[1], -12.5);
     EXPECT_EQ(wElevation[2], 0.0);
@@ -72,39 +77,27 @@ TEST_F(ProfileTableTest, ReadTakesLeadingDigitsAndPaddedNames)
     EXPECT_EQ(wWallThickness[5], 0.0);
 }
 
-// The copied cells come from the row before the one that was current.
-TEST_F(ProfileTableTest, AddCopiesFromBeforeTheRowThatWasCurrent)
+// An added row copies from the row before the one that was current, an inserted one from its neighbour.
+TEST_F(ProfileTableTest, NewRowsTakeOverThePipe)
 {
     frmLCC.msgProfile.Select(4, 2);
     AddProfileRow();
     EXPECT_EQ(NodeCount, 5);
-    EXPECT_EQ(Cell(5, 0), "5");
-    EXPECT_EQ(Cell(5, 1), "");
-    EXPECT_EQ(Cell(5, 3), "303");
-    EXPECT_EQ(Cell(5, 6), "0.75");
-    EXPECT_EQ(Cell(5, 7), "Node");
+    EXPECT_EQ(RowText(5), "5|||303|0|30|0.75|Node");
     EXPECT_EQ(wDiameter[5], 303.0);
     EXPECT_EQ(frmLCC.msgProfile.Row(), 1);
-}
 
-TEST_F(ProfileTableTest, InsertMovesTheRowsDown)
-{
     frmLCC.msgProfile.Select(3, 1);
     InsertProfileRow();
-    EXPECT_EQ(NodeCount, 5);
-    EXPECT_EQ(Cell(3, 1), "");
-    EXPECT_EQ(Cell(3, 3), "302");
-    EXPECT_EQ(Cell(3, 6), "0");
-    EXPECT_EQ(Cell(4, 1), "53.5");
-    EXPECT_EQ(Cell(5, 2), "300");
-
+    EXPECT_EQ(NodeCount, 6);
+    EXPECT_EQ(RowText(3), "3|||302|0|20|0|Node");
+    EXPECT_EQ(RowText(4), "4|53.5|200|303|0|30|0.75|Isolating valve     ");
     frmLCC.msgProfile.Select(1, 1);
     InsertProfileRow();
-    EXPECT_EQ(Cell(1, 7), "Reservoir");
-    EXPECT_EQ(Cell(1, 3), "301"); // from the row below, there being none above
+    EXPECT_EQ(RowText(1), "1|||301|0|10|0|Reservoir");
     wSystemType = 1;
     InsertProfileRow();
-    EXPECT_EQ(Cell(1, 7), "Pumpstation");
+    EXPECT_EQ(frmLCC.msgProfile.Text(1, 7), "Pumpstation");
 }
 
 TEST_F(ProfileTableTest, DeleteAsksAboutDataAndKeepsTwoRows)
@@ -112,14 +105,13 @@ TEST_F(ProfileTableTest, DeleteAsksAboutDataAndKeepsTwoRows)
     frmLCC.msgProfile.Select(2, 1);
     DeleteProfileRow(); // answered with No
     EXPECT_EQ(NodeCount, 4);
-    EXPECT_EQ(Windows.Messages.back().Text, "There is data in row2 ! Do you want to delete the row anyway?");
+    EXPECT_EQ(LastMessage(), "There is data in row2 ! Do you want to delete the row anyway?");
     EXPECT_EQ(Windows.Messages.back().Title, "Velorix : Delete row!");
 
     Windows.Answers = {Answer::Yes, Answer::Yes};
     DeleteProfileRow();
     EXPECT_EQ(NodeCount, 3);
-    EXPECT_EQ(Cell(2, 1), "53.5");
-    EXPECT_EQ(Cell(2, 0), "2");
+    EXPECT_EQ(RowText(2), "2|53.5|200|303|0|30|0.75|Isolating valve     ");
     frmLCC.msgProfile.Select(3, 1);
     DeleteLastProfileRow();
     EXPECT_EQ(NodeCount, 2);

@@ -51,14 +51,5 @@ TEST(ProjectRecordTest, EveryBitGoesThroughUnchanged)
     }
 }
 
-TEST(ProjectRecordTest, TextsAreCutPaddedAndTrimmed)
-{
-    FixedText<20> Field;
-    SetText(Field, "  a name with more than twenty letters");
-    EXPECT_EQ(TextOf(Field), "a name with more t");
-    SetText(Field, "short");
-    EXPECT_EQ(std::string(Field.Bytes.begin(), Field.Bytes.end()), "short" + std::string(15, ' '));
-}
-
 } // namespace
 } // namespace velorix

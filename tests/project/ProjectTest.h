@@ -61,12 +61,32 @@ protected:
         NewProjectDefaults();
     }
 
+    // A new project of that kind that passes every check.
+    void StartComplete(int SystemType)
+    {
+        StartNew(SystemType);
+        frmLCC.txtProject.Text = "Hill main";
+        frmLCC.txtDesigner.Text = "A. Designer";
+    }
+
     // Loads the record in memory the way an opened file is loaded.
     void LoadThroughFile()
     {
         FileName = WriteFile("project.vlx", BytesOf(ProjectRecord));
         LoadProject();
     }
+
+    // The last message, by default that of a refused command.
+    void ExpectTold(const std::string& Text, const std::string& Title = "Velorix",
+                    MessageIcon Icon = MessageIcon::Exclamation) const
+    {
+        EXPECT_EQ(LastMessage(), Text);
+        if (Windows.Messages.empty()) return;
+        EXPECT_EQ(Windows.Messages.back().Title, Title);
+        EXPECT_EQ(Windows.Messages.back().Icon, Icon);
+    }
+
+    std::string LastMessage() const { return Windows.Messages.empty() ? "" : Windows.Messages.back().Text; }
 
     ScriptedPlatform Windows;
     std::filesystem::path Folder;

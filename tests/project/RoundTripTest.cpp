@@ -12,23 +12,20 @@ namespace {
 
 using RoundTripTest = ProjectTest;
 
-// What a pumping project doesn't store: the floating editors and the gravity system's own boxes.
+// Whether a project of this kind stores what the control holds. The controls of one kind stand together.
 bool IsStored(const Control* Each)
 {
-    const std::vector<const Control*> Others = {&frmLCC.txtCell,
-                                                &frmLCC.txtLaying,
-                                                &frmLCC.txtCellOperational,
-                                                &frmLCC.txtCellOtherOperational,
-                                                &frmLCC.txtDemand,
-                                                &frmLCC.txtPumpDemand,
-                                                &frmLCC.comNode,
-                                                &frmLCC.txtGFlowrate,
-                                                &frmLCC.txtTRWL,
-                                                &frmLCC.txtBRWL,
-                                                &frmLCC.msgDemand,
-                                                &frmLCC.optGSpecifiedFlowrate,
-                                                &frmLCC.optGCalculatedFlowrate};
-    return std::find(Others.begin(), Others.end(), Each) == Others.end();
+    const auto Among = [Each](const Control& First, const Control& Last) {
+        const auto Place = [](const Control* Sought) {
+            return std::find(frmLCC.Controls.begin(), frmLCC.Controls.end(), Sought);
+        };
+        return Place(Each) >= Place(&First) && Place(Each) <= Place(&Last);
+    };
+    if (!Each->Visible) return false; // the floating editors
+    if (Each == &frmLCC.comVaryingDemandUnits) return true;
+    if (Each == &frmLCC.comPumpVaryingDemandUnits) return false; // shows the unit of the other
+    if (IsPumping()) return !Among(frmLCC.fraGravityOption, frmLCC.comBRWLUnits);
+    return !Among(frmLCC.fraPumpOption, frmLCC.sscOK) && !Among(frmLCC.fraSummer, frmLCC.lblPumpingHours);
 }
 
 void TypeIntoGrid(Grid& Table, int Base)
@@ -39,12 +36,14 @@ void TypeIntoGrid(Grid& Table, int Base)
                 Table.SetText(Row, Col, std::to_string(Base + 10 * Row + Col) + ".5");
 }
 
-// A value of its own into every control of a pumping project.
+// A value of its own into every control, so that the two selectors over one field differ.
 void TypeEverything()
 {
-    for (OptionButton* Each : {&frmLCC.optPumpVarying, &frmLCC.optPumpDetails, &frmLCC.optMortar})
+    for (OptionButton* Each :
+         {&frmLCC.optGCalculatedFlowrate, &frmLCC.optPumpVarying, &frmLCC.optPumpDetails, &frmLCC.optMortar})
         Each->Value = true;
     wLife = 7;
+    FillDemandGrid(frmLCC.msgDemand);
     FillDemandGrid(frmLCC.msgPumpDemand);
     frmLCC.msgProfile.SetRows(6);
     int Number = 0;
@@ -52,8 +51,9 @@ void TypeEverything()
         ++Number;
         if (auto* Box = dynamic_cast<TextBox*>(Each))
             Box->Text = std::to_string(Number) + ".25";
-        else if (auto* Selector = dynamic_cast<ComboBox*>(Each); Selector && IsStored(Selector))
-            Selector->ListIndex = 1 + Number % (static_cast<int>(Selector->List.Get().size()) - 1);
+        else if (auto* Selector = dynamic_cast<ComboBox*>(Each); Selector && Selector != &frmLCC.comNode)
+            Selector->ListIndex = 1 + (IsStored(Selector) ? Number : Number + 1) %
+                                          (static_cast<int>(Selector->List.Get().size()) - 1);
         else if (auto* Bar = dynamic_cast<ScrollBar*>(Each))
             Bar->Value = Bar->Min + Number % (Bar->Max - Bar->Min + 1);
         else if (auto* Table = dynamic_cast<Grid*>(Each))
@@ -70,11 +70,6 @@ void TypeEverything()
         frmLCC.lblSummerHour[static_cast<int>(Hour)].BackColor = Classes.at(Hour % 3);
         frmLCC.lblWinterHour[static_cast<int>(Hour)].BackColor = Classes.at(Hour / 8);
     }
-    // Both kinds of system have selectors over these fields.
-    frmLCC.comTRWLUnits.ListIndex = frmLCC.comPPRWLUnits.ListIndex;
-    frmLCC.comBRWLUnits.ListIndex = frmLCC.comPERWLUnits.ListIndex;
-    frmLCC.comGFlowrateUnits.ListIndex = frmLCC.comPFlowrateUnits.ListIndex;
-    frmLCC.comPumpVaryingDemandUnits.ListIndex = frmLCC.comVaryingDemandUnits.ListIndex;
 }
 
 std::string ShownBy(const Control& Each)
@@ -96,45 +91,47 @@ std::vector<std::string> ShownProject()
 {
     std::vector<std::string> Shown;
     for (const Control* Each : frmLCC.Controls)
-        if (IsStored(Each)) Shown.push_back(Each->ToolTip + ": " + ShownBy(*Each));
-    for (int Hour = 0; Hour < 24; ++Hour) {
-        const auto Colors = {frmLCC.lblSummerHour[Hour].BackColor.Get(),
-                             frmLCC.lblWinterHour[Hour].BackColor.Get()};
-        for (const Color Each : Colors)
-            Shown.push_back(Each == PeakColor ? "peak" : Each == StandardColor ? "standard" : "off-peak");
-    }
+        if (const std::string Value = ShownBy(*Each); IsStored(Each) && !Value.empty())
+            Shown.push_back(Each->ToolTip + ": " + Value);
+    for (int Hour = 0; IsPumping() && Hour < 24; ++Hour)
+        for (const auto* Season : {&frmLCC.lblSummerHour, &frmLCC.lblWinterHour}) {
+            const Color Class = (*Season)[Hour].BackColor;
+            Shown.push_back(Class == PeakColor ? "peak" : Class == StandardColor ? "standard" : "off-peak");
+        }
     return Shown;
 }
 
 TEST_F(RoundTripTest, EveryFieldComesBackAsTyped)
 {
-    const std::filesystem::path File = Folder / "pump.vlx";
-    StartNew(1);
-    TypeEverything();
-    const std::vector<std::string> Typed = ShownProject();
-    Windows.Files = {File};
-    SaveCommand(); // no file yet, so the dialog asks for one
-    EXPECT_EQ(Windows.FileDialogs.size(), 1U);
-    EXPECT_EQ(ShownProject(), Typed);
+    for (const int SystemType : {0, 1}) {
+        const std::filesystem::path File = Folder / (std::to_string(SystemType) + ".vlx");
+        StartNew(SystemType);
+        TypeEverything();
+        const std::vector<std::string> Typed = ShownProject();
+        Windows.Files = {File};
+        SaveCommand(); // no file yet, so the dialog asks for one
+        EXPECT_EQ(ShownProject(), Typed);
 
-    ResetProjectRecord();
-    ResetWorkingSet();
-    ResetSession();
-    for (Screen* Each : std::initializer_list<Screen*>{&frmLCC, &MDIProject}) Each->Unload();
-    StartNew(0);
-    OpenProjectFile(File);
-    EXPECT_EQ(ShownProject(), Typed);
-    EXPECT_EQ(frmLCC.lblFileName.Caption.Get(), File.string());
-    EXPECT_EQ(MDIProject.lblSystem.Caption.Get(), "Pumping system");
-
+        ResetProjectRecord();
+        ResetWorkingSet();
+        ResetSession();
+        for (Screen* Each : std::initializer_list<Screen*>{&frmLCC, &MDIProject}) Each->Unload();
+        StartNew(1 - SystemType);
+        OpenProjectFile(File);
+        EXPECT_EQ(ShownProject(), Typed);
+        EXPECT_EQ(MDIProject.lblSystem.Caption.Get(), IsPumping() ? "Pumping system" : "Gravity system");
+        EXPECT_EQ(frmLCC.sstInput.TabVisible.Get()[2], IsPumping());
+        EXPECT_EQ(frmLCC.fraPumpcurve.Visible, IsPumping());
+        EXPECT_EQ(frmLCC.fraPumpVaryingDemand.Visible, IsPumping());
+        EXPECT_EQ(frmLCC.fraGravityOption.Visible, !IsPumping());
+    }
     frmLCC.txtWOffpeak.Text = "0.123456789"; // more digits than are stored
     MarkChanged();
     SaveCommand();
-    EXPECT_EQ(Windows.FileDialogs.size(), 1U);
+    EXPECT_EQ(Windows.FileDialogs.size(), 2U); // in its file
     EXPECT_EQ(frmLCC.txtWOffpeak.Text.Get(), "0.12345679");
-    EXPECT_EQ(ReadProjectFile(File).WOffpeak, Single(0.123456789));
+    EXPECT_EQ(ReadProjectFile(FileName).WOffpeak, Single(0.123456789));
     EXPECT_EQ(Saved, 1);
-    EXPECT_TRUE(frmLCC.Visible);
     EXPECT_TRUE(Windows.Messages.empty());
 }
 
