@@ -16,7 +16,7 @@ TEST_F(DialogsTest, StartPutsANewProjectOnTheScreen)
     EXPECT_FALSE(MDIProject.mnuRoughness.Visible);
 }
 
-TEST_F(DialogsTest, TheIntroCountsFromOneToTenAndRound)
+TEST_F(DialogsTest, OpeningCountsOnAndAdvisesOnOtherScreenSizes)
 {
     std::vector<std::size_t> Counts;
     Windows.ModalScripts["frmIntro"] = [&] {
@@ -29,6 +29,12 @@ TEST_F(DialogsTest, TheIntroCountsFromOneToTenAndRound)
     StartProgram();
     EXPECT_EQ(Counts, (std::vector<std::size_t>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 1}));
     EXPECT_FALSE(frmIntro.tmrWelcome.Enabled);
+    EXPECT_TRUE(Windows.Messages.empty());
+
+    Windows.Pixels = {1280, 800};
+    StartProgram();
+    EXPECT_EQ(LastMessage(), "The recommended screen size is 800 x 600 !");
+    EXPECT_EQ(Windows.Messages.back().Icon, MessageIcon::Information);
 }
 
 TEST_F(DialogsTest, RefusedAgreementEndsTheProgram)
@@ -39,28 +45,33 @@ TEST_F(DialogsTest, RefusedAgreementEndsTheProgram)
     EXPECT_EQ(Windows.ModalScreens, std::vector<std::string>{"frmAgree"}); // no intro
 }
 
-TEST_F(DialogsTest, OtherScreenSizesGetAdvice)
-{
-    StartProgram();
-    EXPECT_TRUE(Windows.Messages.empty());
-    Windows.Pixels = {1280, 800};
-    StartProgram();
-    EXPECT_EQ(LastMessage(), "The recommended screen size is 800 x 600 !");
-    EXPECT_EQ(Windows.Messages.back().Icon, MessageIcon::Information);
-}
-
-TEST_F(DialogsTest, PreferencesGoToTheWorkingSet)
+TEST_F(DialogsTest, PreferencesAreTakenOnOKOnly)
 {
     wPG = 12.34;
-    Windows.ModalScripts["frmPref"] = [] {
+    wContingencies = 12.125; // the bar counts hundredths of a percent, halves to the even one
+    const auto Change = [] {
         EXPECT_FALSE(frmLCC.Visible);
         EXPECT_EQ(frmPref.hsbPG.Value, 1234);
         EXPECT_EQ(frmPref.lblPG.Caption.Get(), "12.34%");
+        EXPECT_EQ(frmPref.hsbContingencies.Value, 1212);
         EXPECT_TRUE(frmPref.optMetric.Value);
         frmPref.optUS.Value = true;
         frmPref.optDollars.Value = true;
         frmPref.hsbContingencies.Value = 755;
         EXPECT_EQ(frmPref.lblContingencies.Caption.Get(), "7.55%");
+    };
+    Windows.ModalScripts["frmPref"] = [&] {
+        Change();
+        frmPref.CloseByFrame();
+    };
+    MDIProject.mnuPreferences.Click();
+    EXPECT_EQ(wUnits, 0);
+    EXPECT_EQ(wCurrency, 0);
+    EXPECT_EQ(wContingencies, 12.125);
+    EXPECT_TRUE(frmLCC.Visible);
+
+    Windows.ModalScripts["frmPref"] = [&] {
+        Change();
         frmPref.sscOK.Click();
     };
     MDIProject.mnuPreferences.Click();
@@ -70,32 +81,34 @@ TEST_F(DialogsTest, PreferencesGoToTheWorkingSet)
     EXPECT_EQ(wContingencies, Single(7.55));
     EXPECT_EQ(frmLCC.lblUnit[5].Caption.Get(), "$");
     EXPECT_EQ(frmLCC.msgLaying.Text(0, 1), "Cost ($/ft³)");
-    EXPECT_TRUE(frmLCC.Visible);
 }
 
-// Hundredths of a percent, halves to the even one.
-TEST_F(DialogsTest, AllowanceBarsRoundHalvesToEven)
+// The results don't come back; the currency signs are new a moment later.
+TEST_F(DialogsTest, DialogsOverTheResultsBringBackTheInput)
 {
-    wPG = 12.125;
-    Windows.ModalScripts["frmPref"] = [] { frmPref.sscOK.Click(); };
-    MDIProject.mnuPreferences.Click();
-    EXPECT_EQ(wPG, Single(12.12));
+    const std::pair<MenuItem*, Screen*> Cases[] = {{&MDIProject.mnuPreferences, &frmPref},
+                                                   {&MDIProject.mnuAbout, &frmAbout},
+                                                   {&MDIProject.mnuDisclaimer, &frmDisclaimer}};
+    for (const auto& [Item, Dialog] : Cases) {
+        frmLCC.Visible = false;
+        frmResults.Visible = true;
+        wCurrency = 0;
+        MDIProject.tmrCurrency.Tick();
+        Windows.ModalScripts[Dialog->Name] = [Shown = Dialog] {
+            EXPECT_FALSE(frmResults.Visible);
+            wCurrency = 1;
+            Shown->CloseByFrame();
+        };
+        Item->Click();
+        EXPECT_TRUE(frmLCC.Visible) << Dialog->Name;
+        EXPECT_EQ(frmLCC.lblCurrency[0].Caption.Get(), "R");
+        Fire(MDIProject.tmrCurrency);
+        EXPECT_EQ(frmLCC.lblCurrency[0].Caption.Get(), "$") << Dialog->Name;
+        EXPECT_FALSE(MDIProject.tmrCurrency.Enabled);
+    }
 }
 
-TEST_F(DialogsTest, CancelledPreferencesChangeNothing)
-{
-    Windows.ModalScripts["frmPref"] = [] {
-        frmPref.optUS.Value = true;
-        frmPref.hsbPG.Value = 0;
-        frmPref.CloseByFrame();
-    };
-    MDIProject.mnuPreferences.Click();
-    EXPECT_EQ(wUnits, 0);
-    EXPECT_EQ(wPG, 10.0);
-    EXPECT_TRUE(frmLCC.Visible);
-}
-
-TEST_F(DialogsTest, NoticesComeAndGo)
+TEST_F(DialogsTest, AboutTellsTheVersionAndTheSystem)
 {
     Windows.ModalScripts["frmAbout"] = [] {
         EXPECT_EQ(frmAbout.lblVersion.Caption.Get().substr(0, 9), "Version: ");
@@ -104,13 +117,6 @@ TEST_F(DialogsTest, NoticesComeAndGo)
     };
     MDIProject.mnuAbout.Click();
     EXPECT_EQ(LastMessage(), "System Information Is Unavailable At This Time");
-    EXPECT_TRUE(frmLCC.Visible);
-
-    Windows.ModalScripts["frmDisclaimer"] = [] {
-        for (const Label& Line : frmDisclaimer.Lines) EXPECT_FALSE(Line.Caption.Get().empty());
-        frmDisclaimer.sscOK.Click();
-    };
-    MDIProject.mnuDisclaimer.Click();
     EXPECT_TRUE(frmLCC.Visible);
 }
 

@@ -15,7 +15,9 @@ using Place = std::pair<int, int>; // row, col
 
 class GridEditorTest : public InputTest {
 protected:
-    GridEditorTest()
+    GridEditorTest() { Fill(); }
+
+    void Fill()
     {
         for (int Row = 1; Row <= 4; ++Row) {
             wElevation[Row] = 50.0 + Row;
@@ -52,110 +54,104 @@ TEST_F(GridEditorTest, TheCursorTakesItsTintAlongAndMarksTheProject)
     EXPECT_THAT(Tinted(Profile), ElementsAre(Place(1, 1)));
     EXPECT_EQ(Profile.Cell(3, 2).BackColor, WindowColor);
     EXPECT_EQ(Profile.Cell(0, 2).BackColor, ButtonColor);
-}
 
-TEST_F(GridEditorTest, TypingReplacesTheCellAndEnterGoesOn)
-{
     Go(Profile, 1, 1);
+    Saved = 1;
     Type(U"7");
-    EXPECT_EQ(Profile.Text(1, 1), "7");
-    EXPECT_EQ(Windows.Focused, &Editor);
-    EXPECT_TRUE(Editor.Visible);
-    EXPECT_EQ(Editor.SelStart, 1);
     ExpectMarked(true, "a key in the cell that was current when the project was saved");
-    Type(U"5.5");
-    EXPECT_EQ(Profile.Text(1, 1), "75.5"); // before Enter
-    Press(Keys::Enter);
-    EXPECT_EQ(Profile.Text(1, 1), "75.5");
-    EXPECT_EQ(Current(Profile), Place(1, 2));
-    EXPECT_EQ(Windows.Focused, &Profile);
-    EXPECT_FALSE(Editor.Visible);
-
-    Press(Keys::Backspace);
-    EXPECT_EQ(Profile.Text(1, 2), "10");
-    EXPECT_EQ(Editor.Text.Get(), "10");
-    Press(Keys::Backspace);
-    EXPECT_EQ(Profile.Text(1, 2), "1");
 }
 
-TEST_F(GridEditorTest, TheCellShowsWhatIsTypedInTheMiddle)
-{
-    Go(Profile, 2, 2);
-    Press(Keys::F2);
-    EXPECT_EQ(Editor.Text.Get(), "200");
-    for (int Step = 0; Step < 2; ++Step) Press(Keys::Left);
-    Type(U"5");
-    EXPECT_EQ(Profile.Text(2, 2), "2500");
-    Press(Keys::Backspace);
-    EXPECT_EQ(Profile.Text(2, 2), "200");
-    Editor.Text = "8"; // pasted over
-    Profile.MouseDown(1);
-    EXPECT_FALSE(Editor.Visible);
-    EXPECT_EQ(Profile.Text(2, 2), "8");
-}
-
-TEST_F(GridEditorTest, EscapeBringsBackTheTextAsEntered)
-{
-    Go(Profile, 2, 2);
-    Type(U"66");
-    Profile.MouseDown(1);
-    Windows.SetFocus(Profile);
-    Press(Keys::F2);
-    EXPECT_EQ(Editor.Text.Get(), "66");
-    Press(Keys::Escape);
-    EXPECT_EQ(Editor.Text.Get(), "200"); // not what it opened on
-    EXPECT_EQ(Editor.SelStart, 3);
-    EXPECT_EQ(Profile.Text(2, 2), "200");
-    EXPECT_TRUE(Editor.Visible);
-    Windows.SetFocus(Profile);
-    Press(Keys::Escape); // in the grid: nothing
-    EXPECT_EQ(Profile.Text(2, 2), "200");
-}
-
-TEST_F(GridEditorTest, ArrowsLeaveTheEditorAtTheEndsOfItsText)
+TEST_F(GridEditorTest, KeysEditTheCellAndMoveOn)
 {
     struct Case {
         Place From;
-        int Key;
+        std::u32string Keys;
+        std::string Text; // of the cell then
         Place To;
+        bool Open; // the editor
     };
-    for (const Case& Each : {Case{{2, 2}, Keys::Left, {2, 1}}, Case{{2, 1}, Keys::Left, {1, 7}},
-                             Case{{1, 1}, Keys::Left, {1, 1}}, Case{{2, 5}, Keys::Up, {1, 5}},
-                             Case{{1, 5}, Keys::Up, {1, 5}}, Case{{1, 6}, Keys::Right, {1, 7}},
-                             Case{{1, 5}, Keys::Down, {2, 5}}, Case{{4, 5}, Keys::Down, {4, 5}}}) {
+    const Case Cases[] = {
+        {{1, 1}, U"75.5", "75.5", {1, 1}, true}, // in the cell before Enter
+        {{1, 1}, U"75.5⏎", "75.5", {1, 2}, false},
+        {{1, 7}, U"⏎", "Node                ", {2, 7}, false},
+        {{1, 2}, U"⌫", "10", {1, 2}, true}, // the grid's, and then the editor's
+        {{1, 2}, U"⌫⌫", "1", {1, 2}, true},
+        {{2, 2}, U"✎←←5", "2500", {2, 2}, true},
+        {{2, 2}, U"✎←←5⌫", "200", {2, 2}, true},
+        {{2, 2}, U"66⎋", "200", {2, 2}, true},
+        {{2, 2}, U"⎋", "200", {2, 2}, false}, // in the grid: nothing
+        {{1, 3}, U"°", "°", {1, 3}, true},
+        {{1, 3}, U"\x03", "301", {1, 3}, false}, // a control key
+        // The arrows leave the editor at the ends of its text.
+        {{2, 2}, U"9←←", "9", {2, 1}, false},
+        {{2, 1}, U"9←←", "9", {1, 7}, false},
+        {{1, 1}, U"9←←", "9", {1, 1}, false},
+        {{2, 5}, U"9↑", "9", {1, 5}, false},
+        {{1, 5}, U"9↑", "9", {1, 5}, false},
+        {{1, 6}, U"9→", "9", {1, 7}, false},
+        {{1, 5}, U"9↓", "9", {2, 5}, false},
+        {{4, 5}, U"9↓", "9", {4, 5}, false},
+    };
+    for (const Case& Each : Cases) {
+        Fill();
         Go(Profile, Each.From.first, Each.From.second);
-        Type(U"9");
-        if (Each.Key == Keys::Left) Press(Keys::Left); // to the start of the text
-        EXPECT_TRUE(Editor.Visible);
-        Press(Each.Key);
-        EXPECT_EQ(Current(Profile), Each.To) << Each.From.first << "," << Each.From.second;
-        EXPECT_EQ(Profile.Text(Each.From.first, Each.From.second), "9");
-        EXPECT_FALSE(Editor.Visible);
-        EXPECT_EQ(Windows.Focused, &Profile);
+        Type(Each.Keys);
+        SCOPED_TRACE(&Each - Cases); // the place in the table
+        EXPECT_EQ(Profile.Text(Each.From.first, Each.From.second), Each.Text);
+        EXPECT_EQ(Current(Profile), Each.To);
+        EXPECT_EQ(Editor.Visible, Each.Open);
+        EXPECT_EQ(Windows.Focused, Each.Open ? static_cast<Control*>(&Editor) : &Profile);
+        if (Each.Open) {
+            EXPECT_EQ(Editor.Text.Get(), Each.Text);
+        }
     }
-
     Go(frmLCC.msgOperational, 3, 2); // from the last column into the next row, column 1
-    Type(U"1");
-    Press(Keys::Right);
+    Type(U"1→");
     EXPECT_EQ(Current(frmLCC.msgOperational), Place(4, 1));
 }
 
-// Grid and editor filter different columns of the profile.
-TEST_F(GridEditorTest, GridAndEditorEachHaveTheirFilter)
+TEST_F(GridEditorTest, APressClosesTheEditorAndEscapeBringsBackTheTextAsEntered)
+{
+    Go(Profile, 2, 2);
+    Type(U"6");
+    EXPECT_EQ(Editor.SelStart, 1);
+    Editor.Text = "66"; // pasted over
+    Profile.MouseDown(1);
+    EXPECT_FALSE(Editor.Visible);
+    Windows.SetFocus(Profile);
+    Type(U"✎");
+    EXPECT_EQ(Editor.Text.Get(), "66");
+    Type(U"⎋");
+    EXPECT_EQ(Editor.Text.Get(), "200"); // not what it opened on
+    EXPECT_EQ(Editor.SelStart, 3);
+    EXPECT_EQ(Profile.Text(2, 2), "200");
+}
+
+// Grid and editor filter different columns of the profile, and F2 opens the grid's; a double click any.
+TEST_F(GridEditorTest, ColumnsDifferInWhatTheyTakeAndWhatOpensThem)
 {
     std::vector<int> TakenByGrid;
     std::vector<int> TakenByEditor;
-    for (int Col = 1; Col <= 6; ++Col) {
+    std::vector<int> OpenedByF2;
+    std::vector<int> OpenedByClick;
+    for (int Col = 1; Col <= 7; ++Col) {
         Go(Profile, 1, Col);
-        Profile.SetText(1, Col, "4");
+        Type(U"✎");
+        if (Editor.Visible) OpenedByF2.push_back(Col);
+        Profile.MouseDown(1);
+        Profile.DblClick();
+        if (Editor.Visible) OpenedByClick.push_back(Col);
+        Profile.MouseDown(1);
+        Windows.SetFocus(Profile);
         Type(U"-");
         if (Profile.Text(1, Col) == "-") TakenByGrid.push_back(Col);
         Profile.MouseDown(1);
         Windows.SetFocus(Profile);
-        Type(U"4");
-        Type(U"-");
+        Type(U"4-");
         if (Profile.Text(1, Col) == "4-") TakenByEditor.push_back(Col);
     }
+    EXPECT_THAT(OpenedByF2, ElementsAre(1, 2, 5, 6));
+    EXPECT_THAT(OpenedByClick, ElementsAre(1, 2, 3, 4, 5, 6));
     EXPECT_THAT(TakenByGrid, ElementsAre(3, 4));
     EXPECT_THAT(TakenByEditor, ElementsAre(3, 5, 6));
 
@@ -165,31 +161,9 @@ TEST_F(GridEditorTest, GridAndEditorEachHaveTheirFilter)
     Go(frmLCC.msgDemand, 1, 1);
     Type(U"x2-");
     EXPECT_EQ(frmLCC.msgDemand.Text(1, 1), "2");
-}
-
-TEST_F(GridEditorTest, OnlyAFilteredColumnOpensAtF2)
-{
-    std::vector<int> Opened;
-    for (int Col = 1; Col <= 7; ++Col) {
-        Go(Profile, 1, Col);
-        Press(Keys::F2);
-        if (Editor.Visible) Opened.push_back(Col);
-    }
-    EXPECT_THAT(Opened, ElementsAre(1, 2, 5, 6));
-}
-
-TEST_F(GridEditorTest, ACharacterOfSeveralBytesIsOne)
-{
-    Go(Profile, 1, 3);
-    Type(U"°");
-    EXPECT_EQ(Profile.Text(1, 3), "°");
-    EXPECT_EQ(Editor.SelStart, 1);
     Profile.SetText(1, 3, "9°");
-    Windows.SetFocus(Profile);
-    Press(Keys::Backspace);
-    EXPECT_EQ(Profile.Text(1, 3), "9");
-    Windows.SetFocus(Profile);
-    Type(U"\x03"); // a control key
+    Go(Profile, 1, 3);
+    Type(U"⌫"); // a character of two bytes
     EXPECT_EQ(Profile.Text(1, 3), "9");
 }
 
@@ -203,8 +177,7 @@ TEST_F(GridEditorTest, TheComponentIsChosenFromTheList)
     EXPECT_EQ(frmLCC.comNode.ListIndex, 0); // a new project's "Node"
     Saved = 1;
 
-    Type(U"x");
-    Press(Keys::Backspace);
+    Type(U"x⌫");
     EXPECT_EQ(Windows.Focused, &frmLCC.comNode);
     EXPECT_FALSE(Editor.Visible);
     ExpectMarked(false, "opening the list");
@@ -219,22 +192,15 @@ TEST_F(GridEditorTest, TheComponentIsChosenFromTheList)
     frmLCC.comNode.ListIndex = 1;
     Profile.Select(3, 6);
     EXPECT_FALSE(frmLCC.comNode.Visible);
-    frmLCC.comNode.ListIndex = 2;
+    frmLCC.comNode.ListIndex = 2; // no longer over its cell
     EXPECT_EQ(Profile.Text(3, 7), ComponentTable[2]);
     EXPECT_EQ(Profile.Text(3, 6), "0");
-    ReadProfileGrid();
-    EXPECT_EQ(wNodeDesc[2], 6);
-    EXPECT_EQ(wNodeDesc[3], 1);
 }
 
 TEST_F(GridEditorTest, EnterOnTheLastRowOfTheProfileAddsOne)
 {
-    Go(Profile, 1, 7);
-    Press(Keys::Enter);
-    EXPECT_EQ(Current(Profile), Place(2, 7));
-    EXPECT_EQ(Profile.Rows(), 5);
     Go(Profile, 4, 7);
-    Press(Keys::Enter);
+    Type(U"⏎");
     EXPECT_EQ(Profile.Rows(), 6);
     EXPECT_EQ(Current(Profile), Place(5, 1));
     EXPECT_THAT(Tinted(Profile), ElementsAre(Place(5, 1)));
@@ -243,7 +209,7 @@ TEST_F(GridEditorTest, EnterOnTheLastRowOfTheProfileAddsOne)
 
     Grid& Expenses = frmLCC.msgOtherOperational;
     Go(Expenses, 5, 1);
-    Press(Keys::Enter);
+    Type(U"⏎");
     EXPECT_EQ(Current(Expenses), Place(5, 1));
     EXPECT_EQ(Expenses.Rows(), 6);
 }
@@ -255,34 +221,24 @@ TEST_F(GridEditorTest, HeadingsInsideTheLayingTableAreClosed)
     Type(U"99"); // a table that nobody has been in yet stands on its first cell
     EXPECT_EQ(Laying.Text(1, 1), "99");
     Go(Laying, 8, 1);
-    Type(U"12");
-    Press(Keys::Enter);
-    EXPECT_EQ(Current(Laying), Place(9, 1));
-    Type(U"5");
-    Press(Keys::F2);
-    Press(Keys::Backspace);
+    Type(U"12⏎5✎⌫");
+    Laying.DblClick();
     EXPECT_FALSE(frmLCC.txtLaying.Visible);
     EXPECT_EQ(Laying.Text(9, 1), "Anticipated laying conditions");
-    Press(Keys::Down);
-    Type(U"5");
+    Type(U"↓5");
     EXPECT_EQ(Laying.Text(10, 1), "Percentage expected");
-    Press(Keys::Enter);
-    Type(U"30");
+    Type(U"⏎30");
     EXPECT_EQ(Laying.Text(11, 1), "30");
     EXPECT_EQ(Laying.Text(8, 1), "12");
 }
 
 TEST_F(GridEditorTest, TheRightButtonOpensTheRowMenuOfTheProfile)
 {
-    Go(Profile, 1, 1);
-    Type(U"5");
     Profile.MouseDown(1);
+    frmLCC.msgDemand.MouseDown(2);
     EXPECT_FALSE(MDIProject.mnuFGridRows.Visible);
     Profile.MouseDown(2);
     EXPECT_TRUE(MDIProject.mnuFGridRows.Visible);
-    MDIProject.mnuFGridRows.Visible = false;
-    frmLCC.msgDemand.MouseDown(2);
-    EXPECT_FALSE(MDIProject.mnuFGridRows.Visible);
 }
 
 TEST_F(GridEditorTest, ALoadIsNoEditAndLeavesNoTrace)
@@ -291,24 +247,21 @@ TEST_F(GridEditorTest, ALoadIsNoEditAndLeavesNoTrace)
     frmLCC.msgDemand.Select(25, 1);
     Go(frmLCC.msgOperational, 3, 1);
     Type(U"777");
-    frmLCC.Visible = false; // as every command does that loads
-    Start(0);
+    Start(0); // while the screen stands, as in a save ahead of the profile view
     EXPECT_EQ(Saved, 1);
     EXPECT_FALSE(frmLCC.txtCellOperational.Visible);
-    EXPECT_EQ(frmLCC.msgOperational.Tag, frmLCC.msgOperational.Text(3, 1));
-    EXPECT_NE(frmLCC.msgOperational.Tag, "777");
+    EXPECT_EQ(frmLCC.msgOperational.Tag, "120000"); // a new project's
     EXPECT_EQ(Profile.Rows(), 3);
     EXPECT_THAT(Tinted(Profile), ElementsAre(Place(1, 1)));
     EXPECT_THAT(Tinted(frmLCC.msgOperational), ElementsAre(Place(3, 1)));
 
-    frmResults.LoadHidden();
+    Windows.SetFocus(frmLCC.msgOperational);
+    Type(U"777");
     Analysed = 1;
     frmLCC.Visible = false;
     frmLCC.Visible = true; // back from the results
     EXPECT_EQ(Analysed, 1);
-    Go(frmLCC.msgOperational, 3, 1); // the cell that was current already
-    Type(U"7");
-    EXPECT_EQ(Analysed, 0);
+    EXPECT_FALSE(frmLCC.txtCellOperational.Visible);
 }
 
 TEST_F(GridEditorTest, ALongerAndAShorterDemandTableHaveOneCurrentCell)
@@ -327,26 +280,26 @@ TEST_F(GridEditorTest, ALongerAndAShorterDemandTableHaveOneCurrentCell)
 
 TEST_F(GridEditorTest, RowOperationsAreEditsWhenTheyChangeTheRows)
 {
-    frmLCC.sscAdd.Click(); // the cursor is on row 1 before and after
-    ExpectMarked(true, "an insertion");
-    EXPECT_EQ(Profile.Rows(), 6);
-    EXPECT_EQ(Profile.Tag, "");
-    EXPECT_THAT(Tinted(Profile), ElementsAre(Place(1, 1)));
-    MDIProject.mnuFGridExtrRow.Click(); // answered with No
-    MDIProject.mnuFGridDelRow.Click();
-    ExpectMarked(false, "a refused deletion");
-    Windows.Answers = {Answer::Yes, Answer::Yes};
-    MDIProject.mnuFGridExtrRow.Click();
-    ExpectMarked(true, "the deletion of the current row");
-    EXPECT_EQ(Profile.Tag, "51");
-    MDIProject.mnuFGridDelRow.Click();
-    ExpectMarked(true, "the deletion of the last row");
-    MDIProject.mnuFGridAddRow.Click();
-    ExpectMarked(true, "a row at the end");
-    MDIProject.mnuFGridInsRow.Click();
-    ExpectMarked(true, "an insertion from the menu");
-    EXPECT_EQ(Profile.Rows(), 6);
-    EXPECT_THAT(Tinted(Profile), ElementsAre(Place(1, 1)));
+    struct Case {
+        const Handler& Command;
+        Answer Answered;
+        int Rows; // afterwards, with the headings
+    };
+    // The cursor is on row 1 before and after.
+    for (const Case& Each : {Case{frmLCC.sscAdd.Click, Answer::No, 6},
+                             Case{MDIProject.mnuFGridExtrRow.Click, Answer::Yes, 5}, // the new row
+                             Case{MDIProject.mnuFGridDelRow.Click, Answer::No, 5},
+                             Case{MDIProject.mnuFGridDelRow.Click, Answer::Yes, 4},
+                             Case{MDIProject.mnuFGridAddRow.Click, Answer::No, 5},
+                             Case{MDIProject.mnuFGridInsRow.Click, Answer::No, 6}}) {
+        const bool Changes = Each.Rows != Profile.Rows();
+        Windows.Answers = {Each.Answered};
+        Each.Command();
+        EXPECT_EQ(Profile.Rows(), Each.Rows);
+        ExpectMarked(Changes, std::to_string(Each.Rows) + " rows");
+        EXPECT_EQ(Profile.Tag, Profile.Text(1, 1));
+        EXPECT_THAT(Tinted(Profile), ElementsAre(Place(1, 1)));
+    }
 }
 
 } // namespace

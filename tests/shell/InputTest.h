@@ -4,6 +4,8 @@
 #include "ShellTest.h"
 #include "platform/Keys.h"
 
+#include <map>
+
 namespace velorix {
 
 class InputTest : public ShellTest {
@@ -28,17 +30,20 @@ protected:
         Windows.SetFocus(Table);
     }
 
-    // Types the characters, one key after the other, wherever the focus is.
+    // Types the characters, one key after the other, wherever the focus is. Keys with a code of their own are
+    // drawn: the arrows, ⏎ Enter, ⌫ Backspace, ⎋ Escape, and ✎ for F2, which opens the editor.
     void Type(const std::u32string& Text)
     {
-        for (const char32_t Each : Text) Send(OtherKey, static_cast<int>(Each));
-    }
-
-    // Presses and lets go a key that has a code of its own.
-    void Press(int Key)
-    {
-        const bool Types = Key == Keys::Backspace || Key == Keys::Enter || Key == Keys::Escape;
-        Send(Key, Types ? Key : 0);
+        const std::map<char32_t, int> Drawn = {
+            {U'←', Keys::Left},  {U'↑', Keys::Up}, {U'→', Keys::Right},     {U'↓', Keys::Down},
+            {U'⏎', Keys::Enter}, {U'✎', Keys::F2}, {U'⌫', Keys::Backspace}, {U'⎋', Keys::Escape}};
+        for (const char32_t Each : Text) {
+            const auto Key = Drawn.find(Each);
+            if (Key == Drawn.end())
+                Send(OtherKey, static_cast<int>(Each));
+            else
+                Send(Key->second, std::u32string(U"⏎⌫⎋").find(Each) < 3 ? Key->second : 0);
+        }
     }
 
 private:

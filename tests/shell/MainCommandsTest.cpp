@@ -16,6 +16,7 @@ TEST_F(MainCommandsTest, EveryCommandAsksForAProject)
         {&MDIProject.mnuSave, "First open an existing project or start a new project"},
         {&MDIProject.mnuSaveAs, "First open an existing project or start a new project"},
         {&MDIProject.mnuGeneral, "No project has been opened."},
+        {&MDIProject.mnuResults, "Project has not been analysed."},
         {&MDIProject.mnuDelete, "First open the project that you want to delete"},
         {&MDIProject.mnuPrint,
          "First open an existing project or start a new project and then print the data."},
@@ -24,43 +25,24 @@ TEST_F(MainCommandsTest, EveryCommandAsksForAProject)
     for (const auto& [Item, Text] : Cases) {
         Item->Click();
         EXPECT_EQ(LastMessage(), Text);
-        EXPECT_EQ(Windows.Messages.back().Title, "Velorix");
+        EXPECT_EQ(Windows.Messages.back().Title, "Velorix") << Text;
+        EXPECT_EQ(Windows.Messages.back().Icon, MessageIcon::Exclamation) << Text;
     }
     EXPECT_EQ(Windows.Messages.size(), std::size(Cases));
     EXPECT_TRUE(Windows.ModalScreens.empty());
 }
 
-TEST_F(MainCommandsTest, ResultsNeedAnAnalysis)
+TEST_F(MainCommandsTest, ResultsAndInputTakeTurns)
 {
-    MDIProject.mnuResults.Click();
-    EXPECT_EQ(LastMessage(), "Project has not been analysed.");
+    frmLCC.Visible = false;
+    MDIProject.mnuResults.Click(); // not analysed
     EXPECT_TRUE(frmLCC.Visible);
-
     Analysed = 1;
     MDIProject.mnuResults.Click();
     EXPECT_TRUE(frmResults.Visible);
     EXPECT_FALSE(frmLCC.Visible);
     MDIProject.mnuGeneral.Click();
     EXPECT_FALSE(frmResults.Visible);
-    EXPECT_TRUE(frmLCC.Visible);
-}
-
-TEST_F(MainCommandsTest, NewStartsTheKindThatIsChosen)
-{
-    Windows.ModalScripts["frmLCCType"] = [] {
-        EXPECT_TRUE(frmLCCType.optGravity.Value);
-        frmLCCType.optPumping.Value = true;
-        frmLCCType.sscContinue.Click();
-    };
-    MDIProject.sscNew.Click();
-    EXPECT_EQ(wSystemType, 1);
-    EXPECT_TRUE(frmLCC.Visible);
-
-    Windows.ModalScripts["frmLCCType"] = [] { frmLCCType.sscCancel.Click(); };
-    MDIProject.mnuNew.Click();
-    EXPECT_EQ(wSystemType, 1);
-    EXPECT_FALSE(frmLCC.Visible);
-    MDIProject.mnuGeneral.Click();
     EXPECT_TRUE(frmLCC.Visible);
 }
 
@@ -75,24 +57,6 @@ TEST_F(MainCommandsTest, NoButtonIsLeftUnconnected)
             if (!Button || !Button->Enabled) continue;
             EXPECT_TRUE(Button->Click) << Each->Name << ": " << Button->Caption.Get() << Button->ToolTip;
         }
-}
-
-// A dialog over the results brings back the input screen, and the currency signs a moment later.
-TEST_F(MainCommandsTest, DialogOverTheResultsRefreshesTheCurrency)
-{
-    frmLCC.Visible = false;
-    frmResults.Visible = true;
-    Windows.ModalScripts["frmPref"] = [] {
-        EXPECT_EQ(ViewState, 2);
-        wCurrency = 1;
-        frmPref.sscCancel.Click();
-    };
-    MDIProject.mnuPreferences.Click();
-    EXPECT_TRUE(frmLCC.Visible);
-    EXPECT_EQ(frmLCC.lblCurrency[0].Caption.Get(), "R");
-    Fire(MDIProject.tmrCurrency);
-    EXPECT_EQ(frmLCC.lblCurrency[0].Caption.Get(), "$");
-    EXPECT_FALSE(MDIProject.tmrCurrency.Enabled);
 }
 
 TEST_F(MainCommandsTest, ClosingTheAnalysisByItsFrameIsACancel)
@@ -112,24 +76,39 @@ TEST_F(MainCommandsTest, WelcomeLineRunsOutAfterItsTicks)
     Fire(MDIProject.tmrWelcome);
     EXPECT_EQ(MDIProject.Caption.Get(), "We");
     int Ticks = 2;
-    while (MDIProject.tmrWelcome.Enabled && Ticks < 1000) {
-        Fire(MDIProject.tmrWelcome);
-        ++Ticks;
-    }
+    for (; MDIProject.tmrWelcome.Enabled && Ticks < 1000; ++Ticks) Fire(MDIProject.tmrWelcome);
     EXPECT_EQ(Ticks, 82);
     EXPECT_EQ(MDIProject.Caption.Get(), "  Velorix");
 }
 
-TEST_F(MainCommandsTest, HelpAndHints)
+TEST_F(MainCommandsTest, HelpOpensAtItsTopic)
 {
-    MDIProject.mnuContents.Click();
-    MDIProject.mnuMethod.Click();
-    frmLCC.sscHelp2.Click();
-    EXPECT_EQ(Windows.HelpTopics, (std::vector<int>{1000, 7000, 3070}));
+    for (const Handler* Each :
+         {&MDIProject.mnuContents.Click, &MDIProject.mnuHelpOn.Click, &MDIProject.sscHelp.Click,
+          &MDIProject.mnuMethod.Click, &frmLCC.sscHelp.Click, &frmLCC.sscHelp1.Click, &frmLCC.sscHelp3.Click,
+          &frmLCC.sscHelp2.Click, &frmLCC.sscMechanical.Click, &frmLCC.sscElectrical.Click,
+          &frmDeleteRow.sscHelp.Click, &frmLCCType.sscHelp.Click, &frmPref.sscHelp.Click,
+          &frmAnalyse.sscHelp.Click})
+        (*Each)();
+    EXPECT_EQ(Windows.HelpTopics, (std::vector<int>{1000, 1000, 1000, 7000, 3050, 3060, 3065, 3070, 3090,
+                                                    3100, 3060, 3000, 4000, 5000}));
+}
+
+TEST_F(MainCommandsTest, HintsComeWithTheFocusAndOverButtons)
+{
+    const auto Hint = [] { return MDIProject.StatusText.Caption.Get(); };
+    Windows.SetFocus(frmLCC.comHeadUnits);
+    EXPECT_EQ(Hint(), "Select the pump head units");
+    Windows.SetFocus(frmLCC.msgProfile);
+    EXPECT_EQ(Hint(), "Enter the pipeline profile");
+    frmLCC.sscViewProfile.MouseMove();
+    EXPECT_EQ(Hint(), "Click to view the pipeline profile");
+    frmLCC.Visible = false;
+    EXPECT_EQ(Hint(), ""); // goes with its screen
     MDIProject.sscSave.MouseMove();
-    EXPECT_EQ(MDIProject.StatusText.Caption.Get(), "Save the project");
+    EXPECT_EQ(Hint(), "Save the project");
     MDIProject.sspProject.MouseMove();
-    EXPECT_EQ(MDIProject.StatusText.Caption.Get(), "");
+    EXPECT_EQ(Hint(), "");
 }
 
 } // namespace
