@@ -15,6 +15,9 @@
 #include "screens/MainWindow.h"
 #include "screens/Results.h"
 
+#include <algorithm>
+#include <cctype>
+
 namespace velorix {
 namespace {
 
@@ -85,9 +88,14 @@ FileDialog SaveDialog()
             .OverwritePrompt = true};
 }
 
+// What stands behind the last point of "Phase 1.2" is none.
 bool HasExtension(const std::filesystem::path& Path)
 {
-    return Path.extension().string().size() > 1;
+    const std::string Extension = Path.extension().string();
+    const auto IsLetter = [](unsigned char Each) { return std::isalpha(Each) != 0; };
+    const auto IsSign = [](unsigned char Each) { return std::isalnum(Each) != 0; };
+    return Extension.size() > 1 && IsLetter(static_cast<unsigned char>(Extension[1])) &&
+           std::all_of(Extension.begin() + 1, Extension.end(), IsSign);
 }
 
 bool IsFile(const std::filesystem::path& Path)
@@ -103,7 +111,8 @@ std::optional<std::filesystem::path> AskWhereToSave(const FileDialog& Dialog)
     while (true) {
         std::optional<std::filesystem::path> Chosen = System().AskFileToSave(Dialog);
         if (!Chosen || HasExtension(*Chosen) || IsFile(*Chosen)) return Chosen;
-        Chosen->replace_extension(ProjectExtension);
+        if (Chosen->extension() == ".") Chosen->replace_extension();
+        *Chosen += ProjectExtension;
         if (!IsFile(*Chosen) ||
             Confirm(Chosen->filename().string() + " already exists. Do you want to replace it ?"))
             return Chosen;

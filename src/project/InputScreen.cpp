@@ -11,6 +11,8 @@
 #include "project/WorkingSet.h"
 #include "screens/MainWindow.h"
 
+#include <cmath>
+
 namespace velorix {
 namespace {
 
@@ -212,6 +214,7 @@ void FillInputScreen()
         FillGravitySystem();
     FillProfilePage();
     FillRatesPage();
+    FillUnusedBoxes();
 }
 
 void ShowGravityDemandOption()
@@ -247,7 +250,7 @@ void ShowLiningOption()
 void FillUnusedBoxes()
 {
     const auto Fill = [](TextBox& Box, Single Value) {
-        if (!HoldsNumber(Box)) ShowNumber(Box, Value);
+        if (!HoldsNumber(Box)) ShowNumber(Box, std::isfinite(Value.Float()) ? Value : Single(0.0));
     };
     if (!frmLCC.optGSpecifiedFlowrate.Value) Fill(frmLCC.txtGFlowrate, wFlowrate);
     if (!frmLCC.optPumpFixed.Value) Fill(frmLCC.txtPFlowrate, wFlowrate);

@@ -16,7 +16,8 @@ void ShowPumpDemandOption();
 void ShowPumpingOption();
 void ShowLiningOption();
 
-// Shows the stored value in the boxes that hold no number while their option isn't chosen.
+// Shows the stored value, or 0 for one that is no number, in the boxes that hold none while their option
+// isn't chosen.
 void FillUnusedBoxes();
 
 // "R" or "$" in the labels beside the money fields, by the currency of the working set.

@@ -118,7 +118,9 @@ void AnalyseCommand()
 void InputDataCommand()
 {
     LeaveProjectScreens();
-    if (RequireProject("No project has been opened.")) ShowInputScreen();
+    if (!RequireProject("No project has been opened.")) return;
+    ShowInputScreen();
+    if (HasFile()) ShowTitle(); // which a cancelled command has taken away
 }
 
 void ResultsCommand()

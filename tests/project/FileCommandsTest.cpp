@@ -125,8 +125,8 @@ TEST_F(FileCommandsTest, ExtensionIsAddedToANewNameAndAsksBeforeItReplacesAFile)
 {
     const std::string Before = "someone's file";
     WriteFile("main.vlx", Before);
-    StartSaved("other"); // no such file
-    EXPECT_EQ(FileName, (Folder / "other.vlx").string());
+    StartSaved("Phase 1.2"); // no such file, and no extension
+    EXPECT_EQ(FileName, (Folder / "Phase 1.2.vlx").string());
     EXPECT_THAT(Windows.Messages, testing::IsEmpty());
 
     Windows.Files = {Folder / "main", WriteFile("third", "")};

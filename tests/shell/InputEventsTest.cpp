@@ -5,6 +5,7 @@
 #include "project/Commit.h"
 #include "project/ProfileTable.h"
 
+#include <cmath>
 #include <gmock/gmock.h>
 
 namespace velorix {
@@ -170,6 +171,17 @@ TEST_F(InputEventsTest, OptionsShowTheirFields)
 }
 
 // The user couldn't reach it to mend that, and the commit reads it all the same.
+// A foreign file may store what is no number where nobody can mend it.
+TEST_F(InputEventsTest, ABoxOutOfUseShowsANumberAfterALoad)
+{
+    Start(1);
+    wPumpCurve[2] = std::nanf("");
+    CopyWorkingSetToRecord();
+    NewProject = 1; // the record as it is
+    LoadProject();
+    EXPECT_EQ(frmLCC.txtQ[0].Text.Get(), "0");
+}
+
 TEST_F(InputEventsTest, ABoxThatGoesOutOfUseIsNotLeftEmpty)
 {
     struct Case {
