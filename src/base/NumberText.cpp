@@ -151,6 +151,17 @@ Number ParseNumber(std::string_view Text)
     return ReadNumber<Number>(Inner);
 }
 
+// Whatever looks empty in a text from elsewhere: blanks, tabs, line ends, no-break spaces.
+std::string_view WithoutLeadingSpace(std::string_view Text)
+{
+    constexpr std::string_view NoBreakSpace = "\u00A0";
+    while (true) {
+        Text.remove_prefix(std::min(Text.find_first_not_of(" \t\r\n"), Text.size()));
+        if (!Text.starts_with(NoBreakSpace)) return Text;
+        Text.remove_prefix(NoBreakSpace.size());
+    }
+}
+
 } // namespace
 
 DecimalDigits ShortestDecimal(Single Value)
@@ -175,7 +186,7 @@ std::string GeneralText(double Value)
 
 Single LeadingNumber(std::string_view Text)
 {
-    const std::string_view Number = TrimmedLeft(Text);
+    const std::string_view Number = WithoutLeadingSpace(Text);
     const std::size_t Length = NumberLength(Number);
     return Length == 0 ? Single(0.0) : Single(ReadNumber<float>(Number.substr(0, Length)));
 }

@@ -27,8 +27,8 @@ DecimalDigits ShortestDecimal(double Value);
 std::string GeneralText(Single Value);
 std::string GeneralText(double Value);
 
-// The number at the start of the text, rounded to 32 bits: blanks, a sign, digits with at most one point, an
-// exponent. What follows is dropped; no number there gives 0. A number beyond 32 bits throws
+// The number at the start of the text, rounded to 32 bits: white space, a sign, digits with at most one
+// point, an exponent. What follows is dropped; no number there gives 0. A number beyond 32 bits throws
 // ArithmeticFailure.
 Single LeadingNumber(std::string_view Text);
 

@@ -25,11 +25,12 @@ QColor InkOf(const GridCell& Cell, bool Fixed, const QPalette& Palette)
     return Palette.color(Fixed ? QPalette::ButtonText : QPalette::Text);
 }
 
-// Headings in the middle, numbers at the right, texts at the left.
-Qt::Alignment AlignmentOf(const QString& Text, bool Heading)
+// Headings in the middle, numbers at the right, texts at the left. What a cell that can be edited won't be
+// read as, with commas or blanks in it, is a text.
+Qt::Alignment AlignmentOf(const QString& Text, bool Heading, bool Editable)
 {
     if (Heading) return Qt::AlignCenter;
-    return (IsNumberText(Text) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+    return (IsNumberText(Text, !Editable) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
 }
 
 } // namespace
@@ -96,7 +97,7 @@ void GridView::PaintCell(QPainter& Painter, int Row, int Col)
     if (Heading)
         Painter.drawText(Room, Qt::AlignCenter | Qt::TextWordWrap, Text);
     else
-        Painter.drawText(Room, AlignmentOf(Text, Heading) | Qt::TextSingleLine,
+        Painter.drawText(Room, AlignmentOf(Text, Heading, Editor) | Qt::TextSingleLine,
                          Painter.fontMetrics().elidedText(Text, Qt::ElideRight, Room.width()));
 }
 

@@ -141,7 +141,7 @@ void GridView::PlaceEditors()
 {
     if (!IsData(Current())) return;
     if (Editor && !Editor->isHidden()) {
-        Editor->setAlignment((IsNumberText(Editor->text()) ? Qt::AlignRight : Qt::AlignLeft) |
+        Editor->setAlignment((IsNumberText(Editor->text(), false) ? Qt::AlignRight : Qt::AlignLeft) |
                              Qt::AlignVCenter);
         LayOver(*Editor);
     }

@@ -73,7 +73,6 @@ HelpWindow::HelpWindow(std::vector<HelpTopic> AllTopics, QWidget* Owner)
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, Words,
             [this] { Words->setFocus(); });
-    Words->setFocus();
 }
 
 QWidget* HelpWindow::TopicPane()
@@ -107,6 +106,16 @@ QWidget* HelpWindow::TextPane()
     return InColumn({InRow({Back, Forward, nullptr}), Text});
 }
 
+void HelpWindow::Ask(int Number)
+{
+    ShowTopic(Number);
+    show();
+    raise();
+    activateWindow();
+    Words->setFocus();
+    Words->selectAll();
+}
+
 void HelpWindow::ShowTopic(int Number)
 {
     int Found = 0;
@@ -125,6 +134,11 @@ void HelpWindow::Search(const QString& Wanted)
     }
     if (First >= 0 && List->currentRow() >= 0 && List->currentItem()->isHidden()) Choose(First);
     MarkWords();
+    if (const auto Marks = Text->extraSelections(); !Marks.isEmpty()) {
+        QTextCursor Hit = Marks.constFirst().cursor;
+        Hit.clearSelection();
+        Text->setTextCursor(Hit); // brings it into view
+    }
 }
 
 void HelpWindow::Choose(int Topic)
@@ -144,6 +158,7 @@ void HelpWindow::Step(int Direction)
 
 void HelpWindow::Open(int Topic)
 {
+    if (List->item(Topic)->isHidden()) Words->clear(); // the search that left it out is over
     {
         const QSignalBlocker Silent(List);
         List->setCurrentRow(Topic);

@@ -17,6 +17,9 @@ class HelpWindow : public QWidget {
 public:
     HelpWindow(std::vector<HelpTopic> AllTopics, QWidget* Owner);
 
+    // Comes to the front with the topic, ready for a search.
+    void Ask(int Number);
+
     // Opens the topic of that number, the first one when there is none.
     void ShowTopic(int Number);
 

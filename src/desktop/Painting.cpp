@@ -27,13 +27,14 @@ QPalette PaintedPalette(Color Back)
     return Painted;
 }
 
-bool IsNumberText(const QString& Text)
+bool IsNumberText(const QString& Text, bool InGroups)
 {
     QString Number = Text.trimmed();
+    if (InGroups) Number.remove(',');
     if (Number.startsWith('R') || Number.startsWith('$')) Number.remove(0, 1);
     if (Number.endsWith('%')) Number.chop(1);
     bool Readable = false;
-    QLocale::c().toDouble(Number.remove(',').remove(' '), &Readable);
+    QLocale::c().toDouble(Number, &Readable);
     return Readable;
 }
 

@@ -19,8 +19,9 @@ QColor ToQColor(Color Value);
 // Black on the told colour, whatever the desktop's colours are.
 QPalette PaintedPalette(Color Back);
 
-// True of a number, with the signs that stand with one: currency, per cent, thousands.
-bool IsNumberText(const QString& Text);
+// True of a number, with the signs that stand with one: currency, per cent, and the commas of one that is
+// written in groups.
+bool IsNumberText(const QString& Text, bool InGroups);
 
 // A frame two pixels wide inside the rectangle.
 void DrawFrame(QPainter& Painter, const QRect& Around, const QColor& Ink);

@@ -306,10 +306,7 @@ void QtPlatform::ShowHelp(const std::filesystem::path& HelpFile, int Topic)
     QWidget* const Owner = TopWindow();
     if (Help && Help->parentWidget() != Owner && Help != Owner) delete Help;
     if (!Help) Help = new HelpWindow(std::move(Topics), Owner);
-    Help->ShowTopic(Topic);
-    Help->show();
-    Help->raise();
-    Help->activateWindow();
+    Help->Ask(Topic);
 }
 
 void QtPlatform::EndProgram()

@@ -296,6 +296,7 @@ void DeleteProject()
     frmLCC.Visible = false;
     if (Analysed == 1) frmResults.Visible = false;
     MDIProject.Caption = ProgramTitle;
+    MDIProject.lblSystem.Caption = "";
     Warn("The current project was successfully deleted");
 }
 

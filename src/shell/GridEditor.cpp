@@ -1,6 +1,7 @@
 // The events of the grids and of the editors over them.
 #include "shell/GridEditor.h"
 
+#include "base/CodePage.h"
 #include "base/Text.h"
 #include "platform/Keys.h"
 #include "platform/Platform.h"
@@ -19,13 +20,14 @@ namespace {
 
 // Texts are UTF-8; a typed key and the caret count characters.
 
-// The typed character; nothing for a control key and for a code that is no character.
+// The typed character; nothing for a control key, and for a character that a project file can't hold.
 std::string Character(int Key)
 {
     constexpr int FirstPrintable = 32;
     const bool Control = Key < FirstPrintable || (Key >= 0x7F && Key < 0xA0);
     const bool Surrogate = Key >= 0xD800 && Key <= 0xDFFF;
-    return Control || Surrogate || Key > 0x10FFFF ? std::string() : Utf8Of(static_cast<char32_t>(Key));
+    const auto Code = static_cast<char32_t>(Key);
+    return Control || Surrogate || !InCodePage(Code) ? std::string() : Utf8Of(Code);
 }
 
 std::string WithoutLastCharacter(std::string Text)

@@ -36,17 +36,15 @@ void ConnectEdits()
     frmLCC.dtpDate.Change = MarkChanged;
 }
 
-// The table is read first, so that what was typed since the last reading shows again; rows behind one without
-// level and length go, as at a load. Not so when the load step has set the selector, to the unit that is
-// stored or, for a unit that the list doesn't know, to none: the table still shows the project before then.
+// Not so when the load step has set the selector, to the unit that is stored or, for a unit that the list
+// doesn't know, to none: the table still shows the project before then.
 void DiameterUnitsChosen()
 {
     MarkChanged();
     const int Chosen = frmLCC.comDiameterUnits.ListIndex;
     if (Chosen < 0 || Chosen == wDiameterUnits) return;
-    ReadProfileGrid();
     ReadUnit(frmLCC.comDiameterUnits, wDiameterUnits);
-    FillProfileGrid();
+    RefillProfileGrid();
     SettleGridEditor(frmLCC.msgProfile);
 }
 

@@ -119,6 +119,9 @@ TEST_F(HelpWindowTest, ASearchListsTheTopicsThatHoldAllWordsAndMarksThem)
     EXPECT_TRUE(List().item(2)->isHidden());
     EXPECT_TRUE(Shown().contains("Trench"));
     EXPECT_EQ(Window->findChild<QTextBrowser*>()->extraSelections().size(), 2);
+    Window->ShowTopic(30); // asked for by a command: the search is over
+    EXPECT_FALSE(List().item(2)->isHidden());
+    Search("bedding");
     Search("nowhere");
     EXPECT_TRUE(Shown().contains("Trench")); // what stood stays
     Search("");

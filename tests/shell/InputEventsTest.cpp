@@ -218,11 +218,14 @@ TEST_F(InputEventsTest, UnitsThatAreStoredAtOnce)
 {
     Go(frmLCC.msgProfile, 1, 1);
     Type(U"88");
+    frmLCC.sscAdd.Click(); // an empty row, which would end the table at a load
+    Saved = 1;
     frmLCC.comDiameterUnits.ListIndex = 3;
+    EXPECT_EQ(frmLCC.msgProfile.Rows(), 4);
     ExpectMarked(true, "a unit");
     EXPECT_EQ(wDiameterUnits, 3);
-    EXPECT_EQ(frmLCC.msgProfile.Text(1, 1), "88"); // what was typed isn't lost
-    EXPECT_EQ(frmLCC.msgProfile.Tag, "88");
+    EXPECT_EQ(frmLCC.msgProfile.Text(2, 1), "88"); // what was typed isn't lost
+    EXPECT_EQ(frmLCC.msgProfile.Tag, "0");
     EXPECT_FALSE(frmLCC.txtCell.Visible);
 
     Start(1);
