@@ -116,7 +116,7 @@ PictureView::PictureView(const QString& Name, int Width, const QString& Descript
 {
     Drawing.setAspectRatioMode(Qt::KeepAspectRatio);
     setAccessibleName(Description);
-    setMaximumSize(sizeHint());
+    setMaximumSize(Scaled(Width));
 }
 
 QSize PictureView::Scaled(int Width) const

@@ -304,7 +304,7 @@ void QtPlatform::ShowHelp(const std::filesystem::path& HelpFile, int Topic)
         return;
     }
     QWidget* const Owner = TopWindow();
-    if (Help && Help->parentWidget() != Owner && Help != Owner) delete Help;
+    if (Help && Help->parentWidget() != Owner && Help != Owner) Help->setParent(Owner, Qt::Window);
     if (!Help) Help = new HelpWindow(std::move(Topics), Owner);
     Help->Ask(Topic);
 }

@@ -118,7 +118,7 @@ private:
     TextBox& Record;
 };
 
-// Puts the storable text in place of what the user has just put in, as the one step that he can take back.
+// Puts the storable text in place of what the user has just put in, as one step that undo takes back.
 void HoldStorable(QLineEdit& View, const QString& Text)
 {
     const QString Held = Storable(Text);
