@@ -20,6 +20,10 @@ namespace {
 
 constexpr QSize WindowSize(900, 640);
 
+// A dialog's window stays over its owner's.
+constexpr Qt::WindowFlags Flags =
+    Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint | Qt::WindowTitleHint;
+
 QToolButton* StepButton(Qt::ArrowType Arrow, const QString& Name, const QKeySequence& Keys)
 {
     auto* const Button = new QToolButton;
@@ -54,7 +58,7 @@ void FormatTables(QTextDocument& Document)
 } // namespace
 
 HelpWindow::HelpWindow(std::vector<HelpTopic> AllTopics, QWidget* Owner)
-    : QWidget(Owner, Qt::Window)
+    : QWidget(Owner, Flags)
     , Topics(std::move(AllTopics))
 {
     setWindowTitle("Velorix Help");
@@ -106,8 +110,13 @@ QWidget* HelpWindow::TextPane()
     return InColumn({InRow({Back, Forward, nullptr}), Text});
 }
 
-void HelpWindow::Ask(int Number)
+void HelpWindow::Ask(int Number, QWidget* Owner)
 {
+    if (Owner != this && Owner != parentWidget()) {
+        const QPoint Corner = pos();
+        setParent(Owner, Flags);
+        move(Corner);
+    }
     ShowTopic(Number);
     show();
     raise();

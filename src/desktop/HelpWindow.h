@@ -17,8 +17,8 @@ class HelpWindow : public QWidget {
 public:
     HelpWindow(std::vector<HelpTopic> AllTopics, QWidget* Owner);
 
-    // Comes to the front with the topic, ready for a search.
-    void Ask(int Number);
+    // Comes to the front over the window that asks, with the topic, ready for a search.
+    void Ask(int Number, QWidget* Owner);
 
     // Opens the topic of that number, the first one when there is none.
     void ShowTopic(int Number);

@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QString>
 
+#include <cmath>
+
 namespace velorix {
 
 bool IsPaletteColor(Color Value)
@@ -33,9 +35,11 @@ bool IsNumberText(const QString& Text, bool InGroups)
     if (InGroups) Number.remove(',');
     if (Number.startsWith('R') || Number.startsWith('$')) Number.remove(0, 1);
     if (Number.endsWith('%')) Number.chop(1);
+    QLocale Plain = QLocale::c();
+    Plain.setNumberOptions(QLocale::RejectGroupSeparator);
     bool Readable = false;
-    QLocale::c().toDouble(Number, &Readable);
-    return Readable;
+    const double Value = Plain.toDouble(Number, &Readable);
+    return Readable && std::isfinite(Value);
 }
 
 void DrawFrame(QPainter& Painter, const QRect& Around, const QColor& Ink)

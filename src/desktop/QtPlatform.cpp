@@ -304,9 +304,8 @@ void QtPlatform::ShowHelp(const std::filesystem::path& HelpFile, int Topic)
         return;
     }
     QWidget* const Owner = TopWindow();
-    if (Help && Help->parentWidget() != Owner && Help != Owner) Help->setParent(Owner, Qt::Window);
     if (!Help) Help = new HelpWindow(std::move(Topics), Owner);
-    Help->Ask(Topic);
+    Help->Ask(Topic, Owner);
 }
 
 void QtPlatform::EndProgram()

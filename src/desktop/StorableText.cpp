@@ -13,14 +13,16 @@ namespace {
 QString PartsOf(char32_t Code)
 {
     QString Parts;
+    bool Fits = false;
     for (const uint Each : QString::fromUcs4(&Code, 1).normalized(QString::NormalizationForm_KD).toUcs4()) {
         const auto Part = static_cast<char32_t>(Each);
+        Fits = Fits || InCodePage(Part);
         if (InCodePage(Part))
             Parts += QString::fromUcs4(&Part, 1);
         else if (!QChar::isMark(Part))
             Parts += '?';
     }
-    return Parts;
+    return Fits || Parts.isEmpty() ? Parts : QString("?");
 }
 
 } // namespace

@@ -20,14 +20,13 @@ namespace {
 
 // Texts are UTF-8; a typed key and the caret count characters.
 
-// The typed character; nothing for a control key, and for a character that a project file can't hold.
-std::string Character(int Key)
+// Not so for a control key and for a code that is no character.
+bool IsCharacter(int Key)
 {
     constexpr int FirstPrintable = 32;
     const bool Control = Key < FirstPrintable || (Key >= 0x7F && Key < 0xA0);
     const bool Surrogate = Key >= 0xD800 && Key <= 0xDFFF;
-    const auto Code = static_cast<char32_t>(Key);
-    return Control || Surrogate || !InCodePage(Code) ? std::string() : Utf8Of(Code);
+    return !Control && !Surrogate && Key <= 0x10FFFF;
 }
 
 std::string WithoutLastCharacter(std::string Text)
@@ -144,16 +143,17 @@ void KeyPressInGrid(const CellEditing& Editing, int& Key)
     Grid& Table = Editing.Table;
     const int Typed = std::exchange(Key, 0);
     if (Typed == Keys::Enter) return Advance(Table);
-    const std::string Typing = Character(Typed);
-    if (Typed != Keys::Backspace && Typing.empty()) return;
+    const bool Erases = Typed == Keys::Backspace;
+    if (!Erases && !IsCharacter(Typed)) return;
 
     if (OnListCell(Editing)) {
         Editing.List->Visible = true;
         return System().SetFocus(*Editing.List);
     }
-    if (!OnEditableCell(Editing)) return;
+    const auto Code = static_cast<char32_t>(Typed);
+    if (!OnEditableCell(Editing) || !InCodePage(Code)) return;
     if (Contains(Editing.FilteredInGrid, Table.Col()) && !IsCellNumberKey(Typed)) return;
-    Write(Table, Typed == Keys::Backspace ? WithoutLastCharacter(CurrentText(Table)) : Typing);
+    Write(Table, Erases ? WithoutLastCharacter(CurrentText(Table)) : Utf8Of(Code));
     OpenEditor(Editing);
 }
 

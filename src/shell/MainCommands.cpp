@@ -34,6 +34,12 @@ bool RequireProject(const std::string& Otherwise)
     return false;
 }
 
+// A command that was cancelled has taken the project's name away.
+void BringBackTitle()
+{
+    if (ProjectOpen == 1 && HasFile()) ShowTitle();
+}
+
 void RefreshCurrency()
 {
     MDIProject.tmrCurrency.Enabled = false;
@@ -120,18 +126,20 @@ void InputDataCommand()
     LeaveProjectScreens();
     if (!RequireProject("No project has been opened.")) return;
     ShowInputScreen();
-    if (HasFile()) ShowTitle(); // which a cancelled command has taken away
+    BringBackTitle();
 }
 
 void ResultsCommand()
 {
     if (Analysed != 1) {
         Warn("Project has not been analysed.");
-        if (ProjectOpen == 1) ShowInputScreen();
-        return;
+        if (ProjectOpen != 1) return;
+        ShowInputScreen();
+        return BringBackTitle();
     }
     frmLCC.Visible = false;
     frmResults.Visible = true;
+    BringBackTitle();
 }
 
 void PrintCommand()

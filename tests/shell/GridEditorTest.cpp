@@ -81,7 +81,7 @@ TEST_F(GridEditorTest, KeysEditTheCellAndMoveOn)
         {{2, 2}, U"66⎋", "200", {2, 2}, true},
         {{2, 2}, U"⎋", "200", {2, 2}, false}, // in the grid: nothing
         {{1, 3}, U"°", "°", {1, 3}, true},
-        {{1, 3}, U"\x03", "301", {1, 3}, false}, // a control key
+        {{1, 3}, U"\x03ч", "301", {1, 3}, false}, // a control key, a letter that no file holds
         // The arrows leave the editor at the ends of its text.
         {{2, 2}, U"9←←", "9", {2, 1}, false},
         {{2, 1}, U"9←←", "9", {1, 7}, false},
@@ -177,6 +177,9 @@ TEST_F(GridEditorTest, TheComponentIsChosenFromTheList)
     EXPECT_EQ(frmLCC.comNode.ListIndex, 0); // a new project's "Node"
     Saved = 1;
 
+    Type(U"ч"); // any letter, also one that no cell takes
+    EXPECT_EQ(Windows.Focused, &frmLCC.comNode);
+    Go(Profile, 2, 7);
     Type(U"x⌫");
     EXPECT_EQ(Windows.Focused, &frmLCC.comNode);
     EXPECT_FALSE(Editor.Visible);
