@@ -57,12 +57,6 @@ void FillDemandGrid(Grid& Table)
     }
 }
 
-void KeepTypedDemand(const Grid& Table)
-{
-    const int Years = std::min<int>(Table.Rows() - 1, wDemand.LastIndex);
-    for (int Year = 1; Year <= Years; ++Year) ReadCell(Table, Year, 1, wDemand[Year]);
-}
-
 void FillCostHeadings()
 {
     const std::string Sign = CurrencySign();

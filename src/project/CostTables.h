@@ -14,9 +14,6 @@ void FillExpensesGrid();
 // The headings that follow the currency and the units of the working set.
 void FillCostHeadings();
 
-// Takes the demand that the grid shows, ahead of a refill; the years that it hasn't got stay as they are.
-void KeepTypedDemand(const Grid& Table);
-
 // Grid to working set; what the grid doesn't hold becomes 0.
 void ReadDemandGrid();
 void ReadPumpDemandGrid();

@@ -214,7 +214,6 @@ void FillInputScreen()
         FillGravitySystem();
     FillProfilePage();
     FillRatesPage();
-    FillUnusedBoxes();
 }
 
 void ShowGravityDemandOption()

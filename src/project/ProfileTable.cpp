@@ -74,20 +74,6 @@ std::int16_t ComponentIndex(const std::string& Text)
     return 0;
 }
 
-// The nodes that the grid has rows for.
-void ShowNodes()
-{
-    Grid& Table = frmLCC.msgProfile;
-    const int Shown = std::min<int>(Table.Rows() - 1, wNodeNr.LastIndex);
-    for (int Row = 1; Row <= Shown; ++Row) {
-        Table.SetText(Row, 0, std::to_string(Row));
-        for (int Col = FirstDataCol; Col <= LastNumberCol; ++Col)
-            Table.SetText(Row, Col, GeneralText(ColumnArray(Col)[Row]));
-        Table.SetText(Row, ComponentCol, ComponentText(wNodeDesc[Row]));
-    }
-    Table.Select(1, 1);
-}
-
 void CopyCells(int From, int To, int FirstCol, int LastCol)
 {
     for (int Col = FirstCol; Col <= LastCol; ++Col)
@@ -140,13 +126,13 @@ void FillProfileGrid()
     Table.SetRows(NodeCount + 1);
     for (int Col = 0; Col <= ComponentCol; ++Col)
         Table.SetText(0, Col, Headings.at(static_cast<std::size_t>(Col)));
-    ShowNodes();
-}
-
-void RefillProfileGrid()
-{
-    ReadProfileGrid();
-    ShowNodes();
+    for (int Row = 1; Row <= NodeCount; ++Row) {
+        Table.SetText(Row, 0, std::to_string(Row));
+        for (int Col = FirstDataCol; Col <= LastNumberCol; ++Col)
+            Table.SetText(Row, Col, GeneralText(ColumnArray(Col)[Row]));
+        Table.SetText(Row, ComponentCol, ComponentText(wNodeDesc[Row]));
+    }
+    Table.Select(1, 1);
 }
 
 void ReadProfileGrid()

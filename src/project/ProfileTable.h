@@ -15,10 +15,6 @@ extern const Array1<std::string, 21> ComponentTable;
 // both marked unused, at least 2, and 499 when no entry ends the table.
 void FillProfileGrid();
 
-// Takes what the grid shows and shows it anew, for another unit. Nothing typed is lost and all rows stay:
-// only a load looks for the end of the table.
-void RefillProfileGrid();
-
 // Grid to profile arrays. Unreadable cells give 0, rows past 500 are dropped.
 void ReadProfileGrid();
 

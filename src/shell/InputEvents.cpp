@@ -36,15 +36,15 @@ void ConnectEdits()
     frmLCC.dtpDate.Change = MarkChanged;
 }
 
-// Not so when the load step has set the selector, to the unit that is stored or, for a unit that the list
-// doesn't know, to none: the table still shows the project before then.
+// The table shows the profile as it was last read. Not so when the load step has set the selector, to the
+// unit that is stored or, for a unit that the list doesn't know, to none: it fills the table itself.
 void DiameterUnitsChosen()
 {
     MarkChanged();
     const int Chosen = frmLCC.comDiameterUnits.ListIndex;
     if (Chosen < 0 || Chosen == wDiameterUnits) return;
     ReadUnit(frmLCC.comDiameterUnits, wDiameterUnits);
-    RefillProfileGrid();
+    FillProfileGrid();
     SettleGridEditor(frmLCC.msgProfile);
 }
 
@@ -109,7 +109,6 @@ void ConnectBar(ScrollBar& Bar, Label& Reading, std::int16_t& Stored, std::strin
 
 void RefillDemand()
 {
-    if (!IsPumping()) KeepTypedDemand(frmLCC.msgDemand); // else it shows another project's demand
     FillDemandGrid(frmLCC.msgDemand);
     SettleGridEditor(frmLCC.msgDemand);
 }

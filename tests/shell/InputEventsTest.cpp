@@ -88,15 +88,17 @@ TEST_F(InputEventsTest, BarsShowAndStoreTheirValue)
     }
 }
 
-TEST_F(InputEventsTest, TheDemandTableFollowsTheLifeAndKeepsWhatIsTyped)
+TEST_F(InputEventsTest, TheDemandTableFollowsTheYearsAndShowsWhatIsStored)
 {
-    frmLCC.hscLife.Value = 10;
-    frmLCC.msgDemand.SetText(2, 1, "3.5"); // typed, and not committed yet
+    wDemand[2] = 2.5;
     wDemand[12] = 4.5;
-    frmLCC.hscLife.Value = 15;
-    frmLCC.hscSupplyStart.Value = 2030;
-    EXPECT_EQ(frmLCC.msgDemand.Rows(), 16);
-    EXPECT_EQ(frmLCC.msgDemand.Text(2, 1), "3.5");
+    for (ScrollBar* Each : {&frmLCC.hscLife, &frmLCC.hscSupplyStart}) {
+        frmLCC.msgDemand.SetText(2, 1, "3.5"); // typed, and not committed yet
+        Each->Value = Each->Value + 5;
+        EXPECT_EQ(frmLCC.msgDemand.Text(2, 1), "2.5") << Each->ToolTip;
+        EXPECT_EQ(wDemand[2], 2.5); // which an analysis goes by
+    }
+    EXPECT_EQ(frmLCC.msgDemand.Rows(), 36);
     EXPECT_EQ(frmLCC.msgDemand.Text(12, 1), "4.5");
 
     // A load moves the bar as well, and what it brings isn't in the table yet.
@@ -171,14 +173,17 @@ TEST_F(InputEventsTest, OptionsShowTheirFields)
 }
 
 // The user couldn't reach it to mend that, and the commit reads it all the same.
-// A foreign file may store what is no number where nobody can mend it.
-TEST_F(InputEventsTest, ABoxOutOfUseShowsANumberAfterALoad)
+// A foreign file may store what is no number: it shows, until the user has had the box in use.
+TEST_F(InputEventsTest, AStoredTextThatIsNoNumberGoesWithItsOption)
 {
     Start(1);
     wPumpCurve[2] = std::nanf("");
     CopyWorkingSetToRecord();
     NewProject = 1; // the record as it is
     LoadProject();
+    EXPECT_EQ(frmLCC.txtQ[0].Text.Get(), "NaN");
+    frmLCC.optPumpDetails.Value = true;
+    frmLCC.optFlowrate.Value = true;
     EXPECT_EQ(frmLCC.txtQ[0].Text.Get(), "0");
 }
 
@@ -216,16 +221,15 @@ TEST_F(InputEventsTest, ABoxThatGoesOutOfUseIsNotLeftEmpty)
 
 TEST_F(InputEventsTest, UnitsThatAreStoredAtOnce)
 {
+    wElevation[1] = 50.0;
     Go(frmLCC.msgProfile, 1, 1);
-    Type(U"88");
-    frmLCC.sscAdd.Click(); // an empty row, which would end the table at a load
+    Type(U"88"); // the row operations and the commit read the table, a unit doesn't
     Saved = 1;
     frmLCC.comDiameterUnits.ListIndex = 3;
-    EXPECT_EQ(frmLCC.msgProfile.Rows(), 4);
     ExpectMarked(true, "a unit");
     EXPECT_EQ(wDiameterUnits, 3);
-    EXPECT_EQ(frmLCC.msgProfile.Text(2, 1), "88"); // what was typed isn't lost
-    EXPECT_EQ(frmLCC.msgProfile.Tag, "0");
+    EXPECT_EQ(frmLCC.msgProfile.Text(1, 1), "50");
+    EXPECT_EQ(frmLCC.msgProfile.Tag, "50");
     EXPECT_FALSE(frmLCC.txtCell.Visible);
 
     Start(1);
