@@ -125,9 +125,17 @@ void ConnectBars()
     ConnectBar(frmLCC.hscMElectrical, frmLCC.lblMElectrical, wMElectrical, PercentCaption);
 }
 
-// A box that goes out of use is left with a number: the commit reads it all the same, and the user couldn't
-// reach it to mend it.
 void ConnectOption(OptionButton& Option, void (*ShowOption)())
+{
+    Option.Click = [ShowOption] {
+        MarkChanged();
+        ShowOption();
+    };
+}
+
+// A box that goes out of use is left with a number: the commit reads it all the same, and the user couldn't
+// reach it to mend it. An editor over a table that goes out of use closes.
+void ConnectChoiceOfBoxes(OptionButton& Option, void (*ShowOption)())
 {
     Option.Click = [ShowOption] {
         MarkChanged();
@@ -139,12 +147,12 @@ void ConnectOption(OptionButton& Option, void (*ShowOption)())
 
 void ConnectOptions()
 {
-    ConnectOption(frmLCC.optGSpecifiedFlowrate, ShowGravityDemandOption);
-    ConnectOption(frmLCC.optGCalculatedFlowrate, ShowGravityDemandOption);
-    ConnectOption(frmLCC.optPumpFixed, ShowPumpDemandOption);
-    ConnectOption(frmLCC.optPumpVarying, ShowPumpDemandOption);
-    ConnectOption(frmLCC.optFlowrate, ShowPumpingOption);
-    ConnectOption(frmLCC.optPumpDetails, ShowPumpingOption);
+    ConnectChoiceOfBoxes(frmLCC.optGSpecifiedFlowrate, ShowGravityDemandOption);
+    ConnectChoiceOfBoxes(frmLCC.optGCalculatedFlowrate, ShowGravityDemandOption);
+    ConnectChoiceOfBoxes(frmLCC.optPumpFixed, ShowPumpDemandOption);
+    ConnectChoiceOfBoxes(frmLCC.optPumpVarying, ShowPumpDemandOption);
+    ConnectChoiceOfBoxes(frmLCC.optFlowrate, ShowPumpingOption);
+    ConnectChoiceOfBoxes(frmLCC.optPumpDetails, ShowPumpingOption);
     ConnectOption(frmLCC.optCopon, ShowLiningOption);
     ConnectOption(frmLCC.optMortar, ShowLiningOption);
 }

@@ -172,12 +172,13 @@ TEST_F(InputEventsTest, OptionsShowTheirFields)
     EXPECT_FALSE(frmLCC.fraPumpingFlowrate.Visible);
 }
 
-// The user couldn't reach it to mend that, and the commit reads it all the same.
-// A foreign file may store what is no number: it shows, until the user has had the box in use.
-TEST_F(InputEventsTest, AStoredTextThatIsNoNumberGoesWithItsOption)
+// A foreign file may store what is no number. It shows, whatever lining stood before, until an option of the
+// boxes is chosen.
+TEST_F(InputEventsTest, AStoredValueThatIsNoNumberShowsUntilItsBoxGoesOutOfUse)
 {
     Start(1);
     wPumpCurve[2] = std::nanf("");
+    wLiningType = 1;
     CopyWorkingSetToRecord();
     NewProject = 1; // the record as it is
     LoadProject();
@@ -187,6 +188,7 @@ TEST_F(InputEventsTest, AStoredTextThatIsNoNumberGoesWithItsOption)
     EXPECT_EQ(frmLCC.txtQ[0].Text.Get(), "0");
 }
 
+// The user couldn't reach it to mend that, and the commit reads it all the same.
 TEST_F(InputEventsTest, ABoxThatGoesOutOfUseIsNotLeftEmpty)
 {
     struct Case {
