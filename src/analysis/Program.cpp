@@ -9,26 +9,17 @@
 #include "hydraulics/DutyPoint.h"
 #include "hydraulics/Flows.h"
 #include "hydraulics/YearlySupply.h"
+#include "platform/Screen.h"
 #include "project/Session.h"
 #include "project/WorkingSet.h"
 #include "results/PlotState.h"
-#include "screens/Analyse.h"
-#include "screens/Dialogs.h"
-#include "screens/DutyPointScreen.h"
-#include "screens/Lcc.h"
-#include "screens/MainWindow.h"
-#include "screens/Results.h"
-#include "screens/Viewers.h"
 
 namespace velorix {
 
 void ResetProgram()
 {
     ClearArithmeticFlags();
-    for (Screen* Each : std::initializer_list<Screen*>{
-             &frmAbout, &frmAgree, &frmAnalyse, &frmDeleteRow, &frmDisclaimer, &frmDutyPoint, &frmIntro,
-             &frmLCC, &frmLCCType, &frmPref, &frmPumpView, &frmResults, &frmView, &MDIProject})
-        Each->Unload();
+    UnloadScreens();
     ResetProjectRecord();
     ResetWorkingSet();
     ResetSession();
