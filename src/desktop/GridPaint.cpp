@@ -1,116 +1,174 @@
-// How a grid looks.
+// Painting of headings and cells.
+#include "desktop/GridPaint.h"
+
 #include "desktop/GridView.h"
 #include "desktop/Painting.h"
 #include "desktop/Style.h"
 
-#include <QLineEdit>
-#include <QPaintEvent>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include <algorithm>
 
 namespace velorix {
 namespace {
 
-QColor BackOf(const GridCell& Cell, bool Fixed, const QPalette& Palette)
+constexpr int LeastWidth = 40; // pixels
+
+// A border at the right and below, the surface, the text.
+void DrawCell(QPainter& Painter, const QRect& Place, const QColor& Back, int Flags, const QString& Text)
 {
-    if (!IsPaletteColor(Cell.BackColor)) return ToQColor(Cell.BackColor);
-    return Palette.color(Fixed || Cell.BackColor == ButtonColor ? QPalette::Button : QPalette::Base);
+    const QRect Inside = Place.adjusted(0, 0, -1, -1);
+    Painter.fillRect(Place, Colors().Border);
+    Painter.fillRect(Inside, Back);
+    const QRect Room = Inside.adjusted(CellPadding, 0, -CellPadding, 0);
+    const bool OneLine = !(Flags & Qt::TextWordWrap);
+    Painter.drawText(Room, Flags,
+                     OneLine ? Painter.fontMetrics().elidedText(Text, Qt::ElideRight, Room.width()) : Text);
 }
 
-QColor InkOf(const GridCell& Cell, bool Fixed, const QPalette& Palette)
+// Numbers at the right, texts at the left. What a cell that can be edited won't be read as, with commas or
+// blanks in it, is a text.
+Qt::Alignment AlignmentOf(const QString& Text, bool Editable)
 {
-    const bool Told = !IsPaletteColor(Cell.BackColor);
-    if (Told && Palette.currentColorGroup() != QPalette::Disabled) return Qt::black;
-    return Palette.color(Fixed ? QPalette::ButtonText : QPalette::Text);
-}
-
-// Headings in the middle, numbers at the right, texts at the left. What a cell that can be edited won't be
-// read as, with commas or blanks in it, is a text.
-Qt::Alignment AlignmentOf(const QString& Text, bool Heading, bool Editable)
-{
-    if (Heading) return Qt::AlignCenter;
     return (IsNumberText(Text, !Editable) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+}
+
+// The least width in which a text stands on at most two lines.
+int TwoLineWidth(const QString& Text, const QFontMetrics& Letters)
+{
+    const QStringList Words = Text.split(' ', Qt::SkipEmptyParts);
+    int Least = Letters.horizontalAdvance(Text.trimmed());
+    for (qsizetype Break = 1; Break < Words.size(); ++Break) {
+        const int Upper = Letters.horizontalAdvance(Words.mid(0, Break).join(' '));
+        const int Lower = Letters.horizontalAdvance(Words.mid(Break).join(' '));
+        Least = std::min(Least, std::max(Upper, Lower));
+    }
+    return Least;
 }
 
 } // namespace
 
-void GridView::paintEvent(QPaintEvent* Paint)
+QFont HeadingFont(const QFont& Font)
 {
-    Measure(); // a size that has just changed
-    QPainter Painter(viewport());
-    Painter.fillRect(Paint->rect(), palette().color(QPalette::Base));
-
-    const QSize Fixed = Metrics.FixedSize();
-    const QRect All = viewport()->rect();
-    const QRect Data = DataPane();
-    const Place First = CellAt(Data.topLeft());
-    PaintPane(Painter, Data, First);
-    PaintPane(Painter, {All.left(), Data.top(), Fixed.width(), Data.height()}, {First.Row, 0});
-    PaintPane(Painter, {Data.left(), All.top(), Data.width(), Fixed.height()}, {0, First.Col});
-    PaintPane(Painter, {All.topLeft(), Fixed}, {0, 0});
-    Painter.setClipping(false);
-    PaintCursor(Painter);
+    QFont Bold = Font; // those inside a table are bold, and any may become one
+    Bold.setBold(true);
+    return Bold;
 }
 
-// The cells of one of the four panes, from the first that shows.
-void GridView::PaintPane(QPainter& Painter, const QRect& Pane, Place First)
+int Pixels(int Twips, int DotsPerInch)
 {
-    if (Pane.isEmpty()) return;
-    Painter.setClipRect(Pane);
-    const int RowEnd =
-        Pane.top() < Metrics.FixedSize().height() ? std::min(Record.FixedRows, Record.Rows()) : Record.Rows();
-    const int ColEnd =
-        Pane.left() < Metrics.FixedSize().width() ? std::min(Record.FixedCols, Record.Cols()) : Record.Cols();
-    for (int Row = First.Row; Row < RowEnd && ViewY(Row) <= Pane.bottom(); ++Row)
-        for (int Col = First.Col; Col < ColEnd && ViewX(Col) <= Pane.right(); ++Col) {
-            PaintCell(Painter, Row, Col);
-            Col = MergedCols(Record, Row, Col).Last;
+    constexpr int TwipsAnInch = 1440;
+    return Twips * DotsPerInch / TwipsAnInch;
+}
+
+// What spans columns asks nothing of a single one.
+std::vector<int> NeededWidths(const Grid& Table, const GridModel& Model, const QFontMetrics& Letters,
+                              int DotsPerInch)
+{
+    std::vector<int> Widths;
+    for (int Col = 0; Col < Table.Cols(); ++Col) {
+        int Needed = 0;
+        const int LastRow = Col < Table.FixedCols ? Table.Rows() : Model.HeadRows();
+        for (int Row = 0; Row < LastRow; ++Row) {
+            const QString Text = QString::fromStdString(Table.Text(Row, Col)).trimmed();
+            const QModelIndex Index = Model.IndexOf(Row, Col);
+            if (Row < Model.HeadRows())
+                Needed = std::max(Needed, TwoLineWidth(Text, Letters));
+            else if (!Index.isValid() || Model.Span(Index).width() == 1)
+                Needed = std::max(Needed, Letters.horizontalAdvance(Text));
         }
-}
-
-void GridView::PaintCell(QPainter& Painter, int Row, int Col)
-{
-    const ColSpan Span = MergedCols(Record, Row, Col);
-    const GridCell& Cell = Record.Cell(Row, Span.First);
-    const bool Fixed = IsFixedCell(Record, Row, Span.First);
-    const bool Heading = Row < Record.FixedRows || Span.First != Span.Last;
-    const QRect Rect = RectOf(Row, Col);
-    const QRect Inside = Rect.adjusted(0, 0, -1, -1);
-
-    Painter.fillRect(Rect, Colors().Border);
-    Painter.fillRect(Inside, BackOf(Cell, Fixed, palette()));
-    if (SelectsSeveral() && !Fixed && IsSelected(Row, Col)) {
-        constexpr int Veil = 70; // of 255
-        QColor Tint = palette().color(QPalette::Highlight);
-        Tint.setAlpha(Veil);
-        Painter.fillRect(Inside, Tint);
+        const int Least = Pixels(Table.ColWidth.at(static_cast<std::size_t>(Col)), DotsPerInch);
+        Widths.push_back(std::max({Least, Needed + 2 * CellPadding + 1, LeastWidth}));
     }
-
-    const QString Text = QString::fromStdString(Cell.Text).trimmed();
-    if (Text.isEmpty()) return;
-    QFont Letters = font();
-    Letters.setBold(Cell.Bold);
-    Painter.setFont(Letters);
-    Painter.setPen(InkOf(Cell, Fixed, palette()));
-    const QRect Room = Inside.adjusted(CellPadding, 0, -CellPadding, 0);
-    if (Heading)
-        Painter.drawText(Room, Qt::AlignCenter | Qt::TextWordWrap, Text);
-    else
-        Painter.drawText(Room, AlignmentOf(Text, Heading, Editor) | Qt::TextSingleLine,
-                         Painter.fontMetrics().elidedText(Text, Qt::ElideRight, Room.width()));
+    return Widths;
 }
 
-// Around the current cell; without one around the grid, so that the focus always shows.
-void GridView::PaintCursor(QPainter& Painter)
+void DrawHeading(QPainter& Painter, const QRect& Place, const QString& Text, const QWidget& View)
 {
-    const bool Active = hasFocus() || (Editor && Editor->hasFocus());
-    const QColor Ink = Active ? palette().color(QPalette::Highlight) : Colors().Muted;
-    if (IsData(Current())) {
-        Painter.setClipRect(DataPane());
-        DrawFrame(Painter, RectOf(Record.Row(), Record.Col()).adjusted(0, 0, -1, -1), Ink);
-    } else if (Active)
-        DrawFrame(Painter, viewport()->rect().adjusted(0, 0, -1, -1), Ink);
+    Painter.setFont(View.font());
+    Painter.setPen(View.palette().color(QPalette::ButtonText));
+    DrawCell(Painter, Place, View.palette().color(QPalette::Button), Qt::AlignCenter | Qt::TextWordWrap,
+             Text);
+}
+
+GridHeader::GridHeader(Qt::Orientation Direction, const GridModel& Shown, QWidget* Owner)
+    : QHeaderView(Direction, Owner)
+    , Model(Shown)
+{
+    constexpr int LeastHeight = 1;
+    setSectionsClickable(true);
+    setMinimumSectionSize(Direction == Qt::Horizontal ? LeastWidth : LeastHeight);
+    if (Direction == Qt::Vertical) setSectionResizeMode(Fixed);
+}
+
+// Equal headings side by side show as one where the cells do.
+void GridHeader::paintSection(QPainter* Painter, const QRect& Place, int Section) const
+{
+    Painter->save();
+    const QString Text = Model.headerData(Section, orientation()).toString();
+    if (orientation() == Qt::Vertical) {
+        Painter->setPen(palette().color(QPalette::ButtonText));
+        DrawCell(*Painter, Place, palette().color(QPalette::Button), AlignmentOf(Text, true), Text);
+    } else {
+        const auto [First, Last] = Model.HeadingSpan(Section);
+        const int Left = sectionViewportPosition(First);
+        const int Right = sectionViewportPosition(Last) + sectionSize(Last);
+        DrawHeading(*Painter, {Left, Place.top(), Right - Left, Place.height()}, Text, *this);
+    }
+    Painter->restore();
+}
+
+GridCells::GridCells(GridView& Shown)
+    : QStyledItemDelegate(&Shown)
+    , View(Shown)
+{
+}
+
+void GridCells::paint(QPainter* Painter, const QStyleOptionViewItem& Option, const QModelIndex& Index) const
+{
+    const GridModel& Model = View.Cells();
+    const GridCell* const Cell = Model.CellOf(Index);
+    if (!Cell) return;
+    const QRect& Place = Option.rect;
+    const QPalette& Palette = View.palette();
+    const bool Fixed = !Model.IsData(Index);
+    const bool Heading = View.Table().IsHeadingRow(Model.RowOf(Index)) || Model.Span(Index).width() > 1;
+    const bool Told = !IsPaletteColor(Cell->BackColor) && View.isEnabled();
+    const bool OnButton = Fixed || Heading || Cell->BackColor == ButtonColor;
+
+    Painter->save();
+    Painter->setFont(Heading ? HeadingFont(View.font()) : View.font());
+    Painter->setPen(Told ? QColor(Qt::black)
+                         : Palette.color(OnButton ? QPalette::ButtonText : QPalette::Text));
+    const QString Text = Index.data().toString();
+    DrawCell(*Painter, Place,
+             Told ? ToQColor(Cell->BackColor) : Palette.color(OnButton ? QPalette::Button : QPalette::Base),
+             Heading ? static_cast<int>(Qt::AlignCenter) : AlignmentOf(Text, View.EditorView()), Text);
+
+    const QRect Current = View.visualRect(View.currentIndex());
+    const CellRange Chosen = View.Table().Selected();
+    if (!Fixed && Chosen.IsSeveral() && Chosen.Holds(Model.RowOf(Index), Model.ColOf(Index))) {
+        constexpr int Veil = 70; // of 255
+        QColor Tint = Palette.color(QPalette::Highlight);
+        Tint.setAlpha(Veil);
+        Painter->fillRect(Place.adjusted(0, 0, -1, -1), Tint);
+    }
+    if (Place == Current && View.isEnabled())
+        DrawFrame(*Painter, Place.adjusted(0, 0, -1, -1),
+                  View.HasCursor() ? Palette.color(QPalette::Highlight) : Colors().Muted);
+    Painter->restore();
+}
+
+bool GridCells::helpEvent(QHelpEvent* Help, QAbstractItemView* Asked, const QStyleOptionViewItem& Option,
+                          const QModelIndex& Index)
+{
+    const QString Text = Index.data().toString();
+    const int Room = Option.rect.width() - 2 * CellPadding;
+    const bool Fits = View.fontMetrics().horizontalAdvance(Text) <= Room;
+    QToolTip::showText(Help->globalPos(), Fits ? View.toolTip() : Text, Asked->viewport());
+    return true;
 }
 
 } // namespace velorix

@@ -62,8 +62,16 @@ private:
     static void SendToGrid(Grid& Table, int Code, int Character)
     {
         Table.KeyDown(Code);
-        if (Code != 0) Table.Navigate(Code);
+        Move(Table, Code);
         if (Character != 0) Table.KeyPress(Character);
+    }
+
+    // What a table does by itself with an arrow.
+    static void Move(Grid& Table, int Arrow)
+    {
+        const int Row = Table.Row() + (Arrow == Keys::Down) - (Arrow == Keys::Up);
+        const int Col = Table.Col() + (Arrow == Keys::Right) - (Arrow == Keys::Left);
+        if (Row < Table.Rows() && Col < Table.Cols() && !Table.IsFixed(Row, Col)) Table.Select(Row, Col);
     }
 
     static void SendToBox(TextBox& Box, int Code, int Character)
