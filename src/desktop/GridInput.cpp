@@ -8,10 +8,10 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QContextMenuEvent>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -26,13 +26,8 @@ constexpr int OtherButton = 4; // opens nothing, and still ends an editing
 // Up and Down choose in the list; these go on in the grid.
 bool LeavesList(const QKeyEvent& Key)
 {
-    switch (SpecialKey(Key)) {
-    case Keys::Enter:
-    case Keys::Escape:
-    case Keys::Left:
-    case Keys::Right: return true;
-    default: return false;
-    }
+    const int Code = SpecialKey(Key);
+    return Code == Keys::Enter || Code == Keys::Escape || Code == Keys::Left || Code == Keys::Right;
 }
 
 bool AsksForMenu(const QKeyEvent& Key)
@@ -40,21 +35,11 @@ bool AsksForMenu(const QKeyEvent& Key)
     return Key.key() == Qt::Key_Menu || (Key.key() == Qt::Key_F10 && Key.modifiers() == Qt::ShiftModifier);
 }
 
-// The keys with which the toolkit moves the current cell.
+// Home, End, the arrows and the page keys, with which the toolkit moves the current cell.
 bool Moves(const QKeyEvent& Key)
 {
-    if (Key.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) return false;
-    switch (Key.key()) {
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_Home:
-    case Qt::Key_End:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown: return true;
-    default: return false;
-    }
+    return Key.key() >= Qt::Key_Home && Key.key() <= Qt::Key_PageDown &&
+           !(Key.modifiers() & (Qt::AltModifier | Qt::MetaModifier));
 }
 
 } // namespace
@@ -77,8 +62,7 @@ bool GridView::eventFilter(QObject* Watched, QEvent* Event)
     }
     if (Watched != HeadCorner || Event->type() != QEvent::Paint)
         return QTableView::eventFilter(Watched, Event);
-    QPainter Painter(HeadCorner);
-    DrawHeading(Painter, HeadCorner->rect(), Model.HeadCols() > 0 ? Model.Heading(0) : QString(), *this);
+    DrawHeading(*HeadCorner, Model.Heading(0));
     return true;
 }
 

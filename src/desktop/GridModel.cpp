@@ -69,19 +69,6 @@ QString GridModel::Heading(int Col) const
     return Lines.join('\n');
 }
 
-std::pair<int, int> GridModel::HeadingSpan(int Section) const
-{
-    const QString Text = Heading(Section + HeadCols());
-    const auto Joins = [&](int Other) {
-        return Told.Merging && Other >= 0 && Other < columnCount() && Heading(Other + HeadCols()) == Text;
-    };
-    int First = Section;
-    int Last = Section;
-    while (Joins(First - 1)) --First;
-    while (Joins(Last + 1)) ++Last;
-    return {First, Last};
-}
-
 QVariant GridModel::headerData(int Section, Qt::Orientation Direction, int Role) const
 {
     if (Role != Qt::DisplayRole) return {};
@@ -113,24 +100,23 @@ void GridModel::Refresh()
     emit dataChanged(index(0, 0), index(LastRow, LastCol));
 }
 
+// Neither out of the headers nor into them.
 bool GridModel::Merges(int Row, int Col, int OtherRow, int OtherCol) const
 {
-    if (std::min(OtherRow, OtherCol) < 0 || OtherRow >= rowCount() || OtherCol >= columnCount()) return false;
-    const GridCell* const Cell = CellOf(index(Row, Col));
-    const GridCell* const Other = CellOf(index(OtherRow, OtherCol));
-    return Cell && Other && !Cell->Text.empty() && Cell->Text == Other->Text;
+    if (OtherCol < HeadCols() || OtherCol >= Record.Cols() || OtherRow >= Record.Rows()) return false;
+    if (OtherRow != Row && std::min(Row, OtherRow) < HeadRows()) return false;
+    const std::string& Text = Record.Text(Row, Col);
+    return !Text.empty() && Text == Record.Text(OtherRow, OtherCol);
 }
 
-QRect GridModel::Span(const QModelIndex& Index) const
+QRect GridModel::Span(int Row, int Col) const
 {
-    const int Row = Index.row();
-    const int Col = Index.column();
     QRect Span(Col, Row, 1, 1);
-    if (!Told.Merging) return Span;
+    if (!Told.Merging || Row < 0) return Span;
     while (Merges(Row, Col, Row, Span.left() - 1)) Span.setLeft(Span.left() - 1);
     while (Merges(Row, Col, Row, Span.right() + 1)) Span.setRight(Span.right() + 1);
     const auto& Down = Record.MergeCols;
-    if (Span.width() > 1 || std::find(Down.begin(), Down.end(), ColOf(Index)) == Down.end()) return Span;
+    if (Span.width() > 1 || std::find(Down.begin(), Down.end(), Col) == Down.end()) return Span;
     const auto Joins = [&](int Other) {
         return Merges(Row, Col, Other, Col) && !Merges(Other, Col, Other, Col - 1) &&
                !Merges(Other, Col, Other, Col + 1);

@@ -6,8 +6,6 @@
 #include <QAbstractTableModel>
 #include <QRect>
 
-#include <utility>
-
 namespace velorix {
 
 // A merged cell can't reach out of a header, so the fixed columns of a grid that merges cells stand among the
@@ -42,11 +40,8 @@ public:
     // The heading of a column of the grid: its fixed rows, one under the other.
     QString Heading(int Col) const;
 
-    // The first and the last section whose headings show as one with that of a section.
-    std::pair<int, int> HeadingSpan(int Section) const;
-
-    // The cells among which the one of that index shows as one, columns as x and rows as y of the model.
-    QRect Span(const QModelIndex& Index) const;
+    // The cells with which one shows as one, columns as x and rows as y of the grid.
+    QRect Span(int Row, int Col) const;
 
 private:
     struct Shape {

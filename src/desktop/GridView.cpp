@@ -8,14 +8,13 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QFocusEvent>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
-#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
 #include <algorithm>
-#include <cstdint>
 #include <numeric>
 
 namespace velorix {
@@ -33,7 +32,7 @@ GridView::GridView(Grid& Shown, TextBox* EditorRecord, ComboBox* ListRecord)
     , Editor(EditorRecord ? View(*EditorRecord) : nullptr)
     , List(ListRecord ? View(*ListRecord) : nullptr)
 {
-    setItemDelegate(new GridCells(*this));
+    setItemDelegate(PaintedCells(*this));
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false);
     setShowGrid(false); // the cells paint their own borders
@@ -65,8 +64,8 @@ GridView::GridView(Grid& Shown, TextBox* EditorRecord, ComboBox* ListRecord)
 // The first column's heading stands in the corner, which the toolkit leaves blank.
 void GridView::TakeHeaders()
 {
-    setHorizontalHeader(new GridHeader(Qt::Horizontal, Model, this));
-    setVerticalHeader(new GridHeader(Qt::Vertical, Model, this));
+    setHorizontalHeader(PaintedHeader(Qt::Horizontal, Model, this));
+    setVerticalHeader(PaintedHeader(Qt::Vertical, Model, this));
     HeadCorner = findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly);
     HeadCorner->disconnect(this);
     connect(HeadCorner, &QAbstractButton::pressed, this, &GridView::SelectAllCells);
@@ -116,27 +115,42 @@ void GridView::Settle()
         Model.Refresh();
     if (Reshaped || HeadingsChanged) Measure();
     clearSpans();
-    for (int Row = 0; Record.MergeEqualCells && Row < Model.rowCount(); ++Row)
-        for (int Col = 0; Col < Model.columnCount(); ++Col) {
-            const QRect Span = Model.Span(Model.index(Row, Col));
+    for (int Row = Model.HeadRows(); Record.MergeEqualCells && Row < Record.Rows(); ++Row)
+        for (int Col = 0; Col < Record.Cols(); ++Col) {
+            const QRect Span = Model.Span(Row, Col);
             if (Span.topLeft() == QPoint(Col, Row) && Span.size() != QSize(1, 1))
-                setSpan(Row, Col, Span.height(), Span.width());
+                setSpan(Row - Model.HeadRows(), Col, Span.height(), Span.width());
         }
     if (Reshaped) ShowSelection();
     PlaceEditors();
 }
 
+// The columns are as wide as told, or wider where the longest word of the heading or a row's name needs it.
 void GridView::Measure()
 {
+    constexpr int OneWordALine = 1;
     HeadingsChanged = false;
     const QFontMetrics Letters(HeadingFont(font()));
-    LeastWidths = NeededWidths(Record, Model, Letters, logicalDpiX());
+    LeastWidths.clear();
+    for (int Col = 0; Col < Record.Cols(); ++Col) {
+        int Needed =
+            Letters.boundingRect({0, 0, OneWordALine, 0}, Qt::TextWordWrap, Model.Heading(Col)).width();
+        for (int Row = Model.HeadRows(); Col < Record.FixedCols && Row < Record.Rows(); ++Row)
+            Needed =
+                std::max(Needed, Letters.horizontalAdvance(QString::fromStdString(Record.Text(Row, Col))));
+        LeastWidths.push_back(std::max(Pixels(Record.ColWidth.at(static_cast<std::size_t>(Col))),
+                                       Needed + 2 * CellPadding + 1));
+    }
     verticalHeader()->setVisible(Model.HeadCols() > 0);
-    verticalHeader()->setFixedWidth(
-        std::accumulate(LeastWidths.begin(), LeastWidths.begin() + Model.HeadCols(), 0));
+    verticalHeader()->setFixedWidth(WidthOf(0, Model.HeadCols()));
     verticalHeader()->setDefaultSectionSize(
-        std::max(Pixels(Record.DataRowHeight, logicalDpiX()), Letters.height() + CellPadding));
+        std::max(Pixels(Record.DataRowHeight), Letters.height() + CellPadding));
     SpreadColumns();
+}
+
+int GridView::WidthOf(int FirstCol, int ColEnd) const
+{
+    return std::accumulate(LeastWidths.begin() + FirstCol, LeastWidths.begin() + ColEnd, 0);
 }
 
 // The columns that aren't fixed share what is left of the room, in proportion to their least widths, until
@@ -145,20 +159,12 @@ void GridView::SpreadColumns()
 {
     const QScopedValueRollback<bool> Guard(Sizing, true);
     const int Heads = Model.HeadCols();
-    int Fixed = 0; // columns and their width, of those among the cells
-    int FixedWidth = 0;
-    for (int Col = Heads; Col < std::min(Record.FixedCols, Record.Cols()); ++Col, ++Fixed)
-        FixedWidth += LeastWidths[static_cast<std::size_t>(Col)];
-    const int Least = std::accumulate(LeastWidths.begin() + Heads, LeastWidths.end(), 0) - FixedWidth;
-    const int Room = std::max(viewport()->width() - FixedWidth, Least);
-    int Sum = 0;
-    for (int Col = 0; !SizedByHand && Col < Model.columnCount(); ++Col) {
-        const int Width = LeastWidths[static_cast<std::size_t>(Col + Heads)];
-        const auto Spread = [&](int Part) {
-            return static_cast<int>(std::int64_t{Part} * Room / std::max(Least, 1));
-        };
-        setColumnWidth(Col, Col < Fixed ? Width : Spread(Sum + Width) - Spread(Sum));
-        if (Col >= Fixed) Sum += Width;
+    const int First = std::clamp(Record.FixedCols, Heads, Record.Cols());
+    const int Room = viewport()->width() - WidthOf(Heads, First);
+    const double Stretch = std::max(1.0, Room / std::max(1.0, double(WidthOf(First, Record.Cols()))));
+    for (int Col = Heads; !SizedByHand && Col < Record.Cols(); ++Col) {
+        const auto Left = [&](int Each) { return qRound(WidthOf(First, Each) * Stretch); };
+        setColumnWidth(Col - Heads, Col < First ? WidthOf(Col, Col + 1) : Left(Col + 1) - Left(Col));
     }
     SizeHeadings();
 }
@@ -168,18 +174,24 @@ void GridView::SizeHeadings()
 {
     constexpr int AnyHeight = 10000;
     const QFontMetrics Letters(HeadingFont(font()));
-    const int Dots = logicalDpiX();
-    int Height = Pixels(Record.HeaderHeight + (Model.HeadRows() - 1) * Record.DataRowHeight, Dots);
-    for (int Section = 0; Section < Model.columnCount(); ++Section) {
-        const auto [First, Last] = Model.HeadingSpan(Section);
+    int Height = Pixels(Record.HeaderHeight + (Model.HeadRows() - 1) * Record.DataRowHeight);
+    for (int Col = Model.HeadCols(); Col < Record.Cols(); ++Col) {
+        const QRect Span = Model.Span(Model.HeadRows() - 1, Col);
         int Room = -2 * CellPadding - 1;
-        for (int Each = First; Each <= Last; ++Each) Room += columnWidth(Each);
-        const QRect Text = Letters.boundingRect({0, 0, Room, AnyHeight}, Qt::AlignCenter | Qt::TextWordWrap,
-                                                Model.headerData(Section, Qt::Horizontal).toString());
-        Height = std::max(Height, Text.height() + CellPadding);
+        for (int Each = Span.left(); Each <= Span.right(); ++Each)
+            Room += columnWidth(Each - Model.HeadCols());
+        const QRect Lines = Letters.boundingRect({0, 0, Room, AnyHeight}, Qt::AlignCenter | Qt::TextWordWrap,
+                                                 Model.Heading(Col));
+        Height = std::max(Height, Lines.height() + CellPadding);
     }
     horizontalHeader()->setFixedHeight(Height);
     updateGeometry(); // the layout reckons with rows and headings
+}
+
+int GridView::Pixels(int Twips) const
+{
+    constexpr int TwipsAnInch = 1440;
+    return Twips * logicalDpiX() / TwipsAnInch;
 }
 
 // The toolkit's current cell is the record's, and so is its selection.
@@ -248,24 +260,25 @@ void GridView::scrollContentsBy(int X, int Y)
     PlaceEditors();
 }
 
+QSize GridView::SizeFor(int DataRows) const
+{
+    const int Rows = std::min(Model.rowCount(), DataRows);
+    return QSize(WidthOf(0, Record.Cols()) + verticalScrollBar()->sizeHint().width(),
+                 horizontalHeader()->minimumHeight() + Rows * verticalHeader()->defaultSectionSize()) +
+           QSize(2, 2) * frameWidth();
+}
+
 QSize GridView::sizeHint() const
 {
     constexpr int ShownRows = 15;
-    const int Rows = std::min(Model.rowCount(), ShownRows);
-    const int Frame = 2 * frameWidth();
-    return {std::accumulate(LeastWidths.begin(), LeastWidths.end(), Frame) +
-                verticalScrollBar()->sizeHint().width(),
-            horizontalHeader()->minimumHeight() + Rows * verticalHeader()->defaultSectionSize() + Frame};
+    return SizeFor(ShownRows);
 }
 
 QSize GridView::minimumSizeHint() const
 {
     constexpr int LeastRows = 3;
     constexpr int LeastWidth = 200;
-    const int Rows = std::min(Model.rowCount(), LeastRows);
-    return {std::min(sizeHint().width(), LeastWidth), horizontalHeader()->minimumHeight() +
-                                                          Rows * verticalHeader()->defaultSectionSize() +
-                                                          2 * frameWidth()};
+    return SizeFor(LeastRows).boundedTo({LeastWidth, QWIDGETSIZE_MAX});
 }
 
 void GridView::resizeEvent(QResizeEvent* Resize)

@@ -2,9 +2,12 @@
 // cell. The record says which cell is current and what is selected; the view follows.
 #pragma once
 
+#include "desktop/GridModel.h"
 #include "desktop/GridPaint.h"
 
 #include <QTableView>
+
+#include <vector>
 
 class QAbstractButton;
 class QComboBox;
@@ -64,6 +67,9 @@ private:
     void Measure();
     void SpreadColumns();
     void SizeHeadings();
+    int WidthOf(int FirstCol, int ColEnd) const;
+    int Pixels(int Twips) const;
+    QSize SizeFor(int DataRows) const;
     void ShowSelection();
 
     bool EditorEvent(QWidget& Over, QEvent& Event);

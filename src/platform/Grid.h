@@ -28,7 +28,6 @@ struct CellRange {
     int LastRow;
     int LastCol;
 
-    bool IsSeveral() const { return FirstRow != LastRow || FirstCol != LastCol; }
     bool Holds(int Row, int Col) const
     {
         return Row >= FirstRow && Row <= LastRow && Col >= FirstCol && Col <= LastCol;

@@ -31,12 +31,13 @@ protected:
     }
 
     // Types the characters, one key after the other, wherever the focus is. Keys with a code of their own are
-    // drawn: the arrows, ⏎ Enter, ⌫ Backspace, ⎋ Escape, and ✎ for F2, which opens the editor.
+    // drawn: the arrows, ⏎ Enter, ⌫ Backspace, ⎋ Escape, ✂ Delete, and ✎ for F2, which opens the editor.
     void Type(const std::u32string& Text)
     {
         const std::map<char32_t, int> Drawn = {
-            {U'←', Keys::Left},  {U'↑', Keys::Up}, {U'→', Keys::Right},     {U'↓', Keys::Down},
-            {U'⏎', Keys::Enter}, {U'✎', Keys::F2}, {U'⌫', Keys::Backspace}, {U'⎋', Keys::Escape}};
+            {U'←', Keys::Left},      {U'↑', Keys::Up},     {U'→', Keys::Right},
+            {U'↓', Keys::Down},      {U'⏎', Keys::Enter},  {U'✎', Keys::F2},
+            {U'⌫', Keys::Backspace}, {U'⎋', Keys::Escape}, {U'✂', Keys::Delete}};
         for (const char32_t Each : Text) {
             const auto Key = Drawn.find(Each);
             if (Key == Drawn.end())
