@@ -120,14 +120,14 @@ void Cells::paint(QPainter* Painter, const QStyleOptionViewItem& Option, const Q
              Heading ? Centred : AlignmentOf(Text, View.EditorView()) | Lines, Text);
 
     const QRect Inside = Option.rect.adjusted(0, 0, -1, -1);
-    const bool Current = View.isEnabled() && Option.rect == View.visualRect(View.currentIndex());
-    if (!Fixed && !Current && View.Table().Selected().Holds(Row, Col)) {
+    const bool Current = Option.rect == View.visualRect(View.currentIndex());
+    if (View.isEnabled() && !Fixed && !Current && View.Table().Selected().Holds(Row, Col)) {
         constexpr int Veil = 70; // of 255
         QColor Tint = Palette.color(QPalette::Highlight);
         Tint.setAlpha(Veil);
         Painter->fillRect(Inside, Tint);
     }
-    if (Current)
+    if (View.isEnabled() && Current)
         DrawFrame(*Painter, Inside, View.HasCursor() ? Palette.color(QPalette::Highlight) : Colors().Muted);
     Painter->restore();
 }

@@ -121,8 +121,7 @@ void GridView::Settle()
             if (Span.topLeft() == QPoint(Col, Row) && Span.size() != QSize(1, 1))
                 setSpan(Row - Model.HeadRows(), Col, Span.height(), Span.width());
         }
-    if (Reshaped) ShowSelection();
-    PlaceEditors();
+    ShowSelection();
 }
 
 // The columns are as wide as told, or wider where the longest word of the heading or a row's name needs it.
@@ -284,7 +283,7 @@ QSize GridView::minimumSizeHint() const
 void GridView::resizeEvent(QResizeEvent* Resize)
 {
     QTableView::resizeEvent(Resize);
-    SpreadColumns();
+    if (!LeastWidths.empty()) SpreadColumns(); // not while the view is being put together
 }
 
 void GridView::showEvent(QShowEvent* Show)

@@ -136,6 +136,7 @@ TEST_F(GridViewTest, HeadingsStayWhereTheyAreWhileTheCellsScroll)
 
 TEST_F(GridViewTest, ColoursAreTheToldOnesAndEqualNeighboursShowAsOneCell)
 {
+    EXPECT_EQ(Shown->visualRect(Shown->currentIndex()), CurrentRect()); // before anyone has moved
     Table.SetBackColor(2, 2, Rgb(0xFF, 0xFF, 0xC0));
     Table.MergeEqualCells = true;
     Table.MergeCols = {5};
