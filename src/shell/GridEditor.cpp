@@ -5,6 +5,7 @@
 #include "base/Text.h"
 #include "input/ProfileTable.h"
 #include "input/Session.h"
+#include "model/Components.h"
 #include "platform/Keys.h"
 #include "platform/Platform.h"
 #include "screens/Lcc.h"
@@ -236,7 +237,6 @@ void EntryChosen(const CellEditing& Editing)
 
 std::vector<std::string> ComponentEntries()
 {
-    constexpr int NamedComponents = 10;
     return {ComponentTable.begin(), ComponentTable.begin() + NamedComponents};
 }
 

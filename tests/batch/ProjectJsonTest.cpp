@@ -61,9 +61,7 @@ TEST_F(ProjectJsonTest, EveryBitOfARecordComesBack)
     RandomFields Random;
     for (int Trial = 1; Trial <= 50; ++Trial) {
         ProjectFields Record;
-#define VELORIX_FIELD(Name, Offset, Count) Random.Fill(Record.Name);
-        VELORIX_RECORD_FIELDS(VELORIX_FIELD, VELORIX_FIELD, VELORIX_FIELD)
-#undef VELORIX_FIELD
+        ForEachField(Record, [&](const FieldRule&, auto& Field) { Random.Fill(Field); });
         Record.Life = 100;
         Record.BaseYear = 1950;
         Record.SupplyStart = 2500;

@@ -47,17 +47,5 @@ TEST_F(CostTablesTest, EntriesStandInTheirRowsUnderCurrencyAndUnits)
     EXPECT_EQ(frmLCC.msgOperational.Text(0, 1), "Annual package ($)");
 }
 
-// The place of an entry is what files hold.
-TEST_F(CostTablesTest, UnitsHaveTheirPlaces)
-{
-    EXPECT_EQ(FlowUnitList[3], "l/s");
-    EXPECT_EQ(FlowUnitList[4], "ft³/s");
-    EXPECT_EQ(FlowUnitList[9], "gal/s (EUR)");
-    EXPECT_EQ(TariffUnitList[1], "/Ml");
-    std::vector<std::string> Operating = FlowUnitList; // but for the units by the day
-    for (const int Daily : {12, 8, 0}) Operating.erase(Operating.begin() + Daily);
-    EXPECT_EQ(OperatingFlowUnitList, Operating);
-}
-
 } // namespace
 } // namespace velorix

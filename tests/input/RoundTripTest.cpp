@@ -2,7 +2,7 @@
 #include "ProjectTest.h"
 #include "input/CostTables.h"
 #include "input/FileCommands.h"
-#include "input/ProfileTable.h"
+#include "model/Components.h"
 #include "model/ProjectFile.h"
 
 #include <algorithm>
