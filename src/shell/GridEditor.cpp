@@ -3,6 +3,7 @@
 
 #include "base/CodePage.h"
 #include "base/Text.h"
+#include "input/KeyFilters.h"
 #include "input/ProfileTable.h"
 #include "input/Session.h"
 #include "model/Components.h"
@@ -10,7 +11,6 @@
 #include "platform/Platform.h"
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
-#include "shell/KeyFilters.h"
 
 #include <algorithm>
 #include <array>

@@ -1,116 +1,217 @@
-// A whole project from the screen to its file and back.
+// A whole project from the screen to its file and back: which control stores which field.
 #include "ProjectTest.h"
+#include "base/NumberText.h"
 #include "input/CostTables.h"
 #include "input/FileCommands.h"
+#include "input/InputFields.h"
 #include "model/Components.h"
 #include "model/ProjectFile.h"
 
 #include <algorithm>
+#include <map>
 
 namespace velorix {
 namespace {
 
 using RoundTripTest = ProjectTest;
 
-// Whether a project of this kind stores what the control holds. The controls of one kind stand together.
-bool IsStored(const Control* Each)
+enum Kind { Gravity, Pumping, Both };
+
+struct StoredControl {
+    Kind System;
+    Control& Shown;
+    std::string Field;
+    int Entry = 1;
+};
+
+// Rows of a grid's column, and the field's entries from First on.
+struct StoredCells {
+    Kind System;
+    Grid& Shown;
+    int Col;
+    int FirstRow;
+    int LastRow;
+    std::string Field;
+    int First = 1;
+};
+
+bool IsUsed(Kind System)
 {
-    const auto Among = [Each](const Control& First, const Control& Last) {
-        const auto Place = [](const Control* Sought) {
-            return std::find(frmLCC.Controls.begin(), frmLCC.Controls.end(), Sought);
-        };
-        return Place(Each) >= Place(&First) && Place(Each) <= Place(&Last);
-    };
-    if (!Each->Visible) return false; // the floating editors
-    if (Each == &frmLCC.comVaryingDemandUnits) return true;
-    if (Each == &frmLCC.comPumpVaryingDemandUnits) return false; // shows the unit of the other
-    if (IsPumping()) return !Among(frmLCC.fraGravityOption, frmLCC.comBRWLUnits);
-    return !Among(frmLCC.fraPumpOption, frmLCC.sscOK) && !Among(frmLCC.fraSummer, frmLCC.lblPumpingHours);
+    return System == Both || (System == Pumping) == IsPumping();
 }
 
-void TypeIntoGrid(Grid& Table, int Base)
+// Of the two selectors over DemandUnits the one of the gravity frame counts.
+std::vector<StoredControl> StoredControls()
 {
-    for (int Row = Table.FixedRows; Row < Table.Rows(); ++Row)
-        for (int Col = Table.FixedCols; Col < Table.Cols(); ++Col)
-            if (&Table != &frmLCC.msgLaying || (Row != 9 && Row != 10)) // headings in the middle
-                Table.SetText(Row, Col, std::to_string(Base + 10 * Row + Col) + ".5");
+    LccScreen& S = frmLCC;
+    using Pairs = std::vector<std::pair<Control*, std::string>>;
+    // clang-format off
+#define BOX(Field) {&S.txt##Field, #Field}
+#define UNITS(Field) {&S.com##Field##Units, #Field "Units"}
+#define BAR(Field) {&S.hsc##Field, #Field}
+    const Pairs OfBoth = {
+        BOX(Project), BOX(Designer), {&S.dtpDate, "Date"}, BOX(Description), BAR(Life), BAR(BaseYear),
+        BAR(SupplyStart), {&S.comVaryingDemandUnits, "DemandUnits"}, {&S.optMortar, "LiningType"},
+        BOX(LiningThickness), UNITS(LiningThickness), BOX(KsNew), UNITS(KsNew), BOX(KsOld), UNITS(KsOld),
+        BOX(KsOldYears), UNITS(Diameter), UNITS(Elevation), UNITS(Length), UNITS(WallThickness),
+        BOX(Escalation), BOX(DiscountRate), BOX(Mechanical), BOX(Electrical), BOX(Supervision),
+        BAR(MPipeline), BAR(MMechanical), BAR(MElectrical), BOX(WaterSales), UNITS(WaterSales),
+        BOX(WaterIncrease)};
+    const Pairs OfGravity = {
+        {&S.optGCalculatedFlowrate, "VaryingDemand"}, {&S.txtGFlowrate, "Flowrate"},
+        {&S.comGFlowrateUnits, "FlowrateUnits"}, BOX(TRWL), UNITS(TRWL), BOX(BRWL), UNITS(BRWL)};
+    const Pairs OfPumping = {
+        {&S.optPumpVarying, "VaryingDemand"}, {&S.txtPFlowrate, "Flowrate"},
+        {&S.comPFlowrateUnits, "FlowrateUnits"}, {&S.txtPPRWL, "TRWL"}, {&S.comPPRWLUnits, "TRWLUnits"},
+        {&S.txtPERWL, "BRWL"}, {&S.comPERWLUnits, "BRWLUnits"}, {&S.optPumpDetails, "PumpDetails"},
+        BOX(PumpOperatingFlowrate), UNITS(PumpOperatingFlowrate), BOX(PumpEfficiency), UNITS(Head),
+        UNITS(Flow), BOX(Pumptype), BOX(PumpDescription), {&S.fsbSummer, "Summer"},
+        {&S.fsbPumpingHours, "PumpingHours"}, BOX(SPeak), BOX(SStandard), BOX(SOffpeak), BOX(WPeak),
+        BOX(WStandard), BOX(WOffpeak), BOX(EnergyEscalation)};
+#undef BOX
+#undef UNITS
+#undef BAR
+    // clang-format on
+    std::vector<StoredControl> All;
+    for (const auto& [Shown, Field] : OfBoth) All.push_back({Both, *Shown, Field});
+    for (const auto& [Shown, Field] : OfGravity) All.push_back({Gravity, *Shown, Field});
+    for (const auto& [Shown, Field] : OfPumping) All.push_back({Pumping, *Shown, Field});
+    for (int Point = 0; Point < 6; ++Point) {
+        All.push_back({Pumping, S.txtH[Point], "PumpCurve", 3 * Point + 1});
+        All.push_back({Pumping, S.txtQ[Point], "PumpCurve", 3 * Point + 2});
+        All.push_back({Pumping, S.txtEfficiency[Point], "PumpCurve", 3 * Point + 3});
+    }
+    for (int Hour = 0; Hour < 24; ++Hour) {
+        All.push_back({Pumping, S.lblSummerHour[Hour], "SummerHour", Hour + 1});
+        All.push_back({Pumping, S.lblWinterHour[Hour], "WinterHour", Hour + 1});
+    }
+    return All;
 }
 
-// A value of its own into every control, so that the two selectors over one field differ.
+constexpr int Life = 7;
+constexpr int Nodes = 5;
+
+std::vector<StoredCells> StoredGrids()
+{
+    LccScreen& S = frmLCC;
+    return {{Gravity, S.msgDemand, 1, 1, Life, "Demand"},
+            {Pumping, S.msgPumpDemand, 1, 1, Life, "Demand"},
+            {Both, S.msgProfile, 0, 1, Nodes, "NodeNr"},
+            {Both, S.msgProfile, 1, 1, Nodes, "Elevation"},
+            {Both, S.msgProfile, 2, 1, Nodes, "AccLength"},
+            {Both, S.msgProfile, 3, 1, Nodes, "Diameter"},
+            {Both, S.msgProfile, 4, 1, Nodes, "WallThickness"},
+            {Both, S.msgProfile, 5, 1, Nodes, "PipeCost"},
+            {Both, S.msgProfile, 6, 1, Nodes, "SecondaryLoss"},
+            {Both, S.msgProfile, 7, 1, Nodes, "NodeDesc"},
+            {Both, S.msgLaying, 1, 1, 8, "Laying"},
+            {Both, S.msgLaying, 1, 11, 15, "Laying", 9},
+            {Both, S.msgOperational, 1, 1, 8, "StaffPackage"},
+            {Both, S.msgOperational, 2, 1, 8, "StaffTime"},
+            {Both, S.msgOtherOperational, 1, 1, 5, "Expenses"}};
+}
+
+// A value of its own into the control, and never the one of a new project.
+void Type(Control& Shown, int Number)
+{
+    constexpr std::array<Color, 3> Classes = {PeakColor, StandardColor, OffpeakColor};
+    if (auto* Box = dynamic_cast<TextBox*>(&Shown)) Box->Text = std::to_string(Number) + ".25";
+    if (auto* Selector = dynamic_cast<ComboBox*>(&Shown))
+        Selector->ListIndex = 1 + Number % (static_cast<int>(Selector->List.Get().size()) - 1);
+    if (auto* Bar = dynamic_cast<ScrollBar*>(&Shown))
+        Bar->Value = Bar->Min + Number % (Bar->Max - Bar->Min + 1);
+    if (auto* Option = dynamic_cast<OptionButton*>(&Shown)) Option->Value = true;
+    if (auto* Picker = dynamic_cast<DatePicker*>(&Shown)) Picker->Value = Date{2011, 11, 9};
+    if (auto* Hour = dynamic_cast<Label*>(&Shown))
+        Hour->BackColor = Classes.at(static_cast<std::size_t>(Number * Number % 7 % 3));
+}
+
 void TypeEverything()
 {
-    for (OptionButton* Each :
-         {&frmLCC.optGCalculatedFlowrate, &frmLCC.optPumpVarying, &frmLCC.optPumpDetails, &frmLCC.optMortar})
-        Each->Value = true;
-    wLife = 7;
+    int Number = 0;
+    for (const StoredControl& Each : StoredControls()) Type(Each.Shown, ++Number);
+    frmLCC.hscLife.Value = wLife = Life;
     FillDemandGrid(frmLCC.msgDemand);
     FillDemandGrid(frmLCC.msgPumpDemand);
-    frmLCC.msgProfile.SetRows(6);
-    int Number = 0;
-    for (Control* Each : frmLCC.Controls) {
-        ++Number;
-        if (auto* Box = dynamic_cast<TextBox*>(Each))
-            Box->Text = std::to_string(Number) + ".25";
-        else if (auto* Selector = dynamic_cast<ComboBox*>(Each); Selector && Selector != &frmLCC.comNode)
-            Selector->ListIndex = 1 + (IsStored(Selector) ? Number : Number + 1) %
-                                          (static_cast<int>(Selector->List.Get().size()) - 1);
-        else if (auto* Bar = dynamic_cast<ScrollBar*>(Each))
-            Bar->Value = Bar->Min + Number % (Bar->Max - Bar->Min + 1);
-        else if (auto* Table = dynamic_cast<Grid*>(Each))
-            TypeIntoGrid(*Table, 1000 * Number);
-    }
-    frmLCC.hscLife.Value = 7;
-    frmLCC.dtpDate.Value = Date{2011, 11, 9};
-    for (int Row = 1; Row < 6; ++Row) {
-        frmLCC.msgProfile.SetText(Row, 0, std::to_string(Row));
-        frmLCC.msgProfile.SetText(Row, 7, ComponentTable[Row + 2]);
-    }
-    const std::array<Color, 3> Classes = {PeakColor, StandardColor, OffpeakColor};
-    for (std::size_t Hour = 0; Hour < 24; ++Hour) {
-        frmLCC.lblSummerHour[static_cast<int>(Hour)].BackColor = Classes.at(Hour % 3);
-        frmLCC.lblWinterHour[static_cast<int>(Hour)].BackColor = Classes.at(Hour / 8);
-    }
+    frmLCC.msgProfile.SetRows(Nodes + 1);
+    for (const StoredCells& Each : StoredGrids())
+        for (int Row = Each.FirstRow; Row <= Each.LastRow; ++Row)
+            Each.Shown.SetText(Row, Each.Col,
+                               Each.Col == 0   ? std::to_string(Row)
+                               : Each.Col == 7 ? ComponentTable[Row + 2]
+                                               : std::to_string(++Number) + ".5");
 }
 
-std::string ShownBy(const Control& Each)
+std::string ValueOf(const Control& Shown)
 {
-    if (const auto* Box = dynamic_cast<const TextBox*>(&Each)) return Box->Text;
-    if (const auto* Selector = dynamic_cast<const ComboBox*>(&Each)) return Selector->Text();
-    if (const auto* Bar = dynamic_cast<const ScrollBar*>(&Each)) return std::to_string(Bar->Value);
-    if (const auto* Option = dynamic_cast<const OptionButton*>(&Each)) return Option->Value ? "set" : "";
-    if (const auto* Picker = dynamic_cast<const DatePicker*>(&Each)) return ShortDate(Picker->Value);
-    std::string Cells;
-    if (const auto* Table = dynamic_cast<const Grid*>(&Each))
-        for (int Row = 0; Row < Table->Rows(); ++Row)
-            for (int Col = 0; Col < Table->Cols(); ++Col) Cells += Table->Text(Row, Col) + "|";
-    return Cells;
+    if (const auto* Box = dynamic_cast<const TextBox*>(&Shown)) return Box->Text;
+    if (const auto* Selector = dynamic_cast<const ComboBox*>(&Shown))
+        return std::to_string(Selector->ListIndex);
+    if (const auto* Bar = dynamic_cast<const ScrollBar*>(&Shown)) return std::to_string(Bar->Value);
+    if (const auto* Option = dynamic_cast<const OptionButton*>(&Shown)) return Option->Value ? "1" : "0";
+    if (const auto* Picker = dynamic_cast<const DatePicker*>(&Shown)) return ShortDate(Picker->Value);
+    const Color Class = dynamic_cast<const Label&>(Shown).BackColor;
+    return Class == PeakColor ? "2" : Class == StandardColor ? "1" : Class == OffpeakColor ? "0" : "?";
 }
 
-// What the user sees of the project, control by control.
-std::vector<std::string> ShownProject()
+using Values = std::map<std::string, std::string>; // by field and entry
+
+Values ShownValues()
 {
-    std::vector<std::string> Shown;
-    for (const Control* Each : frmLCC.Controls)
-        if (const std::string Value = ShownBy(*Each); IsStored(Each) && !Value.empty())
-            Shown.push_back(Each->ToolTip + ": " + Value);
-    for (int Hour = 0; IsPumping() && Hour < 24; ++Hour)
-        for (const auto* Season : {&frmLCC.lblSummerHour, &frmLCC.lblWinterHour}) {
-            const Color Class = (*Season)[Hour].BackColor;
-            Shown.push_back(Class == PeakColor ? "peak" : Class == StandardColor ? "standard" : "off-peak");
+    Values Shown;
+    for (const StoredControl& Each : StoredControls())
+        if (IsUsed(Each.System)) Shown[Each.Field + " " + std::to_string(Each.Entry)] = ValueOf(Each.Shown);
+    for (const StoredCells& Each : StoredGrids())
+        for (int Row = Each.FirstRow; IsUsed(Each.System) && Row <= Each.LastRow; ++Row) {
+            const std::string& Cell = Each.Shown.Text(Row, Each.Col);
+            Shown[Each.Field + " " + std::to_string(Each.First + Row - Each.FirstRow)] =
+                Each.Col == 7 ? std::to_string(ComponentIndex(Cell)) : Cell;
         }
     return Shown;
 }
 
-TEST_F(RoundTripTest, EveryFieldComesBackAsTyped)
+std::string TextFor(std::int16_t Value)
+{
+    return std::to_string(Value);
+}
+
+std::string TextFor(Single Value)
+{
+    return GeneralText(Value);
+}
+
+// What the file holds of those values.
+Values StoredValues(const Values& Sought)
+{
+    Values Stored;
+    const ProjectFields Record = ReadProjectFile(FileName);
+    const auto Note = [&](const std::string& Name, const std::string& Value) {
+        if (Sought.count(Name)) Stored[Name] = Value;
+    };
+    ForEachField(Record, [&]<typename T>(const FieldRule& Rule, const T& Field) {
+        const std::string Name = std::string(Rule.Name) + " ";
+        if constexpr (requires { Field.Bytes; })
+            Note(Name + "1", TextOf(Field));
+        else if constexpr (requires { Field.LastIndex; })
+            for (int Entry = 1; Entry <= Field.LastIndex; ++Entry)
+                Note(Name + std::to_string(Entry), TextFor(Field[Entry]));
+        else
+            Note(Name + "1", TextFor(Field));
+    });
+    return Stored;
+}
+
+TEST_F(RoundTripTest, EveryControlStoresItsFieldAndShowsItAgain)
 {
     for (const int SystemType : {0, 1}) {
         const std::filesystem::path File = Folder / (std::to_string(SystemType) + ".vlx");
         StartNew(SystemType);
         TypeEverything();
-        const std::vector<std::string> Typed = ShownProject();
+        const Values Typed = ShownValues();
         Windows.Files = {File};
         SaveCommand(); // no file yet, so the dialog asks for one
-        EXPECT_EQ(ShownProject(), Typed);
+        EXPECT_EQ(StoredValues(Typed), Typed);
+        EXPECT_EQ(ShownValues(), Typed);
 
         ResetProjectRecord();
         ResetWorkingSet();
@@ -118,11 +219,12 @@ TEST_F(RoundTripTest, EveryFieldComesBackAsTyped)
         for (Screen* Each : std::initializer_list<Screen*>{&frmLCC, &MDIProject}) Each->Unload();
         StartNew(1 - SystemType);
         OpenProjectFile(File);
-        EXPECT_EQ(ShownProject(), Typed);
+        EXPECT_EQ(ShownValues(), Typed);
         EXPECT_EQ(MDIProject.lblSystem.Caption.Get(), IsPumping() ? "Pumping system" : "Gravity system");
         EXPECT_EQ(frmLCC.sstInput.TabVisible.Get()[2], IsPumping());
         EXPECT_EQ(frmLCC.fraPumpcurve.Visible, IsPumping());
         EXPECT_EQ(frmLCC.fraPumpVaryingDemand.Visible, IsPumping());
+        EXPECT_TRUE(!IsPumping() || frmLCC.comPumpVaryingDemandUnits.ListIndex == wDemandUnits);
         EXPECT_EQ(frmLCC.fraGravityOption.Visible, !IsPumping());
     }
     frmLCC.txtWOffpeak.Text = "0.123456789"; // more digits than are stored
