@@ -29,7 +29,7 @@ bool InputIsComplete()
 {
     for (const InputField* Each : RequestedFields()) {
         const Request& Asked = Each->Asked;
-        if (!Each->IsTaken() || (Asked.Under && !Asked.Under->Value)) continue;
+        if (!Each->When.IsTaken() || (Asked.Under && !Asked.Under->Value)) continue;
         if (Asked.Instead) {
             Asked.Instead();
         } else if (Trimmed(Each->Box->Text.Get()).empty()) {
@@ -54,7 +54,7 @@ std::string NameOf(const TextBox& Box)
 bool NumbersAreReadable()
 {
     for (const InputField* Each : RequestedFields()) {
-        if (!Each->Number || !Each->IsTaken()) continue;
+        if (!Each->Number || !Each->When.IsTaken()) continue;
         try {
             ParseSingle(Each->Box->Text.Get());
         } catch (const Failure& Problem) {
@@ -68,7 +68,7 @@ bool NumbersAreReadable()
 void TakeInputs()
 {
     for (const InputField& Each : InputFields)
-        if (Each.Take && Each.IsTaken()) Each.Take();
+        if (Each.Take && Each.When.IsTaken()) Each.Take();
 }
 
 } // namespace

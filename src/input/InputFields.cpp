@@ -18,9 +18,14 @@ using FieldList = std::vector<InputField>;
 
 // --- when ---
 
-bool Always()
+bool Yes()
 {
     return true;
+}
+
+bool No()
+{
+    return false;
 }
 
 bool IsGravity()
@@ -33,35 +38,40 @@ bool IsLined()
     return !frmLCC.optCopon.Value;
 }
 
+constexpr Use Always = {Yes, Yes};
+constexpr Use Gravity = {IsGravity, IsGravity};
+constexpr Use Pumping = {IsPumping, IsPumping};
+constexpr Use PumpingShown = {IsPumping, No}; // stored by its own change alone
+constexpr Use Lined = {Yes, IsLined};
+constexpr Use Curve = {Yes, IsPumping}; // a gravity system shows the curve that it keeps
+
 // --- the kinds of inputs ---
 
 // The box is read whether or not its option is chosen.
-InputField Number(bool (*When)(), TextBox& Box, Single& Stored, Request Asked)
+InputField Number(Use When, TextBox& Box, Single& Stored, Request Asked,
+                  const KeyFilter* Filter = &NumberKeys)
 {
-    return {.IsShown = When,
-            .IsTaken = When,
+    return {.When = When,
             .Show = [&] { Box.Text = GeneralText(Stored); },
             .Take = [&] { Stored = ParseSingle(Box.Text.Get()); },
             .Asked = std::move(Asked),
             .Box = &Box,
             .Number = &Stored,
-            .Filter = &NumberKeys};
+            .Filter = Filter};
 }
 
-InputField Text(bool (*When)(), TextBox& Box, std::string& Stored, Request Asked = {})
+InputField Text(Use When, TextBox& Box, std::string& Stored, Request Asked = {})
 {
-    return {.IsShown = When,
-            .IsTaken = When,
+    return {.When = When,
             .Show = [&] { Box.Text = Stored; },
             .Take = [&] { Stored = Trim(Box.Text.Get()); },
             .Asked = std::move(Asked),
             .Box = &Box};
 }
 
-InputField UnitOf(bool (*When)(), ComboBox& Selector, std::int16_t& Index)
+InputField UnitOf(Use When, ComboBox& Selector, std::int16_t& Index)
 {
-    return {.IsShown = When,
-            .IsTaken = When,
+    return {.When = When,
             .Show = [&] { Selector.ListIndex = Index; },
             .Take = [&] { TakeUnit(Selector, Index); }};
 }
@@ -73,12 +83,11 @@ std::string PlainCaption(int Value)
 
 // The working set takes what the bar can hold, ahead of the bar: a bar that shows what is stored already
 // hasn't been moved by the user.
-InputField BarOver(bool (*When)(), ScrollBar& Bar, Label& Reading, std::int16_t& Stored,
+InputField BarOver(Use When, ScrollBar& Bar, Label& Reading, std::int16_t& Stored,
                    std::string (*Caption)(int) = PlainCaption, Grid* Refilled = nullptr)
 {
     const auto Take = [&] { Stored = static_cast<std::int16_t>(Bar.Value.Get()); };
-    return {.IsShown = When,
-            .IsTaken = When,
+    return {.When = When,
             .Show =
                 [&Bar, &Reading, &Stored, Caption] {
                     Stored = static_cast<std::int16_t>(Bar.Value.Fit(Stored));
@@ -98,15 +107,15 @@ InputField BarOver(bool (*When)(), ScrollBar& Bar, Label& Reading, std::int16_t&
 }
 
 // Cells are read while the boxes are asked for; a failed check further on keeps what they held.
-InputField Table(bool (*When)(), void (*Fill)(), int Place, void (*Read)(), OptionButton* Under = nullptr)
+InputField Table(Use When, void (*Fill)(), int Place, void (*Read)(), OptionButton* Under = nullptr)
 {
-    return {.IsShown = When, .IsTaken = When, .Show = Fill, .Asked = {Place, {}, Under, Read}};
+    return {.When = When, .Show = Fill, .Asked = {Place, {}, Under, Read}};
 }
 
 InputField Own(
-    bool (*When)(), void (*Show)(), void (*Take)() = [] {})
+    Use When, void (*Show)(), void (*Take)() = [] {})
 {
-    return {.IsShown = When, .IsTaken = When, .Show = Show, .Take = Take};
+    return {.When = When, .Show = Show, .Take = Take};
 }
 
 // --- inputs of their own ---
@@ -164,27 +173,8 @@ void TakeLining()
     wLiningThicknessUnits = 0;
 }
 
-InputField ShownAlways(InputField Field)
-{
-    Field.IsShown = Always;
-    return Field;
-}
-
-InputField TakingAnyKey(InputField Field)
-{
-    Field.Filter = nullptr;
-    return Field;
-}
-
-// Shown, but stored by its own change alone.
-InputField NotTaken(InputField Field)
-{
-    Field.IsTaken = [] { return false; };
-    return Field;
-}
-
 // Texts that the record trims, not the working set.
-InputField Untrimmed(bool (*When)(), TextBox& Box, std::string& Stored)
+InputField Untrimmed(Use When, TextBox& Box, std::string& Stored)
 {
     InputField Field = Text(When, Box, Stored);
     Field.Take = [&] { Stored = Box.Text; };
@@ -195,7 +185,7 @@ InputField Untrimmed(bool (*When)(), TextBox& Box, std::string& Stored)
 
 FieldList GeneralFields()
 {
-    FieldList All = {
+    return {
         Text(Always, frmLCC.txtProject, wProject, {1, "Enter the project name !"}),
         Text(Always, frmLCC.txtDesigner, wDesigner, {2, "Enter the designer !"}),
         Own(Always, ShowDate, TakeDate),
@@ -205,68 +195,65 @@ FieldList GeneralFields()
         BarOver(Always, frmLCC.hscSupplyStart, frmLCC.lblSupplyStart, wSupplyStart, PlainCaption,
                 &frmLCC.msgDemand),
     };
-    return All;
 }
 
 FieldList PumpingFields()
 {
-    const auto When = IsPumping;
     return {
-        Own(When, ShowPumpOptions),
-        Number(When, frmLCC.txtPumpOperatingFlowrate, wPumpOperatingFlowrate,
+        Own(Pumping, ShowPumpOptions),
+        Number(Pumping, frmLCC.txtPumpOperatingFlowrate, wPumpOperatingFlowrate,
                {11, "Enter the operating Flow rate (must be greater than zero) !", &frmLCC.optFlowrate}),
-        Number(When, frmLCC.txtPPRWL, wTRWL, {6, "Enter the pumpstation reservoir water level !"}),
-        Number(When, frmLCC.txtPERWL, wBRWL, {7, "Enter the end reservoir water level !"}),
-        UnitOf(When, frmLCC.comPPRWLUnits, wTRWLUnits),
-        UnitOf(When, frmLCC.comPERWLUnits, wBRWLUnits),
-        UnitOf(When, frmLCC.comPFlowrateUnits, wFlowrateUnits),
+        Number(Pumping, frmLCC.txtPPRWL, wTRWL, {6, "Enter the pumpstation reservoir water level !"}),
+        Number(Pumping, frmLCC.txtPERWL, wBRWL, {7, "Enter the end reservoir water level !"}),
+        UnitOf(Pumping, frmLCC.comPPRWLUnits, wTRWLUnits),
+        UnitOf(Pumping, frmLCC.comPERWLUnits, wBRWLUnits),
+        UnitOf(Pumping, frmLCC.comPFlowrateUnits, wFlowrateUnits),
         // Of the two selectors over this field the gravity system's counts, here too.
-        UnitOf(When, frmLCC.comVaryingDemandUnits, wDemandUnits),
-        NotTaken(UnitOf(When, frmLCC.comPumpVaryingDemandUnits, wDemandUnits)),
-        UnitOf(When, frmLCC.comPumpOperatingFlowrateUnits, wPumpOperatingFlowrateUnits),
-        UnitOf(When, frmLCC.comHeadUnits, wHeadUnits),
-        UnitOf(When, frmLCC.comFlowUnits, wFlowUnits),
+        UnitOf(Pumping, frmLCC.comVaryingDemandUnits, wDemandUnits),
+        UnitOf(PumpingShown, frmLCC.comPumpVaryingDemandUnits, wDemandUnits),
+        UnitOf(Pumping, frmLCC.comPumpOperatingFlowrateUnits, wPumpOperatingFlowrateUnits),
+        UnitOf(Pumping, frmLCC.comHeadUnits, wHeadUnits),
+        UnitOf(Pumping, frmLCC.comFlowUnits, wFlowUnits),
         Table(
-            When, [] { FillDemandGrid(frmLCC.msgPumpDemand); }, 5, ReadPumpDemandGrid,
+            Pumping, [] { FillDemandGrid(frmLCC.msgPumpDemand); }, 5, ReadPumpDemandGrid,
             &frmLCC.optPumpVarying),
-        Number(When, frmLCC.txtPFlowrate, wFlowrate,
+        Number(Pumping, frmLCC.txtPFlowrate, wFlowrate,
                {4, "Enter the fixed demand (must be greater than zero) !", &frmLCC.optPumpFixed}),
-        Number(When, frmLCC.txtPumpEfficiency, wPumpEfficiency,
+        Number(Pumping, frmLCC.txtPumpEfficiency, wPumpEfficiency,
                {12, "Enter the pump efficiency at the operating point(must be greater than zero) !",
                 &frmLCC.optFlowrate}),
-        Untrimmed(When, frmLCC.txtPumptype, wPumptype),
-        Untrimmed(When, frmLCC.txtPumpDescription, wPumpDescription),
+        Untrimmed(Pumping, frmLCC.txtPumptype, wPumptype),
+        Untrimmed(Pumping, frmLCC.txtPumpDescription, wPumpDescription),
     };
 }
 
 FieldList GravityFields()
 {
-    const auto When = IsGravity;
     return {
-        Own(When, ShowGravityOptions, [] { wEnergyEscalation = 0.0; }),
-        TakingAnyKey(Number(
-            When, frmLCC.txtGFlowrate, wFlowrate,
-            {13, "Enter the fixed demand (must be greater than zero) !", &frmLCC.optGSpecifiedFlowrate})),
-        Number(When, frmLCC.txtTRWL, wTRWL, {15, "Enter the top reservoir water level !"}),
-        Number(When, frmLCC.txtBRWL, wBRWL, {16, "Enter the bottom reservoir water level !"}),
-        UnitOf(When, frmLCC.comGFlowrateUnits, wFlowrateUnits),
-        UnitOf(When, frmLCC.comTRWLUnits, wTRWLUnits),
-        UnitOf(When, frmLCC.comBRWLUnits, wBRWLUnits),
-        UnitOf(When, frmLCC.comVaryingDemandUnits, wDemandUnits),
+        Own(Gravity, ShowGravityOptions, [] { wEnergyEscalation = 0.0; }),
+        Number(Gravity, frmLCC.txtGFlowrate, wFlowrate,
+               {13, "Enter the fixed demand (must be greater than zero) !", &frmLCC.optGSpecifiedFlowrate},
+               nullptr),
+        Number(Gravity, frmLCC.txtTRWL, wTRWL, {15, "Enter the top reservoir water level !"}),
+        Number(Gravity, frmLCC.txtBRWL, wBRWL, {16, "Enter the bottom reservoir water level !"}),
+        UnitOf(Gravity, frmLCC.comGFlowrateUnits, wFlowrateUnits),
+        UnitOf(Gravity, frmLCC.comTRWLUnits, wTRWLUnits),
+        UnitOf(Gravity, frmLCC.comBRWLUnits, wBRWLUnits),
+        UnitOf(Gravity, frmLCC.comVaryingDemandUnits, wDemandUnits),
         Table(
-            When, [] { FillDemandGrid(frmLCC.msgDemand); }, 14, ReadDemandGrid,
+            Gravity, [] { FillDemandGrid(frmLCC.msgDemand); }, 14, ReadDemandGrid,
             &frmLCC.optGCalculatedFlowrate),
     };
 }
 
-// Point by point. A gravity system shows the curve that it keeps, and leaves it alone.
+// Point by point.
 FieldList PumpCurveFields()
 {
     FieldList All;
     for (int Point = 0; Point < frmLCC.txtH.Count; ++Point) {
         const auto Add = [&](TextBox& Box, int Value, const char* IfEmpty) {
             Single& Stored = wPumpCurve[3 * Point + Value];
-            All.push_back(ShownAlways(Number(IsPumping, Box, Stored, {8, IfEmpty, &frmLCC.optPumpDetails})));
+            All.push_back(Number(Curve, Box, Stored, {8, IfEmpty, &frmLCC.optPumpDetails}));
         };
         Add(frmLCC.txtH[Point], 1, "Enter the pump head !");
         Add(frmLCC.txtQ[Point], 2, "Enter the Flow rate !");
@@ -277,17 +264,16 @@ FieldList PumpCurveFields()
 
 FieldList EnergyFields()
 {
-    const auto When = IsPumping;
     return {
-        BarOver(When, frmLCC.fsbSummer, frmLCC.lblSummer, wSummer),
-        BarOver(When, frmLCC.fsbPumpingHours, frmLCC.lblPumpingHours, wPumpingHours),
-        Number(When, frmLCC.txtSPeak, wSPeak, {22, "Enter the peak summer demand rate !"}),
-        Number(When, frmLCC.txtSStandard, wSStandard, {23, "Enter the standard summer demand rate !"}),
-        Number(When, frmLCC.txtSOffpeak, wSOffpeak, {24, "Enter the off-peak summer demand rate !"}),
-        Number(When, frmLCC.txtWPeak, wWPeak, {25, "Enter the peak winter demand rate !"}),
-        Number(When, frmLCC.txtWStandard, wWStandard, {26, "Enter the standard winter demand rate !"}),
-        Number(When, frmLCC.txtWOffpeak, wWOffpeak, {27, "Enter the off-peak winter demand rate !"}),
-        Own(When, FillHourPattern, ReadHourPattern),
+        BarOver(Pumping, frmLCC.fsbSummer, frmLCC.lblSummer, wSummer),
+        BarOver(Pumping, frmLCC.fsbPumpingHours, frmLCC.lblPumpingHours, wPumpingHours),
+        Number(Pumping, frmLCC.txtSPeak, wSPeak, {22, "Enter the peak summer demand rate !"}),
+        Number(Pumping, frmLCC.txtSStandard, wSStandard, {23, "Enter the standard summer demand rate !"}),
+        Number(Pumping, frmLCC.txtSOffpeak, wSOffpeak, {24, "Enter the off-peak summer demand rate !"}),
+        Number(Pumping, frmLCC.txtWPeak, wWPeak, {25, "Enter the peak winter demand rate !"}),
+        Number(Pumping, frmLCC.txtWStandard, wWStandard, {26, "Enter the standard winter demand rate !"}),
+        Number(Pumping, frmLCC.txtWOffpeak, wWOffpeak, {27, "Enter the off-peak winter demand rate !"}),
+        Own(Pumping, FillHourPattern, ReadHourPattern),
     };
 }
 
@@ -295,9 +281,9 @@ FieldList ProfileFields()
 {
     return {
         Own(Always, ShowLining, TakeLining),
-        ShownAlways(Number(IsLined, frmLCC.txtLiningThickness, wLiningThickness,
-                           {20, "Enter cement mortar lining thickness !"})),
-        ShownAlways(UnitOf(IsLined, frmLCC.comLiningThicknessUnits, wLiningThicknessUnits)),
+        Number(Lined, frmLCC.txtLiningThickness, wLiningThickness,
+               {20, "Enter cement mortar lining thickness !"}),
+        UnitOf(Lined, frmLCC.comLiningThicknessUnits, wLiningThicknessUnits),
         Number(Always, frmLCC.txtKsNew, wKsNew, {17, "Enter absolute roughness value of a new pipe !"}),
         Number(Always, frmLCC.txtKsOld, wKsOld, {18, "Enter absolute roughness value of an old pipe !"}),
         Number(Always, frmLCC.txtKsOldYears, wKsOldYears,
@@ -318,7 +304,7 @@ FieldList RateFields()
     return {
         Number(Always, frmLCC.txtDiscountRate, wDiscountRate, {29, "Enter the estimated discount rate !"}),
         Number(Always, frmLCC.txtEscalation, wEscalation, {28, "Enter the estimated escalation rate !"}),
-        Number(IsPumping, frmLCC.txtEnergyEscalation, wEnergyEscalation,
+        Number(Pumping, frmLCC.txtEnergyEscalation, wEnergyEscalation,
                {35, "Enter the estimated energy escalation rate !"}),
         BarOver(Always, frmLCC.hscMMechanical, frmLCC.lblMMechanical, wMMechanical, PercentCaption),
         BarOver(Always, frmLCC.hscMElectrical, frmLCC.lblMElectrical, wMElectrical, PercentCaption),

@@ -23,10 +23,15 @@ struct Request {
     void (*Instead)() = nullptr;   // done at this place instead of looking at a box: a grid is read
 };
 
+// Whether the load step fills an input, and whether a commit asks for it and takes it.
+struct Use {
+    bool (*IsShown)();
+    bool (*IsTaken)();
+};
+
 // An input, or several that are shown and taken together.
 struct InputField {
-    bool (*IsShown)() = nullptr;     // whether the load step fills it
-    bool (*IsTaken)() = nullptr;     // whether a commit asks for it and takes it
+    Use When;
     std::function<void()> Show = {}; // working set to screen
     std::function<void()> Take = {}; // screen to working set, once all boxes are known to be good
     Request Asked = {};
@@ -43,7 +48,8 @@ struct InputField {
 // In the order in which the load step fills the screen.
 extern const std::vector<InputField> InputFields;
 
-// Those that a commit asks for, in its order. The two orders are told apart, and differ on every page.
+// Those that a commit asks for, in the order in which it asks: that of the checks as users know them, which
+// differs from the fill on most pages.
 std::vector<const InputField*> RequestedFields();
 
 // The unit index of a selector. One without a choice, which stands for a unit that its list doesn't know,

@@ -57,7 +57,7 @@ void FillInputScreen()
     ShowCurrencySigns();
     FillCostHeadings();
     for (const InputField& Each : InputFields)
-        if (Each.IsShown()) Each.Show();
+        if (Each.When.IsShown()) Each.Show();
 }
 
 void ShowGravityDemandOption()
@@ -94,7 +94,8 @@ void FillUnusedBoxes()
 {
     for (const InputField& Each : InputFields) {
         const OptionButton* const Option = Each.Asked.Under;
-        if (!Each.Number || !Each.IsTaken() || !Option || Option->Value || HoldsNumber(*Each.Box)) continue;
+        if (!Each.Number || !Each.When.IsTaken() || !Option || Option->Value || HoldsNumber(*Each.Box))
+            continue;
         Each.Box->Text = GeneralText(std::isfinite(Each.Number->Float()) ? *Each.Number : Single(0.0));
     }
 }

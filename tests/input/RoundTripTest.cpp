@@ -3,11 +3,11 @@
 #include "base/NumberText.h"
 #include "input/CostTables.h"
 #include "input/FileCommands.h"
-#include "input/InputFields.h"
 #include "model/Components.h"
+#include "model/EveryEntry.h"
 #include "model/ProjectFile.h"
 
-#include <algorithm>
+#include <functional>
 #include <map>
 
 namespace velorix {
@@ -17,31 +17,85 @@ using RoundTripTest = ProjectTest;
 
 enum Kind { Gravity, Pumping, Both };
 
-struct StoredControl {
+// A value on the screen: how it is typed, how it shows, and the entry of the record that it belongs to.
+struct Place {
     Kind System;
-    Control& Shown;
-    std::string Field;
-    int Entry = 1;
+    std::string Entry; // "KsNew 1"
+    std::function<void(int)> Type;
+    std::function<std::string()> Shown;
 };
 
-// Rows of a grid's column, and the field's entries from First on.
-struct StoredCells {
-    Kind System;
-    Grid& Shown;
-    int Col;
-    int FirstRow;
-    int LastRow;
-    std::string Field;
-    int First = 1;
-};
+constexpr int Life = 7;
+constexpr int Nodes = 5;
 
-bool IsUsed(Kind System)
+// A value of its own into the control, and never the one of a new project.
+void Type(Control& Shown, int Number)
 {
-    return System == Both || (System == Pumping) == IsPumping();
+    constexpr std::array<Color, 3> Classes = {PeakColor, StandardColor, OffpeakColor};
+    if (auto* Box = dynamic_cast<TextBox*>(&Shown)) Box->Text = std::to_string(Number) + ".25";
+    if (auto* Selector = dynamic_cast<ComboBox*>(&Shown))
+        Selector->ListIndex = 1 + Number % (static_cast<int>(Selector->List.Get().size()) - 1);
+    if (auto* Bar = dynamic_cast<ScrollBar*>(&Shown))
+        Bar->Value = Bar->Min + Number % (Bar->Max - Bar->Min + 1);
+    if (auto* Option = dynamic_cast<OptionButton*>(&Shown)) Option->Value = true;
+    if (auto* Picker = dynamic_cast<DatePicker*>(&Shown)) Picker->Value = Date{2011, 11, 9};
+    if (auto* Hour = dynamic_cast<Label*>(&Shown))
+        Hour->BackColor = Classes.at(static_cast<std::size_t>(Number * Number % 7 % 3));
 }
 
+std::string ValueOf(const Control& Shown)
+{
+    if (const auto* Box = dynamic_cast<const TextBox*>(&Shown)) return Box->Text;
+    if (const auto* Selector = dynamic_cast<const ComboBox*>(&Shown))
+        return std::to_string(Selector->ListIndex);
+    if (const auto* Bar = dynamic_cast<const ScrollBar*>(&Shown)) return std::to_string(Bar->Value);
+    if (const auto* Option = dynamic_cast<const OptionButton*>(&Shown)) return Option->Value ? "1" : "0";
+    if (const auto* Picker = dynamic_cast<const DatePicker*>(&Shown)) return ShortDate(Picker->Value);
+    const Color Class = dynamic_cast<const Label&>(Shown).BackColor;
+    return Class == PeakColor ? "2" : Class == StandardColor ? "1" : Class == OffpeakColor ? "0" : "?";
+}
+
+std::string TextOf(Single Value)
+{
+    return GeneralText(Value);
+}
+
+std::string TextOf(std::int16_t Value)
+{
+    return std::to_string(Value);
+}
+
+class Places : public std::vector<Place> {
+public:
+    void Add(Kind System, Control& Shown, const std::string& Field, int Entry = 1)
+    {
+        push_back({System, Field + " " + std::to_string(Entry), [&](int Number) { Type(Shown, Number); },
+                   [&] { return ValueOf(Shown); }});
+    }
+
+    // A column of a grid, from FirstRow on, and the field's entries from First on.
+    void AddCells(Kind System, Grid& Table, int Col, int FirstRow, int Count, const std::string& Field,
+                  int First = 1)
+    {
+        for (int Row = FirstRow; Row < FirstRow + Count; ++Row)
+            push_back({System, Field + " " + std::to_string(First + Row - FirstRow),
+                       [&Table, Row, Col](int Number) {
+                           Table.SetText(Row, Col,
+                                         Col == 0 ? std::to_string(Row) : std::to_string(Number) + ".5");
+                       },
+                       [&Table, Row, Col] { return Table.Text(Row, Col); }});
+    }
+
+    void AddComponent(int Row)
+    {
+        push_back({Both, "NodeDesc " + std::to_string(Row),
+                   [Row](int) { frmLCC.msgProfile.SetText(Row, 7, ComponentTable[Row + 2]); },
+                   [Row] { return std::to_string(ComponentIndex(frmLCC.msgProfile.Text(Row, 7))); }});
+    }
+};
+
 // Of the two selectors over DemandUnits the one of the gravity frame counts.
-std::vector<StoredControl> StoredControls()
+Places AllPlaces()
 {
     LccScreen& S = frmLCC;
     using Pairs = std::vector<std::pair<Control*, std::string>>;
@@ -72,112 +126,53 @@ std::vector<StoredControl> StoredControls()
 #undef UNITS
 #undef BAR
     // clang-format on
-    std::vector<StoredControl> All;
-    for (const auto& [Shown, Field] : OfBoth) All.push_back({Both, *Shown, Field});
-    for (const auto& [Shown, Field] : OfGravity) All.push_back({Gravity, *Shown, Field});
-    for (const auto& [Shown, Field] : OfPumping) All.push_back({Pumping, *Shown, Field});
+    Places All;
+    for (const auto& [Shown, Field] : OfBoth) All.Add(Both, *Shown, Field);
+    for (const auto& [Shown, Field] : OfGravity) All.Add(Gravity, *Shown, Field);
+    for (const auto& [Shown, Field] : OfPumping) All.Add(Pumping, *Shown, Field);
     for (int Point = 0; Point < 6; ++Point) {
-        All.push_back({Pumping, S.txtH[Point], "PumpCurve", 3 * Point + 1});
-        All.push_back({Pumping, S.txtQ[Point], "PumpCurve", 3 * Point + 2});
-        All.push_back({Pumping, S.txtEfficiency[Point], "PumpCurve", 3 * Point + 3});
+        All.Add(Pumping, S.txtH[Point], "PumpCurve", 3 * Point + 1);
+        All.Add(Pumping, S.txtQ[Point], "PumpCurve", 3 * Point + 2);
+        All.Add(Pumping, S.txtEfficiency[Point], "PumpCurve", 3 * Point + 3);
     }
     for (int Hour = 0; Hour < 24; ++Hour) {
-        All.push_back({Pumping, S.lblSummerHour[Hour], "SummerHour", Hour + 1});
-        All.push_back({Pumping, S.lblWinterHour[Hour], "WinterHour", Hour + 1});
+        All.Add(Pumping, S.lblSummerHour[Hour], "SummerHour", Hour + 1);
+        All.Add(Pumping, S.lblWinterHour[Hour], "WinterHour", Hour + 1);
     }
+    All.AddCells(Gravity, S.msgDemand, 1, 1, Life, "Demand");
+    All.AddCells(Pumping, S.msgPumpDemand, 1, 1, Life, "Demand");
+    int Col = 0;
+    for (const char* Field :
+         {"NodeNr", "Elevation", "AccLength", "Diameter", "WallThickness", "PipeCost", "SecondaryLoss"})
+        All.AddCells(Both, S.msgProfile, Col++, 1, Nodes, Field);
+    for (int Row = 1; Row <= Nodes; ++Row) All.AddComponent(Row);
+    All.AddCells(Both, S.msgLaying, 1, 1, 8, "Laying");
+    All.AddCells(Both, S.msgLaying, 1, 11, 5, "Laying", 9);
+    All.AddCells(Both, S.msgOperational, 1, 1, 8, "StaffPackage");
+    All.AddCells(Both, S.msgOperational, 2, 1, 8, "StaffTime");
+    All.AddCells(Both, S.msgOtherOperational, 1, 1, 5, "Expenses");
     return All;
-}
-
-constexpr int Life = 7;
-constexpr int Nodes = 5;
-
-std::vector<StoredCells> StoredGrids()
-{
-    LccScreen& S = frmLCC;
-    return {{Gravity, S.msgDemand, 1, 1, Life, "Demand"},
-            {Pumping, S.msgPumpDemand, 1, 1, Life, "Demand"},
-            {Both, S.msgProfile, 0, 1, Nodes, "NodeNr"},
-            {Both, S.msgProfile, 1, 1, Nodes, "Elevation"},
-            {Both, S.msgProfile, 2, 1, Nodes, "AccLength"},
-            {Both, S.msgProfile, 3, 1, Nodes, "Diameter"},
-            {Both, S.msgProfile, 4, 1, Nodes, "WallThickness"},
-            {Both, S.msgProfile, 5, 1, Nodes, "PipeCost"},
-            {Both, S.msgProfile, 6, 1, Nodes, "SecondaryLoss"},
-            {Both, S.msgProfile, 7, 1, Nodes, "NodeDesc"},
-            {Both, S.msgLaying, 1, 1, 8, "Laying"},
-            {Both, S.msgLaying, 1, 11, 15, "Laying", 9},
-            {Both, S.msgOperational, 1, 1, 8, "StaffPackage"},
-            {Both, S.msgOperational, 2, 1, 8, "StaffTime"},
-            {Both, S.msgOtherOperational, 1, 1, 5, "Expenses"}};
-}
-
-// A value of its own into the control, and never the one of a new project.
-void Type(Control& Shown, int Number)
-{
-    constexpr std::array<Color, 3> Classes = {PeakColor, StandardColor, OffpeakColor};
-    if (auto* Box = dynamic_cast<TextBox*>(&Shown)) Box->Text = std::to_string(Number) + ".25";
-    if (auto* Selector = dynamic_cast<ComboBox*>(&Shown))
-        Selector->ListIndex = 1 + Number % (static_cast<int>(Selector->List.Get().size()) - 1);
-    if (auto* Bar = dynamic_cast<ScrollBar*>(&Shown))
-        Bar->Value = Bar->Min + Number % (Bar->Max - Bar->Min + 1);
-    if (auto* Option = dynamic_cast<OptionButton*>(&Shown)) Option->Value = true;
-    if (auto* Picker = dynamic_cast<DatePicker*>(&Shown)) Picker->Value = Date{2011, 11, 9};
-    if (auto* Hour = dynamic_cast<Label*>(&Shown))
-        Hour->BackColor = Classes.at(static_cast<std::size_t>(Number * Number % 7 % 3));
 }
 
 void TypeEverything()
 {
-    int Number = 0;
-    for (const StoredControl& Each : StoredControls()) Type(Each.Shown, ++Number);
-    frmLCC.hscLife.Value = wLife = Life;
+    wLife = Life;
     FillDemandGrid(frmLCC.msgDemand);
     FillDemandGrid(frmLCC.msgPumpDemand);
     frmLCC.msgProfile.SetRows(Nodes + 1);
-    for (const StoredCells& Each : StoredGrids())
-        for (int Row = Each.FirstRow; Row <= Each.LastRow; ++Row)
-            Each.Shown.SetText(Row, Each.Col,
-                               Each.Col == 0   ? std::to_string(Row)
-                               : Each.Col == 7 ? ComponentTable[Row + 2]
-                                               : std::to_string(++Number) + ".5");
+    int Number = 0;
+    for (const Place& Each : AllPlaces()) Each.Type(++Number);
+    frmLCC.hscLife.Value = Life;
 }
 
-std::string ValueOf(const Control& Shown)
-{
-    if (const auto* Box = dynamic_cast<const TextBox*>(&Shown)) return Box->Text;
-    if (const auto* Selector = dynamic_cast<const ComboBox*>(&Shown))
-        return std::to_string(Selector->ListIndex);
-    if (const auto* Bar = dynamic_cast<const ScrollBar*>(&Shown)) return std::to_string(Bar->Value);
-    if (const auto* Option = dynamic_cast<const OptionButton*>(&Shown)) return Option->Value ? "1" : "0";
-    if (const auto* Picker = dynamic_cast<const DatePicker*>(&Shown)) return ShortDate(Picker->Value);
-    const Color Class = dynamic_cast<const Label&>(Shown).BackColor;
-    return Class == PeakColor ? "2" : Class == StandardColor ? "1" : Class == OffpeakColor ? "0" : "?";
-}
-
-using Values = std::map<std::string, std::string>; // by field and entry
+using Values = std::map<std::string, std::string>; // by entry
 
 Values ShownValues()
 {
     Values Shown;
-    for (const StoredControl& Each : StoredControls())
-        if (IsUsed(Each.System)) Shown[Each.Field + " " + std::to_string(Each.Entry)] = ValueOf(Each.Shown);
-    for (const StoredCells& Each : StoredGrids())
-        for (int Row = Each.FirstRow; IsUsed(Each.System) && Row <= Each.LastRow; ++Row) {
-            const std::string& Cell = Each.Shown.Text(Row, Each.Col);
-            Shown[Each.Field + " " + std::to_string(Each.First + Row - Each.FirstRow)] =
-                Each.Col == 7 ? std::to_string(ComponentIndex(Cell)) : Cell;
-        }
+    for (const Place& Each : AllPlaces())
+        if (Each.System == Both || (Each.System == Pumping) == IsPumping()) Shown[Each.Entry] = Each.Shown();
     return Shown;
-}
-
-std::string TextFor(std::int16_t Value)
-{
-    return std::to_string(Value);
-}
-
-std::string TextFor(Single Value)
-{
-    return GeneralText(Value);
 }
 
 // What the file holds of those values.
@@ -185,18 +180,11 @@ Values StoredValues(const Values& Sought)
 {
     Values Stored;
     const ProjectFields Record = ReadProjectFile(FileName);
-    const auto Note = [&](const std::string& Name, const std::string& Value) {
-        if (Sought.count(Name)) Stored[Name] = Value;
-    };
-    ForEachField(Record, [&]<typename T>(const FieldRule& Rule, const T& Field) {
-        const std::string Name = std::string(Rule.Name) + " ";
-        if constexpr (requires { Field.Bytes; })
-            Note(Name + "1", TextOf(Field));
-        else if constexpr (requires { Field.LastIndex; })
-            for (int Entry = 1; Entry <= Field.LastIndex; ++Entry)
-                Note(Name + std::to_string(Entry), TextFor(Field[Entry]));
-        else
-            Note(Name + "1", TextFor(Field));
+    ForEachField(Record, [&](const FieldRule& Rule, const auto& Field) {
+        ForEachEntry(Field, [&](int Entry, const auto& Value) {
+            const std::string Name = Rule.Name + (" " + std::to_string(Entry));
+            if (Sought.count(Name)) Stored[Name] = TextOf(Value);
+        });
     });
     return Stored;
 }
@@ -215,8 +203,7 @@ TEST_F(RoundTripTest, EveryControlStoresItsFieldAndShowsItAgain)
 
         ResetProjectRecord();
         ResetWorkingSet();
-        ResetSession();
-        for (Screen* Each : std::initializer_list<Screen*>{&frmLCC, &MDIProject}) Each->Unload();
+        frmLCC.Unload();
         StartNew(1 - SystemType);
         OpenProjectFile(File);
         EXPECT_EQ(ShownValues(), Typed);

@@ -1,4 +1,5 @@
 // What the table of fields says of a new project and of the kinds of systems.
+#include "model/EveryEntry.h"
 #include "model/NewProject.h"
 #include "model/WorkingSet.h"
 
@@ -10,22 +11,16 @@
 namespace velorix {
 namespace {
 
-// One routine for the numbers of a field, whether it holds one or many: the entry counts from 1.
-template <typename T, typename Visitor>
-void ForEachNumber(T& Field, Visitor&& Visit)
-{
-    if constexpr (requires { Field.LastIndex; })
-        for (int Entry = 1; Entry <= Field.LastIndex; ++Entry) Visit(Entry, Field[Entry]);
-    else if constexpr (!requires { Field.Bytes; })
-        Visit(1, Field);
-}
-
 // Every number of the record, and every letter of its texts.
 void FillWith(ProjectFields& Record, std::int16_t Number)
 {
     ForEachField(Record, [&](const FieldRule&, auto& Field) {
-        if constexpr (requires { Field.Bytes; }) Field.Bytes.fill('k');
-        ForEachNumber(Field, [&](int, auto& Value) { Value = Number; });
+        ForEachEntry(Field, [&](int, auto& Value) {
+            if constexpr (requires { Value.Bytes; })
+                Value.Bytes.fill('k');
+            else
+                Value = Number;
+        });
     });
 }
 
@@ -73,13 +68,14 @@ TEST(FieldsTest, ANewProjectStartsWithItsDefaultsAndKeepsTheRest)
             wSystemType = 1;
             StartNewRecord({2005, 3, 3});
             ForEachField(ProjectRecord, [&](const FieldRule& Rule, const auto& Field) {
-                ForEachNumber(Field, [&](int Entry, const auto& Value) {
-                    EXPECT_EQ(Value, Single(DefaultOf(Rule.Name, Entry, US, Dollar, Before)))
-                        << Rule.Name << " " << Entry;
+                ForEachEntry(Field, [&](int Entry, const auto& Value) {
+                    if constexpr (requires { Value.Bytes; }) {
+                        EXPECT_EQ(TextOf(Value), Rule.Name == std::string("Date") ? "2005-03-03" : "");
+                    } else {
+                        EXPECT_EQ(Value, Single(DefaultOf(Rule.Name, Entry, US, Dollar, Before)))
+                            << Rule.Name << " " << Entry;
+                    }
                 });
-                if constexpr (requires { Field.Bytes; }) {
-                    EXPECT_EQ(TextOf(Field), Rule.Name == std::string("Date") ? "2005-03-03" : "");
-                }
             });
         }
     ResetWorkingSet();
@@ -122,18 +118,12 @@ TEST(FieldsTest, AGravitySystemLeavesThePumpingFieldsOnBothSides)
                 EXPECT_EQ(Same, Copied(Rule.Name, Loading)) << Rule.Name;
             });
         };
-        ResetWorkingSet();
         FillWith(ProjectRecord, 9);
         ProjectRecord.SystemType = SystemType;
         CopyRecordToWorkingSet();
         Expect(true);
 
-        ForEachWorkingField([&](const FieldRule&, const auto&, auto& Working) {
-            if constexpr (requires { Working.append("x"); })
-                Working = "working";
-            else
-                ForEachNumber(Working, [&](int, auto& Value) { Value = std::int16_t(5); });
-        });
+        ResetWorkingSet();
         wSystemType = SystemType;
         CopyWorkingSetToRecord();
         Expect(false);

@@ -209,33 +209,28 @@ TEST_F(InputEventsTest, AStoredValueThatIsNoNumberShowsUntilItsBoxGoesOutOfUse)
 // The user couldn't reach it to mend that, and the commit reads it all the same.
 TEST_F(InputEventsTest, ABoxThatGoesOutOfUseIsNotLeftEmpty)
 {
-    struct Case {
-        int SystemType;
-        OptionButton& InUse;
-        OptionButton& Other;
-        TextBox& Box;
-        Single& Stored;
-    };
-    const Case Cases[] = {
-        {0, frmLCC.optGSpecifiedFlowrate, frmLCC.optGCalculatedFlowrate, frmLCC.txtGFlowrate, wFlowrate},
-        {1, frmLCC.optPumpFixed, frmLCC.optPumpVarying, frmLCC.txtPFlowrate, wFlowrate},
-        {1, frmLCC.optPumpDetails, frmLCC.optFlowrate, frmLCC.txtH[0], wPumpCurve[1]},
-        {1, frmLCC.optPumpDetails, frmLCC.optFlowrate, frmLCC.txtQ[3], wPumpCurve[11]},
-        {1, frmLCC.optPumpDetails, frmLCC.optFlowrate, frmLCC.txtEfficiency[5], wPumpCurve[18]},
-        {1, frmLCC.optFlowrate, frmLCC.optPumpDetails, frmLCC.txtPumpOperatingFlowrate,
-         wPumpOperatingFlowrate},
-        {1, frmLCC.optFlowrate, frmLCC.optPumpDetails, frmLCC.txtPumpEfficiency, wPumpEfficiency}};
-    for (const Case& Each : Cases) {
-        Start(Each.SystemType);
+    LccScreen& S = frmLCC;
+    const std::vector<std::pair<OptionButton*, OptionButton*>> Choices = {
+        {&S.optGSpecifiedFlowrate, &S.optGCalculatedFlowrate}, // of a gravity system
+        {&S.optPumpFixed, &S.optPumpVarying},
+        {&S.optPumpDetails, &S.optFlowrate},
+        {&S.optFlowrate, &S.optPumpDetails}};
+    const std::vector<std::vector<TextBox*>> Boxes = {{&S.txtGFlowrate},
+                                                      {&S.txtPFlowrate},
+                                                      {&S.txtH[0], &S.txtQ[3], &S.txtEfficiency[5]},
+                                                      {&S.txtPumpOperatingFlowrate, &S.txtPumpEfficiency}};
+    for (std::size_t Choice = 0; Choice < Choices.size(); ++Choice) {
+        Start(Choice == 0 ? 0 : 1);
         frmLCC.txtProject.Text = frmLCC.txtDesigner.Text = "x";
-        Each.InUse.Value = true;
-        Each.Stored = 12.5;
-        Each.Box.Text = " ";
-        Each.Other.Value = true;
-        EXPECT_EQ(Each.Box.Text.Get(), "12.5") << Each.Box.ToolTip;
+        Choices[Choice].first->Value = true;
+        wFlowrate = wPumpOperatingFlowrate = wPumpEfficiency = 12.5;
+        wPumpCurve.Fill(12.5);
+        for (TextBox* Each : Boxes[Choice]) Each->Text = " ";
+        Choices[Choice].second->Value = true;
+        for (const TextBox* Each : Boxes[Choice]) EXPECT_EQ(Each->Text.Get(), "12.5") << Each->ToolTip;
         SaveAs = 1;
         CommitProject();
-        EXPECT_EQ(Committing, 0) << Each.Box.ToolTip;
+        EXPECT_EQ(Committing, 0);
     }
 }
 
