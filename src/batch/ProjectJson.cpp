@@ -8,7 +8,6 @@
 #include "input/Session.h"
 #include "model/WorkingSet.h"
 
-#include <algorithm>
 #include <array>
 #include <functional>
 #include <limits>
