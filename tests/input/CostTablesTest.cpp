@@ -1,4 +1,4 @@
-// The small tables of the input screen, and the lists of its unit selectors.
+// The small tables of the input screen, and the headings of all its tables.
 #include "input/CostTables.h"
 #include "ProjectTest.h"
 
@@ -25,38 +25,55 @@ TEST_F(CostTablesTest, DemandIsReadForTheLifeAndClearedBeyond)
     EXPECT_EQ(wDemand[4], 0.0);
 }
 
-TEST_F(CostTablesTest, EntriesStandInTheirRowsUnderCurrencyAndUnits)
+TEST_F(CostTablesTest, WhatATableHasNotIsZero)
 {
-    for (int Entry = 1; Entry <= 14; ++Entry) wLaying[Entry] = Entry + 0.5;
-    FillLayingGrid();
-    EXPECT_EQ(frmLCC.msgLaying.Text(8, 1), "8.5");
-    EXPECT_EQ(frmLCC.msgLaying.Text(11, 1), "9.5"); // the conditions, below a heading
-    EXPECT_EQ(frmLCC.msgLaying.Text(15, 1), "13.5");
-    ReadLayingGrid();
-    EXPECT_EQ(wLaying[14], 0.0);
-    EXPECT_EQ(frmLCC.msgOperational.Text(8, 1), "130000");
+    wLaying[14] = wExpenses[5] = 3.0;
     frmLCC.msgOtherOperational.SetText(5, 1, "");
-    wExpenses[5] = 3.0;
+    ReadLayingGrid();
     ReadExpensesGrid();
+    EXPECT_EQ(wLaying[14], 0.0);
     EXPECT_EQ(wExpenses[5], 0.0);
-
-    wCurrency = wUnits = 1;
-    FillCostHeadings();
-    EXPECT_EQ(frmLCC.msgLaying.Text(0, 1), "Cost ($/ft³)");
-    EXPECT_EQ(frmLCC.msgLaying.Text(14, 0), "Required cover (ft)");
-    EXPECT_EQ(frmLCC.msgOperational.Text(0, 1), "Annual package ($)");
 }
 
-// The place of an entry is what files hold.
-TEST_F(CostTablesTest, UnitsHaveTheirPlaces)
+// Of each table the first row, and of those with names down their side the first column.
+TEST_F(CostTablesTest, TablesHaveTheirHeadings)
 {
-    EXPECT_EQ(FlowUnitList[3], "l/s");
-    EXPECT_EQ(FlowUnitList[4], "ft³/s");
-    EXPECT_EQ(FlowUnitList[9], "gal/s (EUR)");
-    EXPECT_EQ(TariffUnitList[1], "/Ml");
-    std::vector<std::string> Operating = FlowUnitList; // but for the units by the day
-    for (const int Daily : {12, 8, 0}) Operating.erase(Operating.begin() + Daily);
-    EXPECT_EQ(OperatingFlowUnitList, Operating);
+    const auto Across = [](const Grid& Table) {
+        std::string Texts;
+        for (int Col = 0; Col < Table.Cols(); ++Col) Texts += Table.Text(0, Col) + "|";
+        return Texts;
+    };
+    const auto Down = [](const Grid& Table) {
+        std::string Texts;
+        for (int Row = 1; Row < Table.Rows(); ++Row) Texts += Table.Text(Row, 0) + "|";
+        return Texts;
+    };
+    wSystemType = 1;
+    NewProjectDefaults(); // after the gravity system's
+    for (const std::string Length : {"m", "ft"}) {
+        wCurrency = wUnits = Length == "ft" ? 1 : 0;
+        FillCostHeadings();
+        const std::string Sign = Length == "ft" ? "$" : "R";
+        EXPECT_EQ(Across(frmLCC.msgProfile),
+                  "Node nr|Elevation|Accumulated length|Pipe diameter|Wall thickness|"
+                  "Pipe cost/metre|Secondary loss |Description|");
+        EXPECT_EQ(Across(frmLCC.msgDemand), "Year|Demand|");
+        EXPECT_EQ(Across(frmLCC.msgPumpDemand), "Year|Demand|");
+        EXPECT_EQ(Across(frmLCC.msgLaying), "Description|Cost (" + Sign + "/" + Length + "³)|");
+        EXPECT_EQ(frmLCC.msgLaying.Text(10, 1), "Percentage expected");
+        EXPECT_EQ(Down(frmLCC.msgLaying),
+                  "Laying (including joining)|Excavation|Rock excavation|Bedding import|Bedding trench|"
+                  "Blanket import|Blanket trench|Backfilling|Anticipated laying conditions|Description|Rock|"
+                  "Bedding import|Blanket import|Required cover (" +
+                      Length + ")|Excavation lower than pipe invert (" + Length + ")|");
+        EXPECT_EQ(Across(frmLCC.msgOperational),
+                  "Staff|Annual package (" + Sign + ")|Percentage of time (%)|");
+        EXPECT_EQ(Down(frmLCC.msgOperational),
+                  "Manager|Engineer|Technologist|Technician|Foreman|Labourers|Administration|Financial|");
+        EXPECT_EQ(Across(frmLCC.msgOtherOperational),
+                  "Description of expenses|Annual amount (" + Sign + ")|");
+        EXPECT_EQ(Down(frmLCC.msgOtherOperational), "Transport|Fuel|Electricity|Training|Housing|");
+    }
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "InputTest.h"
 #include "base/Text.h"
 #include "input/ProfileTable.h"
+#include "model/Components.h"
 
 #include <gmock/gmock.h>
 
