@@ -4,6 +4,7 @@
 #include "desktop/Binding.h"
 #include "desktop/Views.h"
 
+#include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QSlider>
 #include <QSpinBox>
@@ -32,6 +33,13 @@ public:
     }
 
 protected:
+    // As by the Tab key, when the program or a page gives the focus.
+    void focusInEvent(QFocusEvent* Focus) override
+    {
+        QSpinBox::focusInEvent(Focus);
+        if (Focus->reason() == Qt::OtherFocusReason) selectAll();
+    }
+
     QString textFromValue(int Value) const override
     {
         return QString::number(Value / Scale(), 'f', Decimals);

@@ -11,6 +11,8 @@
 #include <QPlainTextEdit>
 #include <QTextBlock>
 
+#include <type_traits>
+
 namespace velorix {
 namespace {
 
@@ -96,13 +98,21 @@ protected:
             Typed->accept();
     }
 
+    // Typing replaces what stands in a line, but goes on with the text of a cell: its editor is no stop of
+    // the Tab key. For that key the toolkit itself selects.
     void focusInEvent(QFocusEvent* Focus) override
     {
         Widget::focusInEvent(Focus);
-        if (Focus->reason() == Qt::OtherFocusReason) ShowCaret(); // the program has put it here
+        if (Focus->reason() != Qt::OtherFocusReason) return;
+        if (IsLine && this->focusPolicy() & Qt::TabFocus)
+            this->selectAll();
+        else
+            ShowCaret(); // the program has put it here
     }
 
 private:
+    static constexpr bool IsLine = std::is_base_of_v<QLineEdit, Widget>;
+
     bool Allows(int Special, const std::vector<int>& Typed)
     {
         const QString Before = TextOf(*this);

@@ -130,8 +130,8 @@ void SaveTo(const std::filesystem::path& Path)
         WriteProjectFile(FileName, ProjectRecord, ShortFile::TakesRecordOne);
         ShowProgress(100);
 
+        // The load step shows the screen, once its frames stand: those that it hides would lose the focus.
         frmLCC.lblFileName.Caption = Trim(FileName);
-        frmLCC.Visible = true;
         ShowDoing("Opening project");
         LoadProject();
     } catch (const FileFailure& Problem) {

@@ -65,6 +65,12 @@ protected:
         Type(Text);
     }
 
+    static void Start(int SystemType)
+    {
+        wSystemType = static_cast<std::int16_t>(SystemType);
+        NewProjectDefaults();
+    }
+
     void StartPumpingProject()
     {
         Press(Qt::Key_N, Qt::ControlModifier);
@@ -178,6 +184,54 @@ TEST_F(SessionTest, TheFocusStaysAtHandWhenAScreenOrAPageGoes)
     Press(Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_EQ(frmLCC.sstInput.Tab, 3);
     EXPECT_EQ(MDIProject.StatusText.Caption.Get(), frmLCC.txtDiscountRate.ToolTip);
+}
+
+// A box inside a frame that the load hides, in either kind of system, and one that isn't.
+TEST_F(SessionTest, ASaveUnderAnotherNameLeavesTheFocusWhereItWas)
+{
+    for (int SystemType : {0, 1}) {
+        Start(SystemType);
+        Fill(frmLCC.txtProject, "Ridge main");
+        Fill(frmLCC.txtDesigner, "M. Naidoo");
+        for (TextBox* Each : {&frmLCC.txtDesigner, SystemType == 0 ? &frmLCC.txtTRWL : &frmLCC.txtPPRWL}) {
+            FocusTarget(*Each)->setFocus();
+            Press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+            EXPECT_TRUE(FocusTarget(*Each)->hasFocus()) << Each->ToolTip;
+            EXPECT_EQ(MDIProject.StatusText.Caption.Get(), Each->ToolTip);
+        }
+    }
+}
+
+// By Tab, by a change of the page and back, and by a save that finds no number in the box.
+TEST_F(SessionTest, WhatIsTypedIntoALineThatGetsTheFocusReplacesItsText)
+{
+    frmLCC.txtProject.Text = frmLCC.txtDesigner.Text = "x";
+    const std::pair<TextBox*, std::function<void()>> Ways[] = {
+        {&frmLCC.txtDesigner, [this] { Press(Qt::Key_Tab); }},
+        {&frmLCC.txtBRWL,
+         [this] {
+             FocusTarget(frmLCC.txtBRWL)->setFocus(Qt::MouseFocusReason);
+             Press(Qt::Key_Tab, Qt::ControlModifier);
+             Press(Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
+         }},
+        {&frmLCC.txtTRWL, [this] { Press(Qt::Key_S, Qt::ControlModifier); }}};
+    for (const auto& [Box, Go] : Ways) {
+        FocusTarget(frmLCC.txtProject)->setFocus();
+        Box->Text = Box == &frmLCC.txtTRWL ? "10 m" : "10";
+        Go();
+        Type("12");
+        EXPECT_EQ(Box->Text.Get(), "12") << Box->ToolTip;
+    }
+    frmLCC.txtDescription.Text = "10";
+    frmLCC.hscLife.Value = 10;
+    for (const auto& [Field, Then] :
+         {std::pair<Control*, QString>(&frmLCC.txtDescription, "12"), {&frmLCC.hscLife, "12"}}) {
+        Saving.SetFocus(*Field);
+        Type(Then);
+    }
+    Press(Qt::Key_Return);
+    EXPECT_EQ(frmLCC.txtDescription.Text.Get(), "1210"); // a box of several lines selects nothing
+    EXPECT_EQ(frmLCC.hscLife.Value, 12);
 }
 
 // No minus sign passes the filters, nor does one with Alt.
