@@ -6,6 +6,7 @@
 
 #include <QFocusEvent>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QSlider>
 #include <QSpinBox>
 
@@ -21,6 +22,8 @@ public:
         : Record(Shown)
         , Decimals(ShownDecimals)
     {
+        connect(lineEdit(), &QLineEdit::inputRejected, this,
+                [this] { Guarded([this] { Record.Refused(); }); });
     }
 
     // The page keys come as ten steps.

@@ -60,6 +60,7 @@ struct TextBox : Control {
     Handler Change;
     KeyHandler KeyPress;
     KeyHandler KeyDown;
+    Event<const std::string&> Inserted; // what came into a line untyped, as by a paste; raised after Change
 
     void NoteDesign() override;
     void BackToDesign() override;
@@ -128,6 +129,7 @@ struct ScrollBar : Control {
     int SmallChange = 1;
     int LargeChange = 1;
     Handler Change;
+    Handler Refused; // what was typed or pasted is no number between Min and Max
 
     void NoteDesign() override;
     void BackToDesign() override;

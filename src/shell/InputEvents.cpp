@@ -84,9 +84,9 @@ void ConnectNumberKeys()
                           &frmLCC.txtSupervision,
                           &frmLCC.txtWaterSales,
                           &frmLCC.txtWaterIncrease})
-        Each->KeyPress = KeepNumberKey;
+        FilterKeys(*Each, NumberKeys);
     for (auto* Column : {&frmLCC.txtH, &frmLCC.txtQ, &frmLCC.txtEfficiency})
-        for (TextBox& Each : *Column) Each.KeyPress = KeepNumberKey;
+        for (TextBox& Each : *Column) FilterKeys(Each, NumberKeys);
 }
 
 std::string PlainCaption(int Value)
@@ -98,6 +98,7 @@ std::string PlainCaption(int Value)
 void ConnectBar(ScrollBar& Bar, Label& Reading, std::int16_t& Stored, std::string (*Caption)(int),
                 void (*Then)() = nullptr)
 {
+    TellBounds(Bar, Caption);
     Bar.Change = [&Bar, &Reading, &Stored, Caption, Then] {
         MarkChanged();
         Reading.Caption = Caption(Bar.Value);

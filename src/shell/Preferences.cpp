@@ -8,6 +8,7 @@
 #include "project/WorkingSet.h"
 #include "screens/Dialogs.h"
 #include "shell/Help.h"
+#include "shell/KeyFilters.h"
 
 #include <cmath>
 
@@ -41,8 +42,10 @@ void ConnectPreferences()
 {
     frmPref.Load = PreferencesLoad;
     frmPref.Close = PreferencesCancelled;
-    frmPref.hsbPG.Change = ShowAllowances;
-    frmPref.hsbContingencies.Change = ShowAllowances;
+    for (ScrollBar* Each : {&frmPref.hsbPG, &frmPref.hsbContingencies}) {
+        Each->Change = ShowAllowances;
+        TellBounds(*Each, PercentCaption);
+    }
     frmPref.sscOK.Click = PreferencesAccepted;
     frmPref.sscCancel.Click = PreferencesCancelled;
     HelpOn(frmPref.sscHelp, 4000);

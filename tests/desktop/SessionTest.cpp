@@ -234,6 +234,40 @@ TEST_F(SessionTest, WhatIsTypedIntoALineThatGetsTheFocusReplacesItsText)
     EXPECT_EQ(frmLCC.hscLife.Value, 12);
 }
 
+// What a box or a cell doesn't take, typed key by key or pasted; the hint comes back with the next focus.
+TEST_F(SessionTest, WhatCannotBeTypedIsTold)
+{
+    const std::string NumbersOnly = "Only digits and a decimal point can be typed here";
+    const auto Told = [] { return MDIProject.StatusText.Caption.Get(); };
+    frmLCC.sstInput.Tab = 1;
+    Fill(frmLCC.txtKsNew, "-12,75");
+    EXPECT_EQ(frmLCC.txtKsNew.Text.Get(), "1275");
+    EXPECT_EQ(Told(), NumbersOnly);
+    FocusTarget(frmLCC.txtKsOld)->setFocus();
+    EXPECT_EQ(Told(), frmLCC.txtKsOld.ToolTip);
+    Press(Qt::Key_A, Qt::ControlModifier);
+    for (const auto& [Text, Sentence] :
+         {std::pair("12.5 ", frmLCC.txtKsOld.ToolTip), {"12,5", NumbersOnly}}) {
+        QApplication::clipboard()->setText(Text);
+        Press(Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(Told(), Sentence);
+    }
+    EXPECT_EQ(frmLCC.txtKsOld.Text.Get(), "12.5 12,5"); // a paste isn't filtered
+
+    FocusTarget(frmLCC.msgProfile)->setFocus();
+    Type("-");
+    EXPECT_EQ(Told(), NumbersOnly);
+    Type("5");
+    EXPECT_EQ(Told(), frmLCC.txtCell.ToolTip);
+    Press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Told(), NumbersOnly);
+
+    frmLCC.sstInput.Tab = 3;
+    Saving.SetFocus(frmLCC.hscMPipeline);
+    Type("1,5");
+    EXPECT_EQ(Told(), "Only a number from 0.00% to 20.00% can be typed here");
+}
+
 // No minus sign passes the filters, nor does one with Alt.
 TEST_F(SessionTest, ACellKeepsWhatItsEditorShows)
 {

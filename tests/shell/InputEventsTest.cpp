@@ -59,8 +59,11 @@ TEST_F(InputEventsTest, NumberBoxesTakeDigitsAndThePoint)
     for (TextBox* Each :
          {&frmLCC.txtKsNew, &frmLCC.txtSupervision, &frmLCC.txtH[0], &frmLCC.txtEfficiency[5]})
         EXPECT_EQ(Taken(*Each, Typed), "12.\x08\x0d") << Each->ToolTip;
+    MDIProject.StatusText.Caption = "";
+    EXPECT_EQ(Taken(frmLCC.txtKsNew, "12.5\x1b"), "12.5"); // Escape is dropped, and no character
     EXPECT_EQ(Taken(frmLCC.txtGFlowrate, Typed), Typed);
     EXPECT_EQ(Taken(frmLCC.txtProject, Typed), Typed);
+    EXPECT_EQ(MDIProject.StatusText.Caption.Get(), "");
 }
 
 TEST_F(InputEventsTest, BarsShowAndStoreTheirValue)
