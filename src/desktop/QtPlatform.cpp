@@ -229,6 +229,12 @@ void QtPlatform::SetFocus(Control& Target)
     if (!View->hasFocus()) TellFocus(Target); // nor while another window is in front
 }
 
+bool QtPlatform::IsInReach(const Control& Target)
+{
+    QWidget* const View = FocusTarget(Target);
+    return View && NearestInReach(View) == View;
+}
+
 void QtPlatform::SetPointer(PointerShape Shape)
 {
     if (Pointer == PointerShape::Hourglass && Shape == PointerShape::Default) DropInput();

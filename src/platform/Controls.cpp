@@ -230,6 +230,7 @@ TabControl::TabControl(std::vector<std::string> Captions)
     : TabCaptions(std::move(Captions))
     , TabVisible(std::vector<bool>(TabCaptions.size(), true))
 {
+    Tab.Changed = [this] { Change(); };
 }
 
 void TabControl::NoteDesign()

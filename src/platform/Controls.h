@@ -147,6 +147,7 @@ struct TabControl : Control {
     const std::vector<std::string> TabCaptions;
     Property<int> Tab{0}; // the page on top
     Property<std::vector<bool>> TabVisible;
+    Handler Change; // raised when another page has come to the top
 
     void NoteDesign() override;
     void BackToDesign() override;

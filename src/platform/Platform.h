@@ -63,6 +63,10 @@ public:
     virtual std::optional<PrintChoice> AskPrinter(const PrintDialog& Dialog) = 0;
 
     virtual void SetFocus(Control& Target) = 0;
+
+    // Whether SetFocus leads to the control itself: it shows, on the page on top, and is enabled.
+    virtual bool IsInReach(const Control& Target) = 0;
+
     virtual void SetPointer(PointerShape Shape) = 0;
 
     // Paints what has changed, for progress that shows while a calculation keeps the event loop waiting.

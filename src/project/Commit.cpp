@@ -14,6 +14,7 @@ namespace velorix {
 void CommitProject()
 {
     Committing = 1;
+    PointedOut = nullptr;
     ReadOptions();
     if (!InputIsComplete()) return;
     ReadStaffGrid();

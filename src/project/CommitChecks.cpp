@@ -5,8 +5,11 @@
 #include "platform/Platform.h"
 #include "project/CostTables.h"
 #include "project/ProfileTable.h"
+#include "project/Session.h"
 #include "project/WorkingSet.h"
 #include "screens/Lcc.h"
+
+#include <utility>
 
 namespace velorix {
 namespace {
@@ -85,6 +88,15 @@ bool IsEmpty(const TextBox& Box)
 void FillDescription()
 {
     if (IsEmpty(frmLCC.txtDescription)) frmLCC.txtDescription.Text = " ";
+}
+
+// The button that opens the pane of a box; nullptr for a box that stands on its page.
+CommandButton* ButtonTo(const TextBox& Box)
+{
+    for (auto* Column : {&frmLCC.txtH, &frmLCC.txtQ, &frmLCC.txtEfficiency})
+        for (const TextBox& Each : *Column)
+            if (&Each == &Box) return &frmLCC.sscPumpcurve;
+    return nullptr;
 }
 
 using Checks = std::vector<Check>;
@@ -182,6 +194,18 @@ void PointOut(TextBox& Box, const std::string& Problem)
     Warn(Problem, "Error !");
     frmLCC.Visible = true;
     System().SetFocus(Box);
+    PointedOut = &Box;
+    GoToPointedOut();
+}
+
+void GoToPointedOut()
+{
+    if (!PointedOut) return;
+    CommandButton* const Button = ButtonTo(*PointedOut);
+    if (System().IsInReach(*PointedOut))
+        System().SetFocus(*std::exchange(PointedOut, nullptr));
+    else if (Button && System().IsInReach(*Button))
+        System().SetFocus(*Button);
 }
 
 } // namespace velorix

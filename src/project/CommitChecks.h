@@ -12,7 +12,12 @@ namespace velorix {
 // Only emptiness counts: a 0 passes, and so does a text that is no number.
 bool InputIsComplete();
 
-// Tells the user what is wrong with the box and goes there. The page on top stays.
+// Tells the user what is wrong with the box and goes there. The page on top stays: a box of another page or
+// pane waits for GoToPointedOut.
 void PointOut(TextBox& Box, const std::string& Problem);
+
+// To be called when another page or pane has come up: the box that was pointed out last gets the focus if it
+// shows there, or else the button that leads to it.
+void GoToPointedOut();
 
 } // namespace velorix

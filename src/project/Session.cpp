@@ -21,6 +21,7 @@ std::int16_t Committing = 0;
 std::int16_t ViewState = 1;
 std::string FileName;
 bool RedrawProfileView = false;
+TextBox* PointedOut = nullptr;
 Handler ProjectLoaded;
 
 bool HasFile()
@@ -37,6 +38,7 @@ void ShowTitle()
 
 void LoadProject()
 {
+    PointedOut = nullptr;
     ShowProgress(0);
     if (NewProject == 0) {
         try {
@@ -84,6 +86,7 @@ void ResetSession()
     ViewState = 1;
     FileName.clear();
     RedrawProfileView = false;
+    PointedOut = nullptr;
 }
 
 } // namespace velorix

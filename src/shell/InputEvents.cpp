@@ -1,6 +1,7 @@
 // What the controls of the input screen do.
 #include "shell/InputEvents.h"
 
+#include "project/CommitChecks.h"
 #include "project/CommitFields.h"
 #include "project/CostTables.h"
 #include "project/FileCommands.h"
@@ -169,17 +170,25 @@ void ConnectHours()
             };
 }
 
+// A pane stands in for the content of its page.
+void ShowPane(Frame& Pane, bool Shown)
+{
+    Pane.Visible = Shown;
+    GoToPointedOut();
+}
+
 void CloseLaying()
 {
     frmLCC.txtLaying.Visible = false;
-    frmLCC.fraLaying.Visible = false;
+    ShowPane(frmLCC.fraLaying, false);
 }
 
-void ConnectFrames()
+void ConnectPages()
 {
-    frmLCC.sscPumpcurve.Click = [] { frmLCC.fraPumpDetails.Visible = true; };
-    frmLCC.sscOK.Click = [] { frmLCC.fraPumpDetails.Visible = false; };
-    frmLCC.sscLaying.Click = [] { frmLCC.fraLaying.Visible = true; };
+    frmLCC.sstInput.Change = GoToPointedOut;
+    frmLCC.sscPumpcurve.Click = [] { ShowPane(frmLCC.fraPumpDetails, true); };
+    frmLCC.sscOK.Click = [] { ShowPane(frmLCC.fraPumpDetails, false); };
+    frmLCC.sscLaying.Click = [] { ShowPane(frmLCC.fraLaying, true); };
     frmLCC.sscHideLaying.Click = [] {
         const auto Before = wLaying;
         ReadLayingGrid();
@@ -230,7 +239,7 @@ void ConnectInputScreen()
     ConnectBars();
     ConnectOptions();
     ConnectHours();
-    ConnectFrames();
+    ConnectPages();
     ConnectViews();
     ConnectRows();
     ConnectHelp();

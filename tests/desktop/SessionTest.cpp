@@ -268,6 +268,63 @@ TEST_F(SessionTest, WhatCannotBeTypedIsTold)
     EXPECT_EQ(Told(), "Only a number from 0.00% to 20.00% can be typed here");
 }
 
+// The page stays. The box waits until the page, or the pane over it, is the right one.
+TEST_F(SessionTest, ABoxThatFailsItsCheckGetsTheFocusOnceItShows)
+{
+    struct Case {
+        TextBox& Box;
+        int Page;
+        Frame* Over; // a pane that stands over the box
+    };
+    const Case Cases[] = {{frmLCC.txtPPRWL, 0, nullptr},
+                          {frmLCC.txtKsNew, 1, nullptr},
+                          {frmLCC.txtWPeak, 2, nullptr},
+                          {frmLCC.txtEnergyEscalation, 3, nullptr},
+                          {frmLCC.txtDesigner, 0, &frmLCC.fraPumpDetails},
+                          {frmLCC.txtKsOld, 1, &frmLCC.fraLaying}};
+    for (const Case& Each : Cases) {
+        SCOPED_TRACE(Each.Box.ToolTip);
+        Start(1);
+        frmLCC.txtProject.Text = frmLCC.txtDesigner.Text = "x";
+        frmLCC.optPumpDetails.Value = true;
+        if (Each.Over) Each.Over->Visible = true;
+        Each.Box.Text = "";
+        const int Elsewhere = Each.Page == 1 ? 0 : 1;
+        frmLCC.sstInput.Tab = Elsewhere;
+        Press(Qt::Key_S, Qt::ControlModifier);
+        EXPECT_EQ(Saving.Messages.back().Title, "Error !");
+        EXPECT_EQ(frmLCC.sstInput.Tab, Elsewhere);
+        for (int Page = 0; Page < 4; ++Page) {
+            Press(Qt::Key_Tab, Qt::ControlModifier);
+            const bool Shows = frmLCC.sstInput.Tab == Each.Page && !Each.Over;
+            EXPECT_EQ(FocusTarget(Each.Box)->hasFocus(), Shows) << frmLCC.sstInput.Tab;
+        }
+        if (!Each.Over) continue;
+        frmLCC.sstInput.Tab = Each.Page;
+        (Each.Page == 0 ? frmLCC.sscOK : frmLCC.sscCancelLaying).Click();
+        EXPECT_TRUE(FocusTarget(Each.Box)->hasFocus());
+    }
+}
+
+TEST_F(SessionTest, APumpPointThatFailsItsCheckIsReachedByItsButton)
+{
+    Start(1);
+    frmLCC.txtProject.Text = frmLCC.txtDesigner.Text = "x";
+    frmLCC.optPumpDetails.Value = true;
+    frmLCC.txtQ[4].Text = "";
+    for (int Page : {0, 3}) {
+        frmLCC.sstInput.Tab = Page;
+        Press(Qt::Key_S, Qt::ControlModifier);
+        frmLCC.sstInput.Tab = 0;
+        EXPECT_TRUE(FocusTarget(frmLCC.sscPumpcurve)->hasFocus());
+    }
+    Press(Qt::Key_Space);
+    EXPECT_TRUE(FocusTarget(frmLCC.txtQ[4])->hasFocus());
+    frmLCC.sscOK.Click();
+    frmLCC.sscPumpcurve.Click(); // no longer waited for
+    EXPECT_FALSE(FocusTarget(frmLCC.txtQ[4])->hasFocus());
+}
+
 // No minus sign passes the filters, nor does one with Alt.
 TEST_F(SessionTest, ACellKeepsWhatItsEditorShows)
 {
