@@ -292,6 +292,7 @@ void DeleteProject()
         return;
     }
     ProjectOpen = 0;
+    TellWayOn();
     Saved = 0;
     frmLCC.Visible = false;
     if (Analysed == 1) frmResults.Visible = false;

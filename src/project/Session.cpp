@@ -5,6 +5,7 @@
 #include "project/InputScreen.h"
 #include "project/Progress.h"
 #include "project/ProjectFile.h"
+#include "project/ViewState.h"
 #include "project/WorkingSet.h"
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
@@ -65,6 +66,7 @@ void LoadProject()
     if (Analysed == 1) frmResults.Unload();
     Analysed = 0;
     ProjectOpen = 1;
+    TellWayOn();
     Saved = 1;
     SaveAs = 0;
     RedrawProfileView = true;

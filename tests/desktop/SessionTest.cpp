@@ -14,18 +14,27 @@ namespace velorix {
 namespace {
 
 // Answers the save dialog with a path, the dialog of a new project with its keys for a pumping system, and
-// every question with No.
+// every question with No unless told otherwise. Cancels the dialog that opens a file.
 class SavingPlatform : public NotingPlatform {
 public:
     std::filesystem::path Target;
+    Answer Reply = Answer::No;
 
+    std::optional<std::filesystem::path> AskFileToOpen(const FileDialog&) override { return {}; }
     std::optional<std::filesystem::path> AskFileToSave(const FileDialog&) override { return Target; }
+
+    Answer Show(const Message& Box) override
+    {
+        NotingPlatform::Show(Box);
+        return Reply;
+    }
 
     void ShowModal(Screen& Shown) override
     {
         QTimer::singleShot(0, [&Shown] {
             QWidget* const Dialog = QApplication::activeModalWidget();
             if (!QTest::qWaitForWindowActive(Dialog)) return Shown.CloseByFrame();
+            EXPECT_FALSE(FocusTarget(MDIProject.lblWayOn)->isVisible()); // no menu can be reached
             QTest::keyClick(FocusTarget(frmLCCType.optPumping), Qt::Key_Space);
             QTest::keyClick(Dialog, Qt::Key_Return);
         });
@@ -232,6 +241,26 @@ TEST_F(SessionTest, WhatIsTypedIntoALineThatGetsTheFocusReplacesItsText)
     Press(Qt::Key_Return);
     EXPECT_EQ(frmLCC.txtDescription.Text.Get(), "1210"); // a box of several lines selects nothing
     EXPECT_EQ(frmLCC.hscLife.Value, 12);
+}
+
+TEST_F(SessionTest, TheEmptyWorkspaceTellsHowToGoOn)
+{
+    const QWidget* const Line = FocusTarget(MDIProject.lblWayOn);
+    EXPECT_FALSE(Line->isVisible());
+    Press(Qt::Key_O, Qt::ControlModifier); // cancelled
+    EXPECT_TRUE(Line->isVisible());
+    EXPECT_EQ(MDIProject.lblWayOn.Caption.Get(), "File, View, Input Data shows the project again");
+    Press(Qt::Key_F6);
+    EXPECT_TRUE(frmLCC.Visible);
+
+    Fill(frmLCC.txtProject, "Ridge main");
+    Fill(frmLCC.txtDesigner, "M. Naidoo");
+    Press(Qt::Key_S, Qt::ControlModifier);
+    Saving.Reply = Answer::Yes;
+    MDIProject.mnuDelete.Click();
+    EXPECT_TRUE(Line->isVisible());
+    EXPECT_THAT(MDIProject.lblWayOn.Caption.Get(),
+                testing::AllOf(testing::HasSubstr("New"), testing::HasSubstr("Open")));
 }
 
 // What a box or a cell doesn't take, typed key by key or pasted; the hint comes back with the next focus.
