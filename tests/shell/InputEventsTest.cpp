@@ -291,6 +291,7 @@ TEST_F(InputEventsTest, DeleteShowsTheRowAndAsks)
     const auto DeleteWith = [this](CommandButton& Button) {
         Windows.Answers = {Answer::Yes};
         Windows.ModalScripts["frmDeleteRow"] = [&Button] {
+            EXPECT_EQ(frmDeleteRow.lblNode.Caption.Get(), "2");
             EXPECT_EQ(frmDeleteRow.lblDelete[0].Caption.Get(), "62");
             EXPECT_EQ(frmDeleteRow.lblDelete[6].Caption.Get(), "Node"); // without its padding
             Button.Click();
