@@ -5,8 +5,11 @@
 #include "project/ProjectFile.h"
 #include "screens/Dialogs.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QMenu>
+#include <QMenuBar>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -352,6 +355,25 @@ TEST_F(SessionTest, APumpPointThatFailsItsCheckIsReachedByItsButton)
     frmLCC.sscOK.Click();
     frmLCC.sscPumpcurve.Click(); // no longer waited for
     EXPECT_FALSE(FocusTarget(frmLCC.txtQ[4])->hasFocus());
+}
+
+// The results begin with the focus on their tabs, which have no hint of their own.
+TEST_F(SessionTest, TheHintOfAMenuGoesWithIt)
+{
+    frmResults.LoadHidden();
+    frmLCC.Visible = false;
+    frmResults.Visible = true;
+    QAction* const File = Main->menuBar()->actions().front();
+    const QAction* const Exit = File->menu()->actions().back();
+    QTest::mouseClick(Main->menuBar(), Qt::LeftButton, {}, Main->menuBar()->actionGeometry(File).center());
+    QCoreApplication::processEvents();
+    QTest::mouseMove(File->menu(), File->menu()->actionGeometry(const_cast<QAction*>(Exit)).center());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(MDIProject.StatusText.Caption.Get(), "Exit the program");
+    QTest::mouseClick(File->menu(), Qt::LeftButton, {},
+                      File->menu()->actionGeometry(const_cast<QAction*>(Exit)).center());
+    EXPECT_EQ(Saving.Messages.back().Text, "Are you sure you want to quit ?");
+    EXPECT_EQ(MDIProject.StatusText.Caption.Get(), "");
 }
 
 // No minus sign passes the filters, nor does one with Alt.
