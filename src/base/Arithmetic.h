@@ -2,7 +2,9 @@
 #pragma once
 
 #include "base/Single.h"
+#include "base/StatusFlags.h"
 
+#include <cmath>
 #include <cstdint>
 
 namespace velorix {
@@ -17,13 +19,24 @@ bool ArithmeticFailed();
 // Throws ArithmeticFailure when ArithmeticFailed(), and clears the flags.
 void CheckArithmetic();
 
+[[noreturn]] void ThrowUnordered();
+
 // The value rounded to 32 bits, ready to be stored. Throws ArithmeticFailure when the value's expression, or
 // its rounding, failed, so that the target keeps what it held.
-Single Checked(double Value);
+inline Single Checked(double Value)
+{
+    auto Rounded = static_cast<float>(Value);
+    if (FailureFlagsAfter(Rounded) != 0) CheckArithmetic();
+    return Rounded;
+}
 
 // The value, about to be compared. A NaN has no order: comparing it is an invalid operation and throws
 // ArithmeticFailure, on every compiler and machine.
-double Ordered(double Value);
+inline double Ordered(double Value)
+{
+    if (std::isnan(Value)) ThrowUnordered();
+    return Value;
+}
 
 // Nearest integer, halves to the even neighbour.
 double RoundEven(double Value);
