@@ -4,9 +4,9 @@
 #include "analysis/SampleRecords.h"
 #include "cost/RateScanReference.h"
 #include "hydraulics/PlainReference.h"
+#include "input/Session.h"
+#include "model/WorkingSet.h"
 #include "platform/ScriptedPlatform.h"
-#include "project/Session.h"
-#include "project/WorkingSet.h"
 
 #include <benchmark/benchmark.h>
 

@@ -5,11 +5,12 @@ cmake_minimum_required(VERSION 3.25)
 # From the ground up. Folders of one line stand side by side and don't include each other.
 set(floors
   "base"
+  "model"
   "platform"
   "screens"
-  "project"
   "hydraulics"
   "cost"
+  "input"
   "results|reports|roughness|tools"
   "analysis"
   "shell"

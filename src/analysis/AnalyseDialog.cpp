@@ -2,8 +2,8 @@
 #include "analysis/AnalyseDialog.h"
 
 #include "analysis/AnalyseProject.h"
+#include "input/Session.h"
 #include "platform/Platform.h"
-#include "project/Session.h"
 #include "results/PlotState.h"
 #include "screens/Analyse.h"
 #include "screens/Lcc.h"

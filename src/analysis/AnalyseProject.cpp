@@ -10,9 +10,9 @@
 #include "hydraulics/DutyPoint.h"
 #include "hydraulics/Flows.h"
 #include "hydraulics/YearlySupply.h"
+#include "input/Session.h"
+#include "model/WorkingSet.h"
 #include "platform/Platform.h"
-#include "project/Session.h"
-#include "project/WorkingSet.h"
 #include "results/CostTable.h"
 #include "results/Headlines.h"
 #include "results/PlotState.h"
@@ -38,7 +38,7 @@ void LoadResultsHidden()
 
 void ShowDutyCommand()
 {
-    frmResults.sscDutypoint.Visible = wSystemType == 1 && wPumpDetails == 1;
+    frmResults.sscDutypoint.Visible = IsPumping() && wPumpDetails == 1;
     frmResults.fraDuty.Visible = false;
 }
 

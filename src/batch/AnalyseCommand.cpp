@@ -11,10 +11,10 @@
 #include "batch/Worker.h"
 #include "cost/PresentValue.h"
 #include "cost/RateOfReturn.h"
+#include "input/InputScreen.h"
+#include "input/Session.h"
+#include "model/WorkingSet.h"
 #include "platform/ScriptedPlatform.h"
-#include "project/InputScreen.h"
-#include "project/Session.h"
-#include "project/WorkingSet.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -33,7 +33,7 @@ Json HeadlinesOf(const std::vector<Message>& Shown)
 {
     std::vector<std::string> Messages;
     for (const Message& Each : Shown) Messages.push_back(Each.Text);
-    return {{"system", wSystemType == 1 ? "pumping" : "gravity"},
+    return {{"system", IsPumping() ? "pumping" : "gravity"},
             {"life", std::to_string(wLife)},
             {"cost", CurrencySign() + Format(NpvCost, "#,###,###,###,###,000")},
             {"income", CurrencySign() + Format(NpvIncome, "#,###,###,###,###,000")},

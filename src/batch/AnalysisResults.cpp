@@ -8,8 +8,8 @@
 #include "hydraulics/DutyPoint.h"
 #include "hydraulics/Flows.h"
 #include "hydraulics/YearlySupply.h"
-#include "project/Session.h"
-#include "project/WorkingSet.h"
+#include "input/Session.h"
+#include "model/WorkingSet.h"
 
 #include <algorithm>
 

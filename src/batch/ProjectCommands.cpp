@@ -4,8 +4,8 @@
 #include "base/Failure.h"
 #include "batch/ProjectJson.h"
 #include "batch/TextFile.h"
+#include "model/ProjectFile.h"
 #include "platform/ScriptedPlatform.h"
-#include "project/ProjectFile.h"
 
 #include <ctime>
 

@@ -5,8 +5,8 @@
 #include "base/Failure.h"
 #include "base/Text.h"
 #include "batch/JsonText.h"
-#include "project/Session.h"
-#include "project/WorkingSet.h"
+#include "input/Session.h"
+#include "model/WorkingSet.h"
 
 #include <algorithm>
 #include <array>

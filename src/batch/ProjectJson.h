@@ -1,7 +1,7 @@
 // A project record as readable JSON, by field name, and back.
 #pragma once
 
-#include "project/ProjectRecord.h"
+#include "model/ProjectRecord.h"
 
 #include <string>
 

@@ -4,7 +4,7 @@
 #include "base/Arithmetic.h"
 #include "base/NumberText.h"
 #include "hydraulics/Formulas.h"
-#include "project/WorkingSet.h"
+#include "model/WorkingSet.h"
 #include "screens/Lcc.h"
 
 #include <cmath>

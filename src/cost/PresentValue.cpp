@@ -4,7 +4,7 @@
 #include "base/Arithmetic.h"
 #include "cost/AnnualCosts.h"
 #include "cost/CapitalCost.h"
-#include "project/WorkingSet.h"
+#include "model/WorkingSet.h"
 
 #include <cmath>
 

@@ -6,7 +6,7 @@
 #include "desktop/QtPlatform.h"
 #include "desktop/Style.h"
 #include "desktop/Views.h"
-#include "project/FileCommands.h"
+#include "input/FileCommands.h"
 #include "screens/Analyse.h"
 #include "screens/Dialogs.h"
 #include "screens/MainWindow.h"

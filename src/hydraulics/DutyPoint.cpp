@@ -4,8 +4,8 @@
 #include "base/Arithmetic.h"
 #include "hydraulics/Formulas.h"
 #include "hydraulics/SystemCurve.h"
+#include "model/WorkingSet.h"
 #include "platform/Platform.h"
-#include "project/WorkingSet.h"
 #include "screens/DutyPointScreen.h"
 
 #include <cmath>

@@ -6,8 +6,8 @@
 #include "hydraulics/DutyPoint.h"
 #include "hydraulics/Formulas.h"
 #include "hydraulics/GravityFlow.h"
+#include "model/WorkingSet.h"
 #include "platform/Platform.h"
-#include "project/WorkingSet.h"
 
 #include <algorithm>
 

@@ -6,7 +6,7 @@
 #include "hydraulics/Flows.h"
 #include "hydraulics/Formulas.h"
 #include "hydraulics/HighPoint.h"
-#include "project/WorkingSet.h"
+#include "model/WorkingSet.h"
 
 #include <cmath>
 

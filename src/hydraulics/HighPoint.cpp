@@ -8,7 +8,7 @@
 #include "hydraulics/Formulas.h"
 #include "hydraulics/Kernels.h"
 #include "hydraulics/PressureRange.h"
-#include "project/WorkingSet.h"
+#include "model/WorkingSet.h"
 
 #include <algorithm>
 #include <cmath>

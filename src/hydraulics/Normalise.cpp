@@ -3,7 +3,7 @@
 
 #include "base/Arithmetic.h"
 #include "base/Failure.h"
-#include "project/WorkingSet.h"
+#include "model/WorkingSet.h"
 
 #include <array>
 #include <optional>

@@ -3,7 +3,7 @@
 
 #include "hydraulics/Flows.h"
 #include "hydraulics/Formulas.h"
-#include "project/WorkingSet.h"
+#include "model/WorkingSet.h"
 
 #include <algorithm>
 #include <cmath>

@@ -6,7 +6,7 @@
 #include "hydraulics/Flows.h"
 #include "hydraulics/Formulas.h"
 #include "hydraulics/Kernels.h"
-#include "project/WorkingSet.h"
+#include "model/WorkingSet.h"
 
 #include <algorithm>
 #include <cmath>

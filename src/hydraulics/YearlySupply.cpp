@@ -5,7 +5,7 @@
 #include "hydraulics/DutyPoint.h"
 #include "hydraulics/Flows.h"
 #include "hydraulics/Formulas.h"
-#include "project/WorkingSet.h"
+#include "model/WorkingSet.h"
 
 namespace velorix {
 

@@ -4,8 +4,8 @@
 #include "base/Format.h"
 #include "cost/AnnualCosts.h"
 #include "cost/CapitalCost.h"
-#include "project/InputScreen.h"
-#include "project/WorkingSet.h"
+#include "input/InputScreen.h"
+#include "model/WorkingSet.h"
 #include "screens/Results.h"
 
 namespace velorix {
@@ -53,7 +53,7 @@ void PutAnnualRow(int Row, const std::string& Group, const std::string& Part)
 
 void LayOutAnnualCosts()
 {
-    const bool Pumping = wSystemType == 1;
+    const bool Pumping = IsPumping();
     frmResults.msgAnnualCost.SetRows(Pumping ? 6 : 5);
     PutAnnualRow(0, "Description", "Description");
     frmResults.msgAnnualCost.SetText(0, 2, "Amount");
@@ -88,7 +88,7 @@ void ShowAnnualCost()
     PutAnnualAmount(2, MaintPipeline[Year]);
     PutAnnualAmount(3, MaintMechanical[Year]);
     PutAnnualAmount(4, MaintElectrical[Year]);
-    if (wSystemType == 1) PutAnnualAmount(5, EnergyCost[Year]);
+    if (IsPumping()) PutAnnualAmount(5, EnergyCost[Year]);
     frmResults.lblAnnual.Caption = "Year : " + std::to_string(Year);
 }
 

@@ -4,8 +4,8 @@
 #include "base/Format.h"
 #include "cost/PresentValue.h"
 #include "cost/RateOfReturn.h"
-#include "project/InputScreen.h"
-#include "project/WorkingSet.h"
+#include "input/InputScreen.h"
+#include "model/WorkingSet.h"
 #include "screens/Results.h"
 
 #include <cmath>

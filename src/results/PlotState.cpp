@@ -2,7 +2,7 @@
 #include "results/PlotState.h"
 
 #include "base/Format.h"
-#include "project/WorkingSet.h"
+#include "model/WorkingSet.h"
 #include "screens/Lcc.h"
 #include "screens/Results.h"
 

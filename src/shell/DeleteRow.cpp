@@ -3,8 +3,8 @@
 
 #include "base/Failure.h"
 #include "base/Text.h"
+#include "input/ProfileTable.h"
 #include "platform/Platform.h"
-#include "project/ProfileTable.h"
 #include "screens/Dialogs.h"
 #include "screens/Lcc.h"
 #include "shell/GridEditor.h"

@@ -3,10 +3,10 @@
 
 #include "base/CodePage.h"
 #include "base/Text.h"
+#include "input/ProfileTable.h"
+#include "input/Session.h"
 #include "platform/Keys.h"
 #include "platform/Platform.h"
-#include "project/ProfileTable.h"
-#include "project/Session.h"
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
 #include "shell/KeyFilters.h"

@@ -1,8 +1,8 @@
 // Texts and handlers of the opening dialogs and the notices.
 #include "shell/Notices.h"
 
+#include "input/ViewState.h"
 #include "platform/Platform.h"
-#include "project/ViewState.h"
 #include "screens/Dialogs.h"
 
 namespace velorix {

@@ -2,10 +2,10 @@
 #include "shell/Preferences.h"
 
 #include "base/Arithmetic.h"
-#include "project/CostTables.h"
-#include "project/InputScreen.h"
-#include "project/ViewState.h"
-#include "project/WorkingSet.h"
+#include "input/CostTables.h"
+#include "input/InputScreen.h"
+#include "input/ViewState.h"
+#include "model/WorkingSet.h"
 #include "screens/Dialogs.h"
 #include "shell/Help.h"
 

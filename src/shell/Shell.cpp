@@ -3,9 +3,9 @@
 
 #include "analysis/AnalyseDialog.h"
 #include "analysis/Program.h"
+#include "input/FileCommands.h"
+#include "model/WorkingSet.h"
 #include "platform/Platform.h"
-#include "project/FileCommands.h"
-#include "project/WorkingSet.h"
 #include "results/CostTable.h"
 #include "results/PlotState.h"
 #include "screens/Analyse.h"

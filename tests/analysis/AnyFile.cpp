@@ -3,9 +3,9 @@
 
 #include "analysis/AnalyseProject.h"
 #include "analysis/Program.h"
+#include "input/Session.h"
+#include "model/WorkingSet.h"
 #include "platform/ScriptedPlatform.h"
-#include "project/Session.h"
-#include "project/WorkingSet.h"
 
 #include <cstdio>
 #include <cstdlib>

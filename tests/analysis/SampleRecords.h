@@ -1,7 +1,7 @@
 // Project records that an analysis goes through with, to start tests and measurements from.
 #pragma once
 
-#include "project/ProjectRecord.h"
+#include "model/ProjectRecord.h"
 
 namespace velorix {
 

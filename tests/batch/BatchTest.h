@@ -2,7 +2,7 @@
 #pragma once
 
 #include "batch/ProjectJson.h"
-#include "project/ProjectTest.h"
+#include "input/ProjectTest.h"
 
 #include <nlohmann/json.hpp>
 #include <sys/wait.h>

@@ -8,7 +8,7 @@
 #include "hydraulics/DutyPoint.h"
 #include "hydraulics/Flows.h"
 #include "hydraulics/YearlySupply.h"
-#include "project/WorkingSet.h"
+#include "model/WorkingSet.h"
 #include "screens/Lcc.h"
 
 #include <gtest/gtest.h>

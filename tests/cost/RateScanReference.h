@@ -5,7 +5,7 @@
 #include "cost/AnnualCosts.h"
 #include "cost/CapitalCost.h"
 #include "cost/RateOfReturn.h"
-#include "project/WorkingSet.h"
+#include "model/WorkingSet.h"
 
 #include <bit>
 #include <cmath>

@@ -2,7 +2,7 @@
 #include "desktop/Binding.h"
 #include "desktop/DialogLayouts.h"
 #include "desktop/MainWindowTest.h"
-#include "project/ProjectFile.h"
+#include "model/ProjectFile.h"
 #include "screens/Dialogs.h"
 
 #include <QApplication>

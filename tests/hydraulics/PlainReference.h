@@ -6,7 +6,7 @@
 #include "hydraulics/DutyPoint.h"
 #include "hydraulics/Flows.h"
 #include "hydraulics/Normalise.h"
-#include "project/WorkingSet.h"
+#include "model/WorkingSet.h"
 
 #include <cmath>
 #include <vector>

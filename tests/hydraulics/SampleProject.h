@@ -5,7 +5,7 @@
 #include "hydraulics/Flows.h"
 #include "hydraulics/Normalise.h"
 #include "hydraulics/YearlySupply.h"
-#include "project/WorkingSet.h"
+#include "model/WorkingSet.h"
 
 #include <array>
 

@@ -2,7 +2,7 @@
 #include "shell/GridEditor.h"
 
 #include "InputTest.h"
-#include "project/ProfileTable.h"
+#include "input/ProfileTable.h"
 
 #include <gmock/gmock.h>
 

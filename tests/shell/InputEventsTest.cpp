@@ -2,8 +2,8 @@
 #include "shell/InputEvents.h"
 
 #include "InputTest.h"
-#include "project/Commit.h"
-#include "project/ProfileTable.h"
+#include "input/Commit.h"
+#include "input/ProfileTable.h"
 
 #include <cmath>
 #include <gmock/gmock.h>

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "analysis/Program.h"
+#include "input/Session.h"
+#include "model/WorkingSet.h"
 #include "platform/ScriptedPlatform.h"
-#include "project/Session.h"
-#include "project/WorkingSet.h"
 #include "screens/Analyse.h"
 #include "screens/Dialogs.h"
 #include "screens/DutyPointScreen.h"

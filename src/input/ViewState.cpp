@@ -1,0 +1,49 @@
+// Showing and hiding of the main window's screens.
+#include "input/ViewState.h"
+
+#include "input/Session.h"
+#include "screens/Lcc.h"
+#include "screens/MainWindow.h"
+#include "screens/Results.h"
+#include "screens/Viewers.h"
+
+namespace velorix {
+
+void HideScreens()
+{
+    if (frmLCC.Visible) {
+        frmLCC.Visible = false;
+        ViewState = 1;
+    }
+    if (frmResults.Visible) {
+        frmResults.Visible = false;
+        ViewState = 2;
+    }
+}
+
+void RestoreScreens()
+{
+    if (ProjectOpen != 1) return; // a deleted project stays away
+    frmLCC.Visible = true;
+    if (ViewState == 1)
+        frmResults.Visible = false;
+    else
+        MDIProject.tmrCurrency.Enabled = true;
+}
+
+void LeaveProjectScreens()
+{
+    if (ProjectOpen != 1) return;
+    frmLCC.Visible = false;
+    for (Screen* Viewer : std::initializer_list<Screen*>{&frmView, &frmPumpView})
+        if (Viewer->Visible) Viewer->Unload();
+    if (Analysed == 1) frmResults.Visible = false;
+}
+
+void ShowInputScreen()
+{
+    frmResults.Visible = false;
+    frmLCC.Visible = true;
+}
+
+} // namespace velorix

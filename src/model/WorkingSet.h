@@ -1,0 +1,45 @@
+// The working set: one variable for each field of the record, which screens, analysis and reports use.
+#pragma once
+
+#include "model/ProjectRecord.h"
+
+namespace velorix {
+
+// wLife is the working copy of Life, and so on; texts are trimmed, in UTF-8. Numbers stand as they were
+// typed, in the unit of their own selector.
+#define VELORIX_INT16(Name, Offset, Count) extern FieldOf<std::int16_t, Count> w##Name;
+#define VELORIX_SINGLE(Name, Offset, Count) extern FieldOf<Single, Count> w##Name;
+#define VELORIX_TEXT(Name, Offset, Width) extern std::string w##Name;
+VELORIX_RECORD_FIELDS(VELORIX_INT16, VELORIX_SINGLE, VELORIX_TEXT)
+#undef VELORIX_INT16
+#undef VELORIX_SINGLE
+#undef VELORIX_TEXT
+
+// What the flags of the working set mean. A foreign file may hold any number in them.
+inline bool IsPumping()
+{
+    return wSystemType == 1;
+}
+inline bool UsesUSUnits()
+{
+    return wUnits == 1;
+}
+inline bool PaysInDollars()
+{
+    return wCurrency != 0;
+}
+
+extern int NodeCount; // nodes of the open project, rows 1 to NodeCount of the profile arrays
+
+// Copies the record to the working set: all that the record's kind of system uses. What only a pumping system
+// uses stays as it was when the record holds a gravity system.
+void CopyRecordToWorkingSet();
+
+// Copies the working set to the record, texts trimmed, cut and padded. What only a pumping system uses stays
+// in the record as it was when the working set holds a gravity system, but for PumpEfficiency, which is
+// copied, and EnergyEscalation, which becomes 0.
+void CopyWorkingSetToRecord();
+
+void ResetWorkingSet();
+
+} // namespace velorix
