@@ -17,6 +17,10 @@ extern BoundedArray<double, 0, 200000> IrrDifference; // present value of income
 // yearly series must stand. Throws ArithmeticFailure when a present value overflows; the rates before stand.
 void ScanRateOfReturn();
 
+// The same Irr and the same failures, without the two tables: they keep what they held. Works out the rates
+// beside the last change of sign alone, where bounds tell that no other can matter.
+void FindRateOfReturn();
+
 void ResetRateOfReturn();
 
 } // namespace velorix
