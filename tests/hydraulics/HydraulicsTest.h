@@ -26,6 +26,7 @@ protected:
         SolveFlows();
     }
 
+public:
     // A row as the normalising leaves it, with its friction factor in Year. Behind it stands the ground of a
     // longer profile before, which must take no part.
     static void AddRow(double Elevation, double Length, double Diameter, double K, double Factor)
@@ -37,6 +38,9 @@ protected:
         wElevation[NodeCount + 1] = 5000;
     }
 
+    static constexpr int Year = 3; // of what is worked for one year alone
+
+protected:
     void ExpectGradelineFailure() const
     {
         EXPECT_EQ(HydraulicsFailed, 1);
@@ -46,7 +50,6 @@ protected:
                   "Could not determine the hydraulic gradeline. Please check input data");
     }
 
-    static constexpr int Year = 3; // of what is worked for one year alone
     ScriptedPlatform Windows;
 };
 

@@ -8,6 +8,7 @@
 #include "hydraulics/Normalise.h"
 #include "model/WorkingSet.h"
 
+#include <array>
 #include <cmath>
 #include <vector>
 
@@ -88,6 +89,51 @@ inline Single FlowClearOfHighPoints(int Year, Single Start, int MostTries)
         if (ClearsHighPoints(Year, Q)) break;
     }
     return Q;
+}
+
+struct Bisection {
+    bool Fails = false;
+    bool BelowGround = false;
+    Single Flow;
+};
+
+// The flow of the available head, all losses added up row by row in each pass.
+inline Bisection FlowOfHead(int Year, Single H)
+{
+    const Single Least = 1.0 / 1000000;
+    Single Low = Least, High = 100, Mid = (Low + High) / 2, Error = 1;
+    Bisection Result;
+    ClearArithmeticFlags();
+    while (Least < Error) {
+        Array1<Single, 3> FrictionSum, SecondarySum; // at Low, Mid and High
+        Result.BelowGround = false;
+        for (int i = 1; i <= NodeCount; ++i) {
+            for (int Place = 1; Place <= 3; ++Place) {
+                const double Q = Place == 1 ? Low : Place == 2 ? Mid : High;
+                FrictionSum[Place] += Friction(i, Year, Q);
+                SecondarySum[Place] += Secondary(i, Q);
+            }
+            const Single P =
+                UpstreamLevel - ElevationFactor * wElevation[i + 1] - FrictionSum[2] - SecondarySum[2];
+            Result.Fails = Result.Fails || i == 100;
+            if (i < NodeCount && P <= -1) Result.BelowGround = true;
+            if (i < NodeCount && std::isnan(P)) Result.Fails = true;
+        }
+        const Single A = FrictionSum[1] + SecondarySum[1];
+        const Single C = FrictionSum[2] + SecondarySum[2];
+        Error = std::fabs(H - (FrictionSum[2] + SecondarySum[2]));
+        if (Result.Fails || ArithmeticFailed() || std::isnan(A + C + H)) return {true, false, 0};
+
+        const std::array Before = {Low.Bits(), Mid.Bits(), High.Bits()};
+        const bool Above = A > H || C < H;
+        (Above ? Low : High) = Mid;
+        Mid = (Low + High) / 2;
+        const auto Micro = [](double Q) { return std::nearbyint(Q * 1000000); };
+        if (Above ? Micro(Mid) == Micro(High) : Micro(Low) == Micro(Mid)) Error = 1.0 / 1000001;
+        if (Micro(Low) == Micro(High) || Before == std::array{Low.Bits(), Mid.Bits(), High.Bits()}) break;
+    }
+    Result.Flow = Mid;
+    return Result;
 }
 
 } // namespace velorix::plain
