@@ -2,6 +2,7 @@
 #pragma once
 
 #include "hydraulics/Normalise.h"
+#include "hydraulics/Tables.h"
 
 namespace velorix {
 
@@ -26,7 +27,7 @@ extern std::int16_t AnalysisAborted;  // -1 after a year without a duty point
 
 // Solves AnalysisYear, whose Lambda must stand: writes OperatingFlow and DutyEfficiency. Without a duty point
 // it tells the user, shows the curves and sets AnalysisAborted.
-void FindDutyPoint();
+bool FindDutyPoint(Tables Wanted);
 
 void ResetDutyPoint();
 

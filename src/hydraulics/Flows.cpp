@@ -97,14 +97,14 @@ void SolveGravity()
     }
 }
 
-void SolvePumpCurve()
+void SolvePumpCurve(Tables Wanted)
 {
     for (int y = 1; y <= wLife; ++y) {
         StoreFrictionFactors(y);
         AnalysisYear = static_cast<std::int16_t>(y);
         if (AnalysisAborted != 0) return;
 
-        FindDutyPoint();
+        FindDutyPoint(Wanted);
         Flow[y] = OperatingFlow;
         Efficiency[y] = DutyEfficiency;
         StorePumpingLosses(y);
@@ -124,7 +124,7 @@ void SolveGivenFlow()
     }
 }
 
-void SolveAllYears()
+void SolveAllYears(Tables Wanted)
 {
     StoreRoughness();
     if (wSystemType != 1)
@@ -132,17 +132,17 @@ void SolveAllYears()
     else if (wPumpDetails == 0)
         SolveGivenFlow();
     else
-        SolvePumpCurve();
+        SolvePumpCurve(Wanted);
 }
 
 } // namespace
 
-void SolveFlows()
+void SolveFlows(Tables Wanted)
 {
     HydraulicsFailed = 0;
     ClearArithmeticFlags();
     try {
-        SolveAllYears();
+        SolveAllYears(Wanted);
     } catch (const Failure&) {
         HydraulicsFailed = 1;
         Warn("Could not determine the hydraulic gradeline. Please check input data", "Velorix Error");

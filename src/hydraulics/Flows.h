@@ -2,6 +2,7 @@
 #pragma once
 
 #include "hydraulics/Normalise.h"
+#include "hydraulics/Tables.h"
 
 namespace velorix {
 
@@ -21,7 +22,7 @@ extern std::int16_t HydraulicsFailed;  // 1 after a failure of SolveFlows, 0 aft
 
 // Solves all years. Its own failure is told to the user and stands in HydraulicsFailed, a missing duty point
 // in AnalysisAborted; it returns normally in every case.
-void SolveFlows();
+void SolveFlows(Tables Wanted = Tables::Filled);
 
 void ResetFlows();
 
