@@ -4,10 +4,10 @@
 #include "base/Arithmetic.h"
 #include "base/Arrays.h"
 #include "hydraulics/Flows.h"
-#include "hydraulics/Formulas.h"
 #include "hydraulics/HighPoint.h"
 #include "hydraulics/Kernels.h"
 #include "hydraulics/LossCoefficients.h"
+#include "hydraulics/RowLosses.h"
 #include "model/WorkingSet.h"
 
 #include <cmath>
@@ -17,21 +17,6 @@ namespace velorix {
 namespace {
 
 using PressureList = Array0<Single, 100>; // pressure head behind each section (m), from entry 1 on
-
-// Losses summed along the pipeline at one flow.
-struct LossSums {
-    Single Friction;
-    Single Secondary;
-
-    void Add(int Row, int Year, double Q)
-    {
-        const double D = InternalDiameter[Row];
-        Friction = Checked(Friction + FrictionHead(Q, D, SectionLength[Row], Lambda(Row, Year)));
-        Secondary = Checked(Secondary + SecondaryHead(Q, D, wSecondaryLoss[Row]));
-    }
-
-    double Total() const { return Friction + Secondary; }
-};
 
 bool SameSixthDecimal(double A, double B)
 {
@@ -72,11 +57,31 @@ struct Comparison {
     Single Error; // between the two (m)
 };
 
+// Losses summed along the pipeline.
+struct LossSums {
+    Single Friction;
+    Single Secondary;
+
+    double Total() const { return Friction + Secondary; }
+};
+
+// Nothing of a sum is kept when a row fails, so a failure is looked for once: the total hangs on all of them.
+LossSums SumLosses(int Year, double Q)
+{
+    RowLosses Rows;
+    WorkRowLosses(Year, Q, Rows);
+    LossSums Sums;
+    for (int i = 1; i <= NodeCount; ++i) {
+        Sums.Friction += Rows.Friction[i - 1];
+        Sums.Secondary += Rows.Secondary[i - 1];
+    }
+    return Sums;
+}
+
 // Compares with the losses added up row by row.
 Comparison CompareByRows(int Year, Single H, double Q)
 {
-    LossSums Losses;
-    for (int i = 1; i <= NodeCount; ++i) Losses.Add(i, Year, Q);
+    const LossSums Losses = SumLosses(Year, Q);
     const double Rounded = Ordered(Checked(Losses.Total()));
     return {(Rounded > Ordered(H)) - (Rounded < H), Checked(std::fabs(H - Losses.Total()))};
 }
@@ -124,13 +129,16 @@ private:
     bool Holds = false;
 };
 
-// Pressure heads at one flow.
-void StorePressures(int Year, double Q, PressureList& P)
+// Pressure heads at one flow. Not inlined, so that all arithmetic is done before the status flags are read.
+[[gnu::noinline]] void WorkPressures(int Year, double Q, PressureList& P)
 {
-    LossSums Losses;
+    RowLosses Rows;
+    WorkRowLosses(Year, Q, Rows);
+    LossSums Sums;
     for (int i = 1; i <= NodeCount; ++i) {
-        Losses.Add(i, Year, Q);
-        P[i] = Checked(StaticHead(i) - Losses.Friction - Losses.Secondary);
+        Sums.Friction += Rows.Friction[i - 1];
+        Sums.Secondary += Rows.Secondary[i - 1];
+        P[i] = StaticHead(i) - Sums.Friction - Sums.Secondary;
     }
 }
 
@@ -161,7 +169,8 @@ Single ConvergedFlow(int Year, Single H, PressureList& P)
         // From about 0.5 m3/s on, neighbouring numbers lie too far apart to meet the tests above.
         if (Q == Before) break;
     }
-    StorePressures(Year, Before.Mid, P);
+    WorkPressures(Year, Before.Mid, P);
+    CheckArithmetic();
     return Q.Mid;
 }
 
