@@ -38,6 +38,22 @@ inline double Ordered(double Value)
     return Value;
 }
 
+// Two ways to work the same steps. EachStep makes sure of every one as it is stored. AsBlock leaves that to
+// the caller, who has the steps worked into a place of its own, asks ArithmeticFailed() once, and when it did
+// has them worked again by EachStep into the results, up to the one that fails.
+struct EachStep {
+    static Single Stored(double Value) { return Checked(Value); }
+    static double Compared(double Value) { return Ordered(Value); }
+};
+struct AsBlock {
+    static Single Stored(double Value) { return Value; }
+    static double Compared(double Value)
+    {
+        if (std::isnan(Value)) std::feraiseexcept(FE_INVALID);
+        return Value;
+    }
+};
+
 // Nearest integer, halves to the even neighbour.
 double RoundEven(double Value);
 

@@ -6,6 +6,7 @@
 #include "hydraulics/DutyPoint.h"
 #include "hydraulics/Formulas.h"
 #include "hydraulics/GravityFlow.h"
+#include "hydraulics/PumpingHeads.h"
 #include "model/WorkingSet.h"
 #include "platform/Platform.h"
 
@@ -37,54 +38,79 @@ void StoreRoughness()
     for (int y = FirstOld; y <= wLife; ++y) KsYear[y] = KsOldM;
 }
 
+// Pipes of one bore stand side by side as a rule, and share the logarithm.
 void StoreFrictionFactors(int Year)
 {
-    for (int i = 1; i <= NodeCount; ++i)
-        Lambda(i, Year) = Checked(RoughPipeFactor(InternalDiameter[i], KsYear[Year]));
+    for (int i = 1; i <= NodeCount; ++i) {
+        const bool SameBore = i > 1 && InternalDiameter[i].Bits() == InternalDiameter[i - 1].Bits();
+        Lambda(i, Year) =
+            SameBore ? Lambda(i - 1, Year) : Checked(RoughPipeFactor(InternalDiameter[i], KsYear[Year]));
+    }
 }
 
-void StoreRowLosses(int Row, int Year)
+// Where the losses and heads of a year go.
+struct YearHeads {
+    ByRow& Friction;
+    ByRow& Secondary;
+    HeadList& Head;
+};
+
+template <typename Steps>
+void WorkRow(int Row, int Year, const YearHeads& To)
 {
     const double Q = Flow[Year];
     const double D = InternalDiameter[Row];
-    FrictionLoss(Row, Year) = Checked(FrictionHead(Q, D, SectionLength[Row], Lambda(Row, Year)));
-    SecondaryHeadLoss(Row, Year) = Checked(SecondaryHead(Q, D, wSecondaryLoss[Row]));
+    To.Friction[Row] = Steps::Stored(FrictionHead(Q, D, SectionLength[Row], Lambda(Row, Year)));
+    To.Secondary[Row] = Steps::Stored(SecondaryHead(Q, D, wSecondaryLoss[Row]));
 }
 
-// Runs down from the upstream reservoir. Point i is the head just downstream of section i.
-void StoreGravityGradeline(int Year)
+// The gradeline runs down from the upstream reservoir. Point i is the head just downstream of section i.
+// This and the next are not inlined, so that all arithmetic is done before the status flags are read.
+template <typename Steps>
+[[gnu::noinline]] void WorkGravityYear(int Year, const YearHeads& To)
 {
-    Gradeline(0, Year) = UpstreamLevel;
+    To.Head[0] = UpstreamLevel;
     for (int i = 1; i <= NodeCount; ++i) {
-        StoreRowLosses(i, Year);
-        Gradeline(i, Year) =
-            Checked(Gradeline(i - 1, Year) - FrictionLoss(i, Year) - SecondaryHeadLoss(i, Year));
+        WorkRow<Steps>(i, Year, To);
+        To.Head[i] = Steps::Stored(To.Head[i - 1] - To.Friction[i] - To.Secondary[i]);
     }
 }
 
-// Runs back from the downstream reservoir, and is lifted until no row lies more than a metre of head below
-// ground. Point i is the head at row i, point 0 the ground at the pump station.
-void StorePumpingGradeline(int Year)
+// Point 0 of the gradeline is the ground at the pump station.
+template <typename Steps>
+[[gnu::noinline]] void WorkPumpingYear(int Year, const YearHeads& To)
 {
-    Gradeline(NodeCount, Year) = DownstreamLevel;
-    Gradeline(0, Year) = wElevation[1];
-    for (int j = NodeCount - 1; j >= 1; --j)
-        Gradeline(j, Year) =
-            Checked(Gradeline(j + 1, Year) + FrictionLoss(j, Year) + SecondaryHeadLoss(j, Year));
-
-    Single Lowest = -1;
-    for (int j = 1; j <= NodeCount; ++j) {
-        const Single Pressure = Checked(Gradeline(j, Year) - wElevation[j]);
-        if (Ordered(Pressure) < Lowest) Lowest = Pressure;
-    }
-    if (Lowest >= -1) return;
-    for (int j = 1; j <= NodeCount; ++j) Gradeline(j, Year) = Checked(Gradeline(j, Year) - (Lowest + 1));
+    for (int i = 1; i <= NodeCount; ++i) WorkRow<Steps>(i, Year, To);
+    To.Head[0] = wElevation[1];
+    WorkPumpingHeads<Steps>(To.Friction, To.Secondary, To.Head);
 }
 
-void StorePumpingLosses(int Year)
+using YearWork = void (*)(int Year, const YearHeads& To);
+
+// Stores what a year's work gives, up to the first step that fails.
+void StoreYear(int Year, YearWork WorkAsBlock, YearWork WorkEachStep)
 {
-    for (int i = 1; i <= NodeCount; ++i) StoreRowLosses(i, Year);
-    StorePumpingGradeline(Year);
+    const YearHeads Stored{FrictionLoss.Year(Year), SecondaryHeadLoss.Year(Year), Gradeline.Year(Year)};
+    ByRow Friction, Secondary;
+    HeadList Head;
+    WorkAsBlock(Year, {Friction, Secondary, Head});
+    if (ArithmeticFailed()) {
+        ClearArithmeticFlags();
+        return WorkEachStep(Year, Stored);
+    }
+    std::copy_n(Friction.begin(), NodeCount, Stored.Friction.begin());
+    std::copy_n(Secondary.begin(), NodeCount, Stored.Secondary.begin());
+    std::copy_n(Head.begin(), NodeCount + 1, Stored.Head.begin());
+}
+
+void StoreGravityYear(int Year)
+{
+    StoreYear(Year, WorkGravityYear<AsBlock>, WorkGravityYear<EachStep>);
+}
+
+void StorePumpingYear(int Year)
+{
+    StoreYear(Year, WorkPumpingYear<AsBlock>, WorkPumpingYear<EachStep>);
 }
 
 void SolveGravity()
@@ -93,7 +119,7 @@ void SolveGravity()
     for (int y = 1; y <= wLife; ++y) {
         StoreFrictionFactors(y);
         Flow[y] = GravityFlow(y, H);
-        StoreGravityGradeline(y);
+        StoreGravityYear(y);
     }
 }
 
@@ -107,7 +133,7 @@ void SolvePumpCurve(Tables Wanted)
         FindDutyPoint(Wanted);
         Flow[y] = OperatingFlow;
         Efficiency[y] = DutyEfficiency;
-        StorePumpingLosses(y);
+        StorePumpingYear(y);
         PumpHead[y] = Checked(Gradeline(1, y) - Gradeline(0, y));
         PumpFlow[y] = Flow[y];
         PumpEfficiencyByYear[y] = Efficiency[y];
@@ -120,7 +146,7 @@ void SolveGivenFlow()
         StoreFrictionFactors(y);
         OperatingFlow = Checked(wPumpOperatingFlowrate * OperatingFlowFactor);
         Flow[y] = OperatingFlow;
-        StorePumpingLosses(y);
+        StorePumpingYear(y);
     }
 }
 

@@ -4,8 +4,9 @@
 #include "base/Arithmetic.h"
 #include "hydraulics/DutyPoint.h"
 #include "hydraulics/Flows.h"
-#include "hydraulics/Formulas.h"
 #include "hydraulics/Kernels.h"
+#include "hydraulics/PumpingHeads.h"
+#include "hydraulics/RowLosses.h"
 #include "model/WorkingSet.h"
 
 #include <algorithm>
@@ -20,17 +21,6 @@ double FlowAt(int Point)
     const double First = wPumpCurve[2];
     const double Last = wPumpCurve[17];
     return (First + (Last - First) * Point / CurvePoints) * FlowFactor;
-}
-
-// Lowest row's pressure head, but -1 at the most.
-Single LowestPressure(const ByRow& Head)
-{
-    Single Lowest = -1;
-    for (int j = 1; j <= NodeCount; ++j) {
-        const Single Pressure = Checked(Head[j] - wElevation[j]);
-        if (Ordered(Pressure) < Lowest) Lowest = Pressure;
-    }
-    return Lowest;
 }
 
 void StorePoint(int Point, Single Q, Single Head)
@@ -78,22 +68,18 @@ Single GridFlow(int Point)
     return FlowAt(Point);
 }
 
+// Nothing of it is kept when a row fails, so a failure is looked for once.
 Single SystemHeadAt(Single Q)
 {
+    RowLosses Losses;
+    WorkRowLosses(AnalysisYear, Q, Losses);
     ByRow Friction, Secondary;
     for (int i = 1; i <= NodeCount; ++i) {
-        const double D = InternalDiameter[i];
-        Friction[i] = Checked(FrictionHead(Q, D, SectionLength[i], Lambda(i, AnalysisYear)));
-        Secondary[i] = Checked(SecondaryHead(Q, D, wSecondaryLoss[i]));
+        Friction[i] = Losses.Friction[i - 1];
+        Secondary[i] = Losses.Secondary[i - 1];
     }
-
-    ByRow Head;
-    Head[NodeCount] = DownstreamLevel;
-    for (int j = NodeCount - 1; j >= 1; --j) Head[j] = Checked(Head[j + 1] + Friction[j] + Secondary[j]);
-
-    const Single Lowest = LowestPressure(Head);
-    if (Lowest < -1)
-        for (int j = 1; j <= NodeCount; ++j) Head[j] = Checked(Head[j] - (Lowest + 1));
+    HeadList Head;
+    WorkPumpingHeads<AsBlock>(Friction, Secondary, Head);
     return Checked(Head[1] - UpstreamLevel);
 }
 
