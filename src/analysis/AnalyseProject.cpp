@@ -3,13 +3,8 @@
 
 #include "base/Arithmetic.h"
 #include "base/Failure.h"
-#include "cost/AnnualCosts.h"
-#include "cost/CapitalCost.h"
-#include "cost/PresentValue.h"
-#include "cost/RateOfReturn.h"
-#include "hydraulics/DutyPoint.h"
-#include "hydraulics/Flows.h"
-#include "hydraulics/YearlySupply.h"
+#include "base/NumberText.h"
+#include "cost/Figures.h"
 #include "input/Session.h"
 #include "model/WorkingSet.h"
 #include "platform/Platform.h"
@@ -17,6 +12,7 @@
 #include "results/Headlines.h"
 #include "results/PlotState.h"
 #include "screens/Analyse.h"
+#include "screens/DutyPointScreen.h"
 #include "screens/Lcc.h"
 #include "screens/Results.h"
 
@@ -57,6 +53,19 @@ void HandOverToResults()
     ShowProgress(100);
 }
 
+// Comes within the year: the dialog shows the curves as they stand.
+void TellOfMissingDutyPoint()
+{
+    Warn("The pump curve does not intersect the system curve for year " + std::to_string(AnalysisYear),
+         "Error");
+    System().ShowModal(frmDutyPoint);
+}
+
+void TellOfFailedFlows()
+{
+    Warn("Could not determine the hydraulic gradeline. Please check input data", "Velorix Error");
+}
+
 void TellOfHighPoint()
 {
     System().Show({.Text =
@@ -67,29 +76,27 @@ void TellOfHighPoint()
                    .Icon = MessageIcon::Information});
 }
 
-void RunAnalysis()
+// The fee as it stands in its box, which may hold another text than the record.
+Single SupervisionOnScreen()
 {
-    AnalysisAborted = 0;
-    NormaliseInputs();
-    ReadLayingRates();
-    LoadResultsHidden();
-    ShowProgress(55);
+    return ParseSingle(frmLCC.txtSupervision.Text.Get());
+}
 
-    HighPointAdjusted = 0;
-    SolveFlows();
-    if (AnalysisAborted == -1) return;
+void FollowFigures(Milestone Reached)
+{
+    switch (Reached) {
+    case Milestone::Inputs: LoadResultsHidden(); return ShowProgress(55);
+    case Milestone::Supply: return ShowProgress(60);
+    case Milestone::Hours: return ShowProgress(65);
+    case Milestone::Income: return ShowProgress(70);
+    }
+}
 
-    SupplyDemand();
-    ShowProgress(60);
-    SplitPumpingHours();
-    ShowProgress(65);
-    ComputeIncome();
-    ShowProgress(70);
-    ComputeCapitalCost();
-    ComputeAnnualCosts();
-    ComputePresentValues();
-    ScanRateOfReturn();
-
+void RunAnalysis(Tables Wanted)
+{
+    const bool Stand = ComputeFigures(
+        Wanted, {.Flows = TellingOfFlows(), .Reached = FollowFigures, .Supervision = SupervisionOnScreen});
+    if (!Stand) return;
     HandOverToResults();
     if (HighPointAdjusted == 1) TellOfHighPoint();
     Analysed = 1;
@@ -97,18 +104,23 @@ void RunAnalysis()
 
 } // namespace
 
+FlowEvents TellingOfFlows()
+{
+    return {.DutyPointMissing = TellOfMissingDutyPoint, .Failed = TellOfFailedFlows};
+}
+
 void RefreshResults()
 {
     FillCapitalCostTable();
     FillCombos();
 }
 
-void AnalyseProject()
+void AnalyseProject(Tables Wanted)
 {
     Analysed = 0;
     ClearArithmeticFlags();
     try {
-        RunAnalysis();
+        RunAnalysis(Wanted);
     } catch (const Failure&) {
         Warn("Could not determine the flow for each year.", "Velorix Error");
         return;

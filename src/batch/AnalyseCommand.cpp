@@ -9,8 +9,7 @@
 #include "batch/AnalysisOutput.h"
 #include "batch/TextFile.h"
 #include "batch/Worker.h"
-#include "cost/PresentValue.h"
-#include "cost/RateOfReturn.h"
+#include "cost/CostResults.h"
 #include "input/InputScreen.h"
 #include "input/Session.h"
 #include "model/WorkingSet.h"
@@ -49,7 +48,7 @@ std::string AnalyseOne(const std::filesystem::path& File, bool WantsCsv)
     StartSession();
     FileName = File.string();
     LoadProject();
-    AnalyseProject();
+    AnalyseProject(Tables::LeftOut);
 
     const AnalysisResults Results = CollectResults(Windows.Messages);
     Json Report = {

@@ -2,24 +2,12 @@
 #include "cost/AnnualCosts.h"
 
 #include "base/Arithmetic.h"
-#include "cost/CapitalCost.h"
-#include "hydraulics/DutyPoint.h"
-#include "hydraulics/Flows.h"
-#include "hydraulics/YearlySupply.h"
+#include "cost/CostResults.h"
 #include "model/WorkingSet.h"
 
 #include <cmath>
 
 namespace velorix {
-
-ByYear IncomeSeries;
-ByYear MaintPipeline;
-ByYear MaintMechanical;
-ByYear MaintElectrical;
-ByYear MaintTotal;
-ByYear OperationalCost;
-ByYear EnergyCostWork;
-ByYear EnergyCost;
 
 namespace {
 
@@ -38,7 +26,7 @@ double Escalated(double Rate, int y)
 double WaterSold(int y)
 {
     double Supply = Flow[y];
-    if (wSystemType == 1) Supply = PumpingHours[y] * Flow[y] / 24;
+    if (IsPumping()) Supply = PumpingHours[y] * Flow[y] / 24;
     const double Demand = wVaryingDemand == 1 ? DemandFactor * wDemand[y] : wFlowrate * DemandFactor;
     return Ordered(Checked(Demand)) >= Ordered(Checked(Supply)) ? Supply : Demand;
 }
@@ -103,18 +91,11 @@ void ComputeAnnualCosts()
     for (int y = 1; y <= wLife; ++y) ComputeMaintenance(y);
     ComputeOperation();
     for (int y = 1; y <= wLife; ++y) {
-        if (wSystemType == 1)
+        if (IsPumping())
             ComputeEnergy(y);
         else
             EnergyCost[y] = 0;
     }
-}
-
-void ResetAnnualCosts()
-{
-    for (ByYear* Series : {&IncomeSeries, &MaintPipeline, &MaintMechanical, &MaintElectrical, &MaintTotal,
-                           &OperationalCost, &EnergyCostWork, &EnergyCost})
-        Series->Fill(0);
 }
 
 } // namespace velorix

@@ -1,8 +1,7 @@
 // Polynomials of the discounted sums.
 #include "cost/RateBounds.h"
 
-#include "cost/AnnualCosts.h"
-#include "cost/CapitalCost.h"
+#include "cost/CostResults.h"
 #include "model/WorkingSet.h"
 
 #include <algorithm>

@@ -4,18 +4,13 @@
 #include "cost/RateOfReturn.h"
 
 #include "base/Arithmetic.h"
-#include "cost/AnnualCosts.h"
-#include "cost/CapitalCost.h"
+#include "cost/CostResults.h"
 #include "cost/RateBounds.h"
 #include "model/WorkingSet.h"
 
 #include <cmath>
 
 namespace velorix {
-
-Single Irr;
-BoundedArray<Single, 0, 200000> IrrRate;
-BoundedArray<double, 0, 200000> IrrDifference;
 
 namespace {
 
@@ -211,13 +206,6 @@ void FindRateOfReturn()
     const int k = Change.Rate();
     ClearArithmeticFlags();
     TakeReturn(k, k > 0 ? WorthAt(k - 1) : Worth(), WorthAt(k));
-}
-
-void ResetRateOfReturn()
-{
-    Irr = 0;
-    IrrRate.Fill(0);
-    IrrDifference.Fill(0);
 }
 
 } // namespace velorix

@@ -2,7 +2,7 @@
 #include "hydraulics/CurveHeads.h"
 
 #include "base/Arithmetic.h"
-#include "hydraulics/DutyPoint.h"
+#include "hydraulics/HydraulicResults.h"
 #include "hydraulics/SystemCurve.h"
 
 namespace velorix {

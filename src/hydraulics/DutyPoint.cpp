@@ -3,30 +3,14 @@
 
 #include "base/Arithmetic.h"
 #include "hydraulics/CurveHeads.h"
+#include "hydraulics/HydraulicResults.h"
 #include "hydraulics/SystemCurve.h"
 #include "model/WorkingSet.h"
-#include "platform/Platform.h"
-#include "screens/DutyPointScreen.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace velorix {
-
-Single OperatingFlow;
-Array1<Single, CurvePoints> SystemHead;
-std::int16_t AnalysisYear = 0;
-SystemCurves SystemHeadByYear;
-SystemCurves SystemFlowByYear;
-Single DutyHead;
-Single DutyFlow;
-Single DutyEfficiencyPoint;
-Single DutyEfficiency;
-ByYear Efficiency;
-ByYear PumpHead;
-ByYear PumpFlow;
-ByYear PumpEfficiencyByYear;
-std::int16_t AnalysisAborted = 0;
 
 namespace {
 
@@ -154,15 +138,6 @@ bool PickPoint(const PumpCurvePoints& Pump, int Segment, CurveHeads& Heads)
     return true;
 }
 
-void ReportNoDutyPoint()
-{
-    Warn("The pump curve does not intersect the system curve for year " + std::to_string(AnalysisYear),
-         "Error");
-    System().ShowModal(frmDutyPoint);
-    AnalysisAborted = -1;
-    ClearArithmeticFlags(); // the screens' own arithmetic is no part of the analysis
-}
-
 } // namespace
 
 bool FindDutyPoint(Tables Wanted)
@@ -170,21 +145,7 @@ bool FindDutyPoint(Tables Wanted)
     CurveHeads Heads(Wanted);
     const PumpCurvePoints Pump = PumpCurveInMetres();
     const int Segment = CrossedSegment(Pump, Heads, 1, CurvePoints);
-    const bool Found = Segment != 0 && PickPoint(Pump, Segment, Heads);
-    if (!Found) ReportNoDutyPoint();
-    return Found;
-}
-
-void ResetDutyPoint()
-{
-    for (Single* Scalar : {&OperatingFlow, &DutyHead, &DutyFlow, &DutyEfficiencyPoint, &DutyEfficiency})
-        *Scalar = 0;
-    for (ByYear* Yearly : {&Efficiency, &PumpHead, &PumpFlow, &PumpEfficiencyByYear}) Yearly->Fill(0);
-    SystemHead.Fill(0);
-    SystemHeadByYear.Fill(0);
-    SystemFlowByYear.Fill(0);
-    AnalysisYear = 0;
-    AnalysisAborted = 0;
+    return Segment != 0 && PickPoint(Pump, Segment, Heads);
 }
 
 } // namespace velorix

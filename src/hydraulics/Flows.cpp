@@ -8,20 +8,10 @@
 #include "hydraulics/GravityFlow.h"
 #include "hydraulics/PumpingHeads.h"
 #include "model/WorkingSet.h"
-#include "platform/Platform.h"
 
 #include <algorithm>
 
 namespace velorix {
-
-ByYear KsYear;
-ByRowAndYear Lambda;
-ByRowAndYear FrictionLoss;
-ByRowAndYear SecondaryHeadLoss;
-YearTable<Single, 0, MaxRows, MaxYears> Gradeline;
-ByYear Flow;
-std::int16_t HighPointAdjusted = 0;
-std::int16_t HydraulicsFailed = 0;
 
 namespace {
 
@@ -123,14 +113,19 @@ void SolveGravity()
     }
 }
 
-void SolvePumpCurve(Tables Wanted)
+// The year without a duty point goes on with the flow that stands, and the loop ends in the next one.
+void SolvePumpCurve(Tables Wanted, const FlowEvents& Events)
 {
     for (int y = 1; y <= wLife; ++y) {
         StoreFrictionFactors(y);
         AnalysisYear = static_cast<std::int16_t>(y);
         if (AnalysisAborted != 0) return;
 
-        FindDutyPoint(Wanted);
+        if (!FindDutyPoint(Wanted)) {
+            if (Events.DutyPointMissing) Events.DutyPointMissing();
+            AnalysisAborted = -1;
+            ClearArithmeticFlags(); // what the event worked out is no part of the analysis
+        }
         Flow[y] = OperatingFlow;
         Efficiency[y] = DutyEfficiency;
         StorePumpingYear(y);
@@ -150,41 +145,29 @@ void SolveGivenFlow()
     }
 }
 
-void SolveAllYears(Tables Wanted)
+void SolveAllYears(Tables Wanted, const FlowEvents& Events)
 {
     StoreRoughness();
-    if (wSystemType != 1)
+    if (!IsPumping())
         SolveGravity();
     else if (wPumpDetails == 0)
         SolveGivenFlow();
     else
-        SolvePumpCurve(Wanted);
+        SolvePumpCurve(Wanted, Events);
 }
 
 } // namespace
 
-void SolveFlows(Tables Wanted)
+void SolveFlows(Tables Wanted, const FlowEvents& Events)
 {
     HydraulicsFailed = 0;
     ClearArithmeticFlags();
     try {
-        SolveAllYears(Wanted);
+        SolveAllYears(Wanted, Events);
     } catch (const Failure&) {
         HydraulicsFailed = 1;
-        Warn("Could not determine the hydraulic gradeline. Please check input data", "Velorix Error");
+        if (Events.Failed) Events.Failed();
     }
-}
-
-void ResetFlows()
-{
-    KsYear.Fill(0);
-    Lambda.Fill(0);
-    FrictionLoss.Fill(0);
-    SecondaryHeadLoss.Fill(0);
-    Gradeline.Fill(0);
-    Flow.Fill(0);
-    HighPointAdjusted = 0;
-    HydraulicsFailed = 0;
 }
 
 } // namespace velorix

@@ -3,10 +3,10 @@
 
 #include "base/Arithmetic.h"
 #include "base/Arrays.h"
-#include "hydraulics/Flows.h"
 #include "hydraulics/HighPoint.h"
 #include "hydraulics/Kernels.h"
 #include "hydraulics/LossCoefficients.h"
+#include "hydraulics/Normalise.h"
 #include "hydraulics/RowLosses.h"
 #include "model/WorkingSet.h"
 

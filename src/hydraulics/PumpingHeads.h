@@ -2,12 +2,11 @@
 #pragma once
 
 #include "base/Arithmetic.h"
-#include "hydraulics/Normalise.h"
+#include "hydraulics/HydraulicResults.h"
 
 namespace velorix {
 
-using HeadList =
-    BoundedArray<Single, 0, MaxRows>; // point i is the head at row i (m); point 0 is the caller's
+using HeadList = ByPointAndYear::Column; // point i is the head at row i (m); point 0 is the caller's
 
 // From DownstreamLevel at the last row back to row 1, each section's losses on top. Where a row would lie
 // more than a metre of head below ground, the whole list is lifted until the lowest has a pressure head of -1

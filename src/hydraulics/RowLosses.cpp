@@ -1,8 +1,8 @@
 // One loop over the rows, without a test inside, that the compiler makes vectors of.
 #include "hydraulics/RowLosses.h"
 
-#include "hydraulics/Flows.h"
 #include "hydraulics/Formulas.h"
+#include "hydraulics/HydraulicResults.h"
 #include "model/WorkingSet.h"
 
 namespace velorix {

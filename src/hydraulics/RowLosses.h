@@ -1,7 +1,7 @@
 // The losses of all rows at one flow.
 #pragma once
 
-#include "hydraulics/Normalise.h"
+#include "hydraulics/HydraulicResults.h"
 
 #include <array>
 

@@ -2,8 +2,6 @@
 #include "hydraulics/SystemCurve.h"
 
 #include "base/Arithmetic.h"
-#include "hydraulics/DutyPoint.h"
-#include "hydraulics/Flows.h"
 #include "hydraulics/Kernels.h"
 #include "hydraulics/PumpingHeads.h"
 #include "hydraulics/RowLosses.h"

@@ -50,17 +50,6 @@ Array1<std::string, 21> MakeComponentTable()
     return Table;
 }
 
-// The node count that the arrays spell.
-int CountNodes()
-{
-    for (int Row = 1; Row <= wElevation.LastIndex; ++Row) {
-        const bool Zero = wElevation[Row] == 0.0 && wAccLength[Row] == 0.0;
-        const bool Unused = wElevation[Row] == UnusedNode && wAccLength[Row] == UnusedNode;
-        if (Zero || Unused) return std::max(Row - 1, LeastNodes);
-    }
-    return wElevation.LastIndex - 1;
-}
-
 std::string ComponentText(int NodeDesc)
 {
     const int Entry = NodeDesc + 1;

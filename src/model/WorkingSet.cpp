@@ -3,6 +3,8 @@
 
 #include "base/Text.h"
 
+#include <algorithm>
+
 namespace velorix {
 
 #define VELORIX_INT16(Name, Offset, Count) FieldOf<std::int16_t, Count> w##Name{};
@@ -96,6 +98,24 @@ void CopyWorkingSetToRecord()
 #undef VELORIX_STORE
 #undef VELORIX_COMMON_FIELDS
 #undef VELORIX_PUMPING_FIELDS
+
+int CountNodes()
+{
+    constexpr int LeastNodes = 2;
+    for (int Row = 1; Row <= wElevation.LastIndex; ++Row) {
+        const bool Zero = wElevation[Row] == 0.0 && wAccLength[Row] == 0.0;
+        const bool Unused = wElevation[Row] == UnusedNode && wAccLength[Row] == UnusedNode;
+        if (Zero || Unused) return std::max(Row - 1, LeastNodes);
+    }
+    return wElevation.LastIndex - 1;
+}
+
+void OpenRecord(const ProjectFields& Record)
+{
+    ProjectRecord = Record;
+    CopyRecordToWorkingSet();
+    NodeCount = CountNodes();
+}
 
 void ResetWorkingSet()
 {
