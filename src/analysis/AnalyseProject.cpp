@@ -19,7 +19,7 @@
 namespace velorix {
 namespace {
 
-void ShowProgress(int Percent)
+void ShowAnalysisProgress(int Percent)
 {
     frmAnalyse.proBar.Value = Percent;
     System().Repaint();
@@ -41,16 +41,16 @@ void ShowDutyCommand()
 void HandOverToResults()
 {
     ShowHeadlines();
-    ShowProgress(75);
+    ShowAnalysisProgress(75);
     ShowDutyCommand();
-    ShowProgress(80);
+    ShowAnalysisProgress(80);
     FillCapitalCostTable();
-    ShowProgress(85);
+    ShowAnalysisProgress(85);
     FillCombos();
-    ShowProgress(90);
+    ShowAnalysisProgress(90);
     TakeProfileForPlot();
-    ShowProgress(95);
-    ShowProgress(100);
+    ShowAnalysisProgress(95);
+    ShowAnalysisProgress(100);
 }
 
 // Comes within the year: the dialog shows the curves as they stand.
@@ -85,10 +85,10 @@ Single SupervisionOnScreen()
 void FollowFigures(Milestone Reached)
 {
     switch (Reached) {
-    case Milestone::Inputs: LoadResultsHidden(); return ShowProgress(55);
-    case Milestone::Supply: return ShowProgress(60);
-    case Milestone::Hours: return ShowProgress(65);
-    case Milestone::Income: return ShowProgress(70);
+    case Milestone::Inputs: LoadResultsHidden(); return ShowAnalysisProgress(55);
+    case Milestone::Supply: return ShowAnalysisProgress(60);
+    case Milestone::Hours: return ShowAnalysisProgress(65);
+    case Milestone::Income: return ShowAnalysisProgress(70);
     }
 }
 

@@ -57,7 +57,7 @@ std::string AnalyseOne(const std::filesystem::path& File, bool WantsCsv)
     return Report.dump();
 }
 
-void ShowProgress(int Done, int Count)
+void ShowCount(int Done, int Count)
 {
     constexpr int Width = 40;
     const std::string Bar(static_cast<std::size_t>(Width * Done / Count), '#');
@@ -174,7 +174,7 @@ int AnalyseFiles(const AnalyseOptions& Options)
         Count, Options.Jobs,
         [&](int Index) { return AnalyseOne(Options.Files[static_cast<std::size_t>(Index)], WantsCsv); },
         [&](int Done) {
-            if (Progress) ShowProgress(Done, Count);
+            if (Progress) ShowCount(Done, Count);
         });
 
     int Status = AllStood;

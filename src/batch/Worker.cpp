@@ -1,11 +1,12 @@
-// Worker processes over fork and pipes.
+// Worker processes over fork, each with a file in memory for its report.
 #include "batch/Worker.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
+#include <cstdio>
 #include <exception>
-#include <poll.h>
+#include <memory>
+#include <sys/mman.h>
 #include <sys/wait.h>
 #include <system_error>
 #include <unistd.h>
@@ -13,30 +14,19 @@
 namespace velorix {
 namespace {
 
-// A running worker and what it has sent so far.
+struct CloseFile {
+    void operator()(std::FILE* Open) const { std::fclose(Open); }
+};
+
 struct Running {
     int Index = 0;
     pid_t Process = 0;
-    int Pipe = -1;
-    std::string Sent;
-    int ReadError = 0; // of the pipe, by the system's number
+    std::unique_ptr<std::FILE, CloseFile> Report{};
 };
-
-// False when the parent has gone.
-bool SendAll(int Pipe, const std::string& Bytes)
-{
-    std::size_t Done = 0;
-    while (Done < Bytes.size()) {
-        const ssize_t Step = ::write(Pipe, Bytes.data() + Done, Bytes.size() - Done);
-        if (Step < 0 && errno != EINTR) return false;
-        if (Step > 0) Done += static_cast<std::size_t>(Step);
-    }
-    return true;
-}
 
 // The worker's whole life. The first byte tells an output from an error. It leaves without the parent's exit
 // handlers and buffers, which are not its own.
-[[noreturn]] void BeWorker(int Pipe, int Index, const std::function<std::string(int)>& Work)
+[[noreturn]] void BeWorker(std::FILE* Target, int Index, const std::function<std::string(int)>& Work)
 {
     std::string Report;
     try {
@@ -46,30 +36,25 @@ bool SendAll(int Pipe, const std::string& Bytes)
     } catch (...) { // nothing may unwind into the parent's code, which runs in the parent
         Report = "-the analysis ended with an unknown failure";
     }
-    ::_exit(SendAll(Pipe, Report) ? 0 : 1);
+    const bool Written = std::fwrite(Report.data(), 1, Report.size(), Target) == Report.size();
+    ::_exit(Written && std::fflush(Target) == 0 ? 0 : 1);
 }
 
-// Adds a worker to those that run. Returns 0, or the system's error number when it has no handle or process
-// to spare.
+// Adds a worker to those that run. Returns 0, or the system's error number when it has no file or process to
+// spare.
 int StartWorker(int Index, const std::function<std::string(int)>& Work, std::vector<Running>& Workers)
 {
-    int Ends[2];
-    if (::pipe(Ends) != 0) return errno;
-    const pid_t Process = ::fork();
-    if (Process < 0) {
-        const int Error = errno;
-        ::close(Ends[0]);
-        ::close(Ends[1]);
-        return Error;
+    Running Started{.Index = Index};
+    const int Handle = ::memfd_create("report", 0); // asks for no folder that can be written
+    if (Handle >= 0) Started.Report.reset(::fdopen(Handle, "w+"));
+    if (!Started.Report) return errno;
+    Started.Process = ::fork();
+    if (Started.Process < 0) return errno;
+    if (Started.Process == 0) {
+        Workers.clear(); // the files of the others are of no use here, and their handles may be the last
+        BeWorker(Started.Report.get(), Index, Work);
     }
-    if (Process == 0) {
-        // The pipes of the others are of no use here, and their handles may be the last.
-        for (const Running& Each : Workers) ::close(Each.Pipe);
-        ::close(Ends[0]);
-        BeWorker(Ends[1], Index, Work);
-    }
-    ::close(Ends[1]);
-    Workers.push_back({.Index = Index, .Process = Process, .Pipe = Ends[0], .Sent = {}});
+    Workers.push_back(std::move(Started));
     return 0;
 }
 
@@ -88,33 +73,25 @@ int StartWorkers(int Next, int Count, int Jobs, const std::function<std::string(
     return Next;
 }
 
-WorkerOutcome Conclude(const Running& Ended)
+std::string ReadBack(std::FILE* Report)
 {
-    int Status = 0;
-    pid_t Waited = 0;
-    do Waited = ::waitpid(Ended.Process, &Status, 0);
-    while (Waited < 0 && errno == EINTR);
-    if (Waited < 0) return {{}, std::string("the end of the analysis isn't known: ") + std::strerror(errno)};
-    if (Ended.ReadError != 0)
-        return {{}, std::string("the result can't be received: ") + std::strerror(Ended.ReadError)};
+    std::string Bytes;
+    char Buffer[65536];
+    std::rewind(Report);
+    while (const std::size_t Step = std::fread(Buffer, 1, sizeof Buffer, Report)) Bytes.append(Buffer, Step);
+    return std::ferror(Report) ? std::string("-the result can't be read") : Bytes;
+}
+
+WorkerOutcome Conclude(const Running& Ended, int Status)
+{
     if (WIFSIGNALED(Status))
         return {{}, "the analysis was ended by signal " + std::to_string(WTERMSIG(Status))};
     if (WEXITSTATUS(Status) != 0)
         return {{}, "the analysis ended with status " + std::to_string(WEXITSTATUS(Status))};
-    if (Ended.Sent.empty()) return {{}, "the analysis ended without a result"};
-    if (Ended.Sent.front() == '-') return {{}, Ended.Sent.substr(1)};
-    return {Ended.Sent.substr(1), {}};
-}
-
-// Reads what the worker has sent; false once there is no more to come.
-bool Receive(Running& Worker)
-{
-    char Buffer[65536];
-    const ssize_t Step = ::read(Worker.Pipe, Buffer, sizeof Buffer);
-    if (Step < 0 && errno == EINTR) return true;
-    if (Step < 0) Worker.ReadError = errno;
-    if (Step > 0) Worker.Sent.append(Buffer, static_cast<std::size_t>(Step));
-    return Step > 0;
+    const std::string Report = ReadBack(Ended.Report.get());
+    if (Report.empty()) return {{}, "the analysis ended without a result"};
+    if (Report.front() == '-') return {{}, Report.substr(1)};
+    return {Report.substr(1), {}};
 }
 
 } // namespace
@@ -128,20 +105,16 @@ std::vector<WorkerOutcome> RunWorkers(int Count, int Jobs, const std::function<s
     int Done = 0;
     while (Done < Count) {
         Next = StartWorkers(Next, Count, std::max(1, Jobs), Work, Workers);
-
-        std::vector<pollfd> Pipes;
-        for (const Running& Each : Workers) Pipes.push_back({Each.Pipe, POLLIN, 0});
-        if (::poll(Pipes.data(), Pipes.size(), -1) < 0) {
-            if (errno == EINTR) continue;
-            throw std::system_error(errno, std::generic_category(), "poll");
-        }
-        for (std::size_t Index = Pipes.size(); Index-- > 0;) {
-            if (Pipes[Index].revents == 0 || Receive(Workers[Index])) continue;
-            ::close(Workers[Index].Pipe);
-            Outcomes[static_cast<std::size_t>(Workers[Index].Index)] = Conclude(Workers[Index]);
-            Workers.erase(Workers.begin() + static_cast<std::ptrdiff_t>(Index));
-            Ended(++Done);
-        }
+        int Status = 0;
+        const pid_t Process = ::waitpid(-1, &Status, 0);
+        if (Process < 0 && errno == EINTR) continue;
+        if (Process < 0) throw std::system_error(errno, std::generic_category(), "waitpid");
+        const auto Found = std::find_if(Workers.begin(), Workers.end(),
+                                        [&](const Running& Each) { return Each.Process == Process; });
+        if (Found == Workers.end()) continue; // a process of somebody else
+        Outcomes[static_cast<std::size_t>(Found->Index)] = Conclude(*Found, Status);
+        Workers.erase(Found);
+        Ended(++Done);
     }
     return Outcomes;
 }

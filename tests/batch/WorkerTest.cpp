@@ -35,7 +35,7 @@ TEST(WorkerTest, FailuresStayWithTheirOwnWork)
     }
 }
 
-// Far more than a pipe holds, and the first of two waits for the second.
+// Far more than a buffer holds, and the first of two waits for the second.
 TEST(WorkerTest, LargeOutputsOfTwoAtATimeComeWholeAndInOrder)
 {
     constexpr std::size_t Large = 5'000'000;
