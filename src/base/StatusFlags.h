@@ -28,7 +28,8 @@ inline unsigned FailureFlagsAfter(float& Value)
 #endif
 }
 
-// Puts all flags back.
+// Puts all flags back. On x86-64 those of the old unit as well: no arithmetic here uses it, but the library
+// mixes them in when it saves and restores the flags.
 inline void ClearStatusFlags()
 {
 #if defined(__x86_64__) && defined(__GNUC__)
@@ -36,7 +37,7 @@ inline void ClearStatusFlags()
     unsigned Register;
     asm volatile("stmxcsr %0" : "=m"(Register) : : "memory");
     Register &= ~AllFlags;
-    asm volatile("ldmxcsr %0" : : "m"(Register) : "memory");
+    asm volatile("fnclex\n\tldmxcsr %0" : : "m"(Register) : "memory");
 #elif defined(__aarch64__) && defined(__GNUC__)
     constexpr unsigned long AllFlags = 0x9F;
     unsigned long Register;
