@@ -45,7 +45,7 @@ void DiameterUnitsChosen()
     if (Chosen < 0 || Chosen == wDiameterUnits) return;
     ReadUnit(frmLCC.comDiameterUnits, wDiameterUnits);
     FillProfileGrid();
-    SettleGridEditor(frmLCC.msgProfile);
+    GridFilled(frmLCC.msgProfile);
 }
 
 // The commit reads the selector of the gravity frame for both kinds of system.
@@ -110,7 +110,7 @@ void ConnectBar(ScrollBar& Bar, Label& Reading, std::int16_t& Stored, std::strin
 void RefillDemand()
 {
     FillDemandGrid(frmLCC.msgDemand);
-    SettleGridEditor(frmLCC.msgDemand);
+    GridFilled(frmLCC.msgDemand);
 }
 
 void ConnectBars()
