@@ -169,14 +169,5 @@ TEST_F(RateOfReturnTest, FoundFromBoundsItIsTheReturnOfTheScan)
     EXPECT_LT(Kept, 800);
 }
 
-// The scan would fill the tables.
-TEST_F(RateOfReturnTest, FoundFromBoundsWithoutTheTables)
-{
-    DescribeScheme(30, 2);
-    FindRateOfReturn();
-    EXPECT_NE(Irr, 0);
-    EXPECT_EQ(IrrRate[LastRate], 0);
-}
-
 } // namespace
 } // namespace velorix
