@@ -48,7 +48,7 @@ std::string AnalyseOne(const std::filesystem::path& File, bool WantsCsv)
     StartSession();
     FileName = File.string();
     LoadProject();
-    AnalyseProject();
+    AnalyseProject(Tables::LeftOut);
 
     const AnalysisResults Results = CollectResults(Windows.Messages);
     Json Report = {
