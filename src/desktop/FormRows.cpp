@@ -11,7 +11,9 @@
 #include <QPointer>
 #include <QScrollArea>
 #include <QSpinBox>
+#include <QStackedWidget>
 #include <QStyle>
+#include <QTabWidget>
 
 #include <algorithm>
 #include <memory>
@@ -86,6 +88,16 @@ QWidget* InBox(QBoxLayout::Direction Direction, const std::vector<QWidget*>& Wid
         else
             Layout->addStretch(1);
     return Box;
+}
+
+// Whether the page of tabs that holds the widget is the one on top.
+bool OnTopPage(const QWidget* Held)
+{
+    for (; Held; Held = Held->parentWidget())
+        if (const auto* Pages = qobject_cast<QStackedWidget*>(Held->parentWidget());
+            Pages && qobject_cast<QTabWidget*>(Pages->parentWidget()))
+            return Pages->currentWidget() == Held;
+    return true;
 }
 
 } // namespace
@@ -208,7 +220,7 @@ void WhenShown(QWidget* Watched, std::function<void(bool)> Then)
 
 void StandInFor(QWidget* Pane, QWidget* Content, QWidget* FirstField)
 {
-    // The focus comes back to where it was, unless it has gone elsewhere by itself.
+    // The focus comes back to where it was, unless the user has left the page since.
     const auto Before = std::make_shared<QPointer<QWidget>>();
     WhenShown(Pane, [Pane, Content, FirstField, Before](bool Shown) {
         QWidget* const Now = Pane->window()->focusWidget();
@@ -216,7 +228,7 @@ void StandInFor(QWidget* Pane, QWidget* Content, QWidget* FirstField)
         Content->setVisible(!Shown);
         if (Shown)
             FirstField->setFocus();
-        else if (*Before)
+        else if (*Before && OnTopPage(Pane))
             (*Before)->setFocus();
     });
 }

@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QProcess>
 #include <QScopedValueRollback>
@@ -68,13 +69,29 @@ void SetButtons(QMessageBox& Box, MessageButtons Buttons)
     }
 }
 
+// A text whose lines can be broken anywhere in a long name: the toolkit would cut what it can't break.
+QString Breakable(const QString& Text)
+{
+    constexpr int LongestPiece = 24;
+    QString Result;
+    int Piece = 0;
+    for (const QChar Each : Text) {
+        Result += Each;
+        Piece = Each.isSpace() || Each == '/' || Each == '-' ? 0 : Piece + 1;
+        if (Piece < LongestPiece || Each.isHighSurrogate()) continue;
+        Result += QChar(0x200B); // a blank without width
+        Piece = 0;
+    }
+    return Result;
+}
+
 // Plain, as the text above it: a file name may look like markup. With room for that text, which the toolkit
 // would wrap by the length of the detail's words.
-void ShowDetail(QMessageBox& Box, const QString& Detail)
+void ShowDetail(QMessageBox& Box, const QString& Text)
 {
     constexpr int LeastWidth = 320;
     constexpr int Room = 12;
-    Box.setInformativeText(Detail);
+    Box.setInformativeText(Breakable(Text));
     auto* const Shown = Box.findChild<QLabel*>("qt_msgbox_informativelabel");
     if (!Shown) return;
     Shown->setTextFormat(Qt::PlainText);
@@ -244,6 +261,9 @@ void QtPlatform::SetFocus(Control& Target)
     if (!View) return;
     // On a page that doesn't show the focus stays in reach: on the tabs that lead there.
     NearestInReach(View)->setFocus(Qt::OtherFocusReason);
+    // A window that isn't active yet, as behind a message box, hands the focus on later, for another reason.
+    if (auto* const Line = qobject_cast<QLineEdit*>(View); Line && Line->focusPolicy() & Qt::TabFocus)
+        Line->selectAll();
     if (!View->hasFocus()) TellFocus(Target); // nor while another window is in front
 }
 

@@ -203,6 +203,7 @@ TEST_F(SessionTest, ASaveUnderAnotherNameLeavesTheFocusWhereItWas)
 {
     for (int SystemType : {0, 1}) {
         Start(SystemType);
+        frmLCC.sstInput.Tab = 0;
         Fill(frmLCC.txtProject, "Ridge main");
         Fill(frmLCC.txtDesigner, "M. Naidoo");
         for (TextBox* Each : {&frmLCC.txtDesigner, SystemType == 0 ? &frmLCC.txtTRWL : &frmLCC.txtPPRWL}) {
@@ -211,6 +212,14 @@ TEST_F(SessionTest, ASaveUnderAnotherNameLeavesTheFocusWhereItWas)
             EXPECT_TRUE(FocusTarget(*Each)->hasFocus()) << Each->ToolTip;
             EXPECT_EQ(MDIProject.StatusText.Caption.Get(), Each->ToolTip);
         }
+
+        // A pane that stands open on another page is closed by the load, and hands its focus to nobody.
+        frmLCC.sstInput.Tab = 1;
+        frmLCC.sscLaying.Click();
+        frmLCC.sstInput.Tab = 3;
+        FocusTarget(frmLCC.txtDiscountRate)->setFocus();
+        Press(Qt::Key_S, Qt::ControlModifier);
+        EXPECT_TRUE(FocusTarget(frmLCC.txtDiscountRate)->hasFocus());
     }
 }
 
