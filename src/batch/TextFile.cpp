@@ -2,6 +2,7 @@
 #include "batch/TextFile.h"
 
 #include "base/Failure.h"
+#include "base/NewFile.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -33,6 +34,14 @@ Stream Open(const std::filesystem::path& Path, const char* Mode, const std::stri
     return Opened;
 }
 
+// A pipe or a device, or an open file by its number, such as /dev/stdout: it takes the bytes as they come.
+bool IsStream(const std::filesystem::path& Path)
+{
+    std::error_code Unknown;
+    const std::string Folder = std::filesystem::weakly_canonical(Path.parent_path(), Unknown).string();
+    return std::filesystem::is_other(Path, Unknown) || Folder == "/dev" || Folder.starts_with("/proc/");
+}
+
 } // namespace
 
 std::string ReadText(const std::filesystem::path& Path, std::size_t Longest)
@@ -50,10 +59,16 @@ std::string ReadText(const std::filesystem::path& Path, std::size_t Longest)
 
 void WriteText(const std::filesystem::path& Path, const std::string& Text)
 {
-    Stream Target = Open(Path, "wb", "write");
-    const bool Written = std::fwrite(Text.data(), 1, Text.size(), Target.get()) == Text.size();
-    if (!Written) Fail("write", Quoted(Path), std::strerror(errno));
-    if (std::fclose(Target.release()) != 0) Fail("write", Quoted(Path), std::strerror(errno));
+    if (IsStream(Path)) {
+        Stream Target = Open(Path, "wb", "write");
+        const bool Written = std::fwrite(Text.data(), 1, Text.size(), Target.get()) == Text.size();
+        if (!Written) Fail("write", Quoted(Path), std::strerror(errno));
+        if (std::fclose(Target.release()) != 0) Fail("write", Quoted(Path), std::strerror(errno));
+        return;
+    }
+    NewFile Target(Path);
+    Target.Append(Text);
+    Target.Commit(NewFile::Flush::No);
 }
 
 void WriteOut(const std::string& Text)

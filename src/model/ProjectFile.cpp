@@ -2,8 +2,10 @@
 #include "model/ProjectFile.h"
 
 #include "base/Arithmetic.h"
-#include "model/File.h"
-#include "model/WriteNote.h"
+#include "base/Failure.h"
+#include "base/NewFile.h"
+
+#include <algorithm>
 
 namespace velorix {
 namespace {
@@ -24,18 +26,6 @@ std::uintmax_t StartOf(std::int64_t Record)
     return static_cast<std::uintmax_t>(Record - 1) * RecordLength;
 }
 
-// After a failed write. Where even the old bytes can't be put back, the note stays for the next use of the
-// file; the failure that the user is told of is the first one.
-void PutBack(const std::filesystem::path& Path, File& Target, const PendingWrite& Change)
-{
-    try {
-        UndoWrite(Target, Change);
-        ForgetNote(Path);
-    } catch (const FileFailure&) {
-        return;
-    }
-}
-
 } // namespace
 
 std::int64_t RecordNumber(std::uintmax_t FileLength)
@@ -45,38 +35,23 @@ std::int64_t RecordNumber(std::uintmax_t FileLength)
 
 ProjectFields ReadProjectFile(const std::filesystem::path& Path)
 {
-    const std::optional<PendingWrite> Unfinished = CompleteInterruptedWrite(Path);
     const File Source = File::OpenToRead(Path);
-    const std::uintmax_t Start = StartOf(std::max<std::int64_t>(1, RecordNumber(Source.Length())));
-    if (Unfinished && Unfinished->Start == Start) return FromImage(Unfinished->New);
-    return FromImage(ReadImage(Source, Start));
+    Source.WaitForLock(File::Lock::Read); // given up on a program that stopped in the middle of its write
+    return FromImage(ReadImage(Source, StartOf(std::max<std::int64_t>(1, RecordNumber(Source.Length())))));
 }
 
 void WriteProjectFile(const std::filesystem::path& Path, const ProjectFields& Record, ShortFile Rule)
 {
-    CompleteInterruptedWrite(Path);
-    std::error_code Unknown;
-    const bool New =
-        std::filesystem::symlink_status(Path, Unknown).type() == std::filesystem::file_type::not_found;
-    File Target = File::OpenToWrite(Path);
-    const std::uintmax_t Length = Target.Length();
-    std::int64_t Number = RecordNumber(Length);
-    if (Number == 0 && Rule == ShortFile::Fails)
+    NewFile Target(Path);
+    const std::int64_t Number = Target.Old() != nullptr ? RecordNumber(Target.Old()->Length()) : 0;
+    if (Number == 0 && Rule == ShortFile::Fails) {
+        if (Target.Old() == nullptr) Target.Commit(); // a file that has vanished comes back empty
         throw FileFailure("Can't write \"" + Path.string() + "\": the file holds no project to replace");
-    if (Number == 0) Number = 1;
-
-    const std::uintmax_t Start = StartOf(Number);
-    const PendingWrite Change = {Start, Length, ReadImage(Target, Start), ToImage(Record)};
-    if (Length > Start) NoteWrite(Path, Change);
-    try {
-        Target.Write(Start, Change.New.data(), Change.New.size());
-        Target.Flush();
-    } catch (const FileFailure&) {
-        PutBack(Path, Target, Change);
-        if (New) std::filesystem::remove(Path, Unknown); // opened, an empty file would pass for a project
-        throw;
     }
-    ForgetNote(Path);
+    const RecordImage Image = ToImage(Record);
+    Target.KeepOldBytes();
+    Target.Write(StartOf(std::max<std::int64_t>(1, Number)), Image.data(), Image.size());
+    Target.Commit();
 }
 
 } // namespace velorix

@@ -21,10 +21,9 @@ ProjectFields ReadProjectFile(const std::filesystem::path& Path);
 enum class ShortFile { Fails, TakesRecordOne };
 
 // Writes the record over the one that RecordNumber selects, and creates the file where there is none; all
-// other bytes of the file stay, and so do its links and permissions. Either the old or the new record stands
-// afterwards, also when the write is cut short: the change is noted in a file beside it until it is complete,
-// where the folder takes files. Throws FileFailure, with the file as it was, when the record can't be
-// written.
+// other bytes of the file stay. Either the old or the new file stands afterwards, also when the write is cut
+// short, and programs that write one file take turns: as NewFile has it. Throws FileFailure, with the file as
+// it was, when the record can't be written; only a file that has vanished is empty after a save in place.
 void WriteProjectFile(const std::filesystem::path& Path, const ProjectFields& Record, ShortFile Rule);
 
 } // namespace velorix

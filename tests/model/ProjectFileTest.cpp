@@ -1,12 +1,10 @@
-// Reading and writing of project files, and what is left when they fail.
+// Reading and writing of project files: which record, and what becomes of the rest.
 #include "model/ProjectFile.h"
 #include "base/Failure.h"
+#include "base/File.h"
 #include "input/ProjectTest.h"
-#include "model/WriteNote.h"
 
-#include <csignal>
 #include <gmock/gmock.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace velorix {
@@ -23,19 +21,6 @@ protected:
         Record.Reserved1 = Single::FromBits(0x7FA12345); // a signalling NaN: nothing may touch it
         SetText(Record.Project, "Sample");
         return Record;
-    }
-
-    // The limit on file sizes stands for a disk without room: a write beyond it fails half-way.
-    static void WithRoomFor(rlim_t Room, const std::function<void()>& Work)
-    {
-        rlimit Before{};
-        ::getrlimit(RLIMIT_FSIZE, &Before);
-        const rlimit Tight{Room, Before.rlim_max};
-        const auto Handler = std::signal(SIGXFSZ, SIG_IGN);
-        ::setrlimit(RLIMIT_FSIZE, &Tight);
-        Work();
-        ::setrlimit(RLIMIT_FSIZE, &Before);
-        std::signal(SIGXFSZ, Handler);
     }
 
     const std::string Sample = BytesOf(SampleRecord());
@@ -78,19 +63,43 @@ TEST_F(ProjectFileTest, OnlySaveAsWritesIntoAFileWithoutARecord)
     }
 }
 
-TEST_F(ProjectFileTest, LinksAndPermissionsStay)
+// A hard link is another name of the old file.
+TEST_F(ProjectFileTest, SymbolicLinksAndPermissionsStay)
 {
-    const std::string Path = WriteFile("real.vlx", Filled(16650, 'x'));
-    ASSERT_EQ(::chmod(Path.c_str(), 0640), 0);
-    std::filesystem::create_symlink(Path, Folder / "link.vlx");
+    const std::string Before = Filled(16650, 'x');
+    const std::string Path = WriteFile(Filled(251, 'n') + ".vlx", Before); // the longest name there is
+    ASSERT_EQ(::chmod(Path.c_str(), 0606), 0);
     std::filesystem::create_hard_link(Path, Folder / "twin.vlx");
+    std::filesystem::create_directory(Folder / "far");
+    std::filesystem::create_symlink(".." / std::filesystem::path(Path).filename(), Folder / "far/link.vlx");
+    std::filesystem::create_symlink("far/link.vlx", Folder / "link.vlx");
+    std::filesystem::create_symlink("new.vlx", Folder / "dangling.vlx");
 
     WriteProjectFile(Folder / "link.vlx", SampleRecord(), ShortFile::Fails);
-    EXPECT_TRUE(std::filesystem::is_symlink(Folder / "link.vlx"));
-    EXPECT_EQ(ReadFile(Folder / "twin.vlx"), Sample);
-    EXPECT_EQ(static_cast<int>(std::filesystem::status(Path).permissions()), 0640);
-    EXPECT_EQ(NotePath(Folder / "link.vlx"), NotePath(Path)); // all names find the same note
-    EXPECT_FALSE(std::filesystem::exists(NotePath(Path)));
+    EXPECT_EQ(ReadFile(Path), Sample);
+    EXPECT_EQ(static_cast<int>(std::filesystem::status(Path).permissions()), 0606);
+    EXPECT_EQ(ReadFile(Folder / "twin.vlx"), Before);
+    WriteProjectFile(Folder / "dangling.vlx", SampleRecord(), ShortFile::TakesRecordOne);
+    EXPECT_EQ(ReadFile(Folder / "new.vlx"), Sample);
+    for (const char* Each : {"far/link.vlx", "link.vlx", "dangling.vlx"})
+        EXPECT_TRUE(std::filesystem::is_symlink(Folder / Each)) << Each;
+}
+
+// 100 GB of nothing, and a record behind it.
+TEST_F(ProjectFileTest, HolesOfALongFileStayHoles)
+{
+    constexpr std::uintmax_t Start = 6000000 * std::uintmax_t{16650};
+    const std::string Path = WriteFile("long.vlx", "head");
+    std::filesystem::resize_file(Path, Start + 16650);
+    WriteProjectFile(Path, SampleRecord(), ShortFile::Fails);
+    EXPECT_EQ(BytesOf(ReadProjectFile(Path)), Sample);
+    EXPECT_EQ(std::filesystem::file_size(Path), Start + 16650);
+    std::string Head(4, ' ');
+    File::OpenToRead(Path).Read(0, Head.data(), Head.size());
+    EXPECT_EQ(Head, "head");
+    struct stat Status {};
+    ASSERT_EQ(::stat(Path.c_str(), &Status), 0);
+    EXPECT_LT(Status.st_blocks, 1000);
 }
 
 TEST_F(ProjectFileTest, WhatIsNoFileIsRefusedWithItsName)
@@ -99,78 +108,14 @@ TEST_F(ProjectFileTest, WhatIsNoFileIsRefusedWithItsName)
     for (const std::filesystem::path& Path : {Folder, Folder / "missing.vlx", Folder / "pipe"})
         EXPECT_THAT([&] { ReadProjectFile(Path); },
                     testing::ThrowsMessage<FileFailure>(testing::HasSubstr(Path.string())));
-    EXPECT_THROW(WriteProjectFile(Folder, SampleRecord(), ShortFile::TakesRecordOne), FileFailure);
-}
+    std::filesystem::create_symlink("loop", Folder / "loop");
+    for (const char* Each : {"", "pipe", "loop", "missing/main.vlx"})
+        EXPECT_THROW(WriteProjectFile(Folder / Each, SampleRecord(), ShortFile::TakesRecordOne), FileFailure);
+    EXPECT_FALSE(std::filesystem::exists(Folder / "missing"));
 
-TEST_F(ProjectFileTest, FullDiskLeavesTheFileAsItWas)
-{
-    // No room for the note; for the note, but not for the growth to three records.
-    for (const auto& [Length, Room] : {std::pair{16650, 17000}, std::pair{45000, 46000}}) {
-        const std::string Before(static_cast<std::size_t>(Length), 'x');
-        const std::string Path = WriteFile("main.vlx", Before);
-        WithRoomFor(static_cast<rlim_t>(Room), [&] {
-            EXPECT_THROW(WriteProjectFile(Path, SampleRecord(), ShortFile::Fails), FileFailure);
-        });
-        EXPECT_EQ(ReadFile(Path), Before);
-        EXPECT_FALSE(std::filesystem::exists(NotePath(Path)));
-    }
-    const std::filesystem::path Fresh = Folder / "fresh.vlx";
-    WithRoomFor(5000, [&] {
-        EXPECT_THROW(WriteProjectFile(Fresh, SampleRecord(), ShortFile::TakesRecordOne), FileFailure);
-    });
-    EXPECT_FALSE(std::filesystem::exists(Fresh)); // empty, it would pass for a project
-}
-
-TEST_F(ProjectFileTest, AnyNameIsWrittenWithANoteOrWithout)
-{
-    const std::string Long = WriteFile(Filled(251, 'n') + ".vlx", Filled(16650, 'x'));
-    EXPECT_LE(NotePath(Long).filename().string().size(), 255U); // a name that a file can have
-    const std::string NoNote = WriteFile("main.vlx", Filled(16650, 'x'));
-    std::filesystem::create_directory(NotePath(NoNote)); // stands in the note's way
-    for (const std::string& Path : {Long, NoNote}) {
-        WriteProjectFile(Path, SampleRecord(), ShortFile::Fails);
-        EXPECT_EQ(ReadFile(Path), Sample);
-    }
-}
-
-class InterruptedWriteTest : public ProjectFileTest {
-protected:
-    InterruptedWriteTest()
-    {
-        PendingWrite Change;
-        Change.New = ToImage(SampleRecord());
-        Change.Old.fill('x');
-        Change.Length = 16650;
-        Path = WriteFile("project.vlx", Sample.substr(0, 4096) + Filled(16650 - 4096, 'x'));
-        NoteWrite(Path, Change);
-    }
-
-    std::string Path;
-};
-
-TEST_F(InterruptedWriteTest, IsCompletedAsSoonAsItCanBe)
-{
-    WithRoomFor(10000, [this] { EXPECT_EQ(BytesOf(ReadProjectFile(Path)), Sample); });
-    EXPECT_TRUE(std::filesystem::exists(NotePath(Path)));
-    EXPECT_EQ(BytesOf(ReadProjectFile(Path)), Sample);
-    EXPECT_EQ(ReadFile(Path), Sample);
-    EXPECT_FALSE(std::filesystem::exists(NotePath(Path)));
-}
-
-TEST_F(InterruptedWriteTest, NoteThatIsTornOrFitsNoLongerIsDropped)
-{
-    const std::string Before = ReadFile(Path);
-    const std::string Note = ReadFile(NotePath(Path));
-    const std::string Torn = Note.substr(0, 20000);
-    const std::string Blank = Torn + Filled(Note.size() - 20000, '\0'); // a machine that stops leaves this
-    const std::pair<std::string, std::string> Cases[] = {
-        {Before, Torn}, {Before, Blank}, {Filled(16650, 'z'), Note}};
-    for (const auto& [Bytes, Found] : Cases) {
-        WriteFile("project.vlx", Bytes);
-        WriteFile(NotePath(Path).filename(), Found);
-        EXPECT_EQ(BytesOf(ReadProjectFile(Path)), Bytes);
-        EXPECT_FALSE(std::filesystem::exists(NotePath(Path)));
-    }
+    // Opening it to save in place makes it anew, without a record to replace.
+    EXPECT_THROW(WriteProjectFile(Folder / "main.vlx", SampleRecord(), ShortFile::Fails), FileFailure);
+    EXPECT_EQ(std::filesystem::file_size(Folder / "main.vlx"), 0U);
 }
 
 } // namespace
