@@ -1,23 +1,34 @@
 // Worker processes over fork and pipes.
 #include "batch/Worker.h"
 
+#include "batch/Interrupt.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <exception>
+#include <map>
 #include <poll.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <system_error>
 #include <unistd.h>
+#include <vector>
 
 namespace velorix {
 namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// Bytes that may wait for an outcome before them; nothing more is started meanwhile.
+constexpr std::size_t MostWaiting = 8U << 20U;
 
 // A running worker and what it has sent so far.
 struct Running {
     int Index = 0;
     pid_t Process = 0;
     int Pipe = -1;
+    Clock::time_point Deadline; // for its first byte; from then on it only waits for us
     std::string Sent;
     int ReadError = 0; // of the pipe, by the system's number
 };
@@ -44,66 +55,39 @@ bool SendAll(int Pipe, const std::string& Bytes)
     } catch (const std::exception& Problem) {
         Report = std::string("-") + Problem.what();
     } catch (...) { // nothing may unwind into the parent's code, which runs in the parent
-        Report = "-the analysis ended with an unknown failure";
+        Report = "-the work ended with an unknown failure";
     }
     ::_exit(SendAll(Pipe, Report) ? 0 : 1);
 }
 
-// Adds a worker to those that run. Returns 0, or the system's error number when it has no handle or process
-// to spare.
-int StartWorker(int Index, const std::function<std::string(int)>& Work, std::vector<Running>& Workers)
+// In the worker: it doesn't outlive its parent, which may have gone already.
+void DieWith(pid_t Parent)
 {
-    int Ends[2];
-    if (::pipe(Ends) != 0) return errno;
-    const pid_t Process = ::fork();
-    if (Process < 0) {
-        const int Error = errno;
-        ::close(Ends[0]);
-        ::close(Ends[1]);
-        return Error;
-    }
-    if (Process == 0) {
-        // The pipes of the others are of no use here, and their handles may be the last.
-        for (const Running& Each : Workers) ::close(Each.Pipe);
-        ::close(Ends[0]);
-        BeWorker(Ends[1], Index, Work);
-    }
-    ::close(Ends[1]);
-    Workers.push_back({.Index = Index, .Process = Process, .Pipe = Ends[0], .Sent = {}});
-    return 0;
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (::getppid() != Parent) ::_exit(1);
 }
 
-// Starts works from Next on until Jobs of them run; fewer when the system can't give more at the moment.
-// Returns the next to start. Throws when not even one can run.
-int StartWorkers(int Next, int Count, int Jobs, const std::function<std::string(int)>& Work,
-                 std::vector<Running>& Workers)
+std::string SignalText(int Signal)
 {
-    while (Next < Count && static_cast<int>(Workers.size()) < Jobs) {
-        const int Error = StartWorker(Next, Work, Workers);
-        if (Error != 0 && Workers.empty())
-            throw std::system_error(Error, std::generic_category(), "an analysis can't be started");
-        if (Error != 0) break;
-        ++Next;
-    }
-    return Next;
+    return "signal " + std::to_string(Signal) + " (" + ::strsignal(Signal) + ")";
 }
 
+// How a process that has sent all it could has ended.
 WorkerOutcome Conclude(const Running& Ended)
 {
     int Status = 0;
     pid_t Waited = 0;
     do Waited = ::waitpid(Ended.Process, &Status, 0);
     while (Waited < 0 && errno == EINTR);
-    if (Waited < 0) return {{}, std::string("the end of the analysis isn't known: ") + std::strerror(errno)};
+    const auto Crash = [](const std::string& Reason) { return WorkerOutcome{WorkerEnd::Crashed, Reason}; };
+    if (Waited < 0) return Crash(std::string("the worker's end isn't known: ") + std::strerror(errno));
     if (Ended.ReadError != 0)
-        return {{}, std::string("the result can't be received: ") + std::strerror(Ended.ReadError)};
-    if (WIFSIGNALED(Status))
-        return {{}, "the analysis was ended by signal " + std::to_string(WTERMSIG(Status))};
+        return Crash(std::string("the result can't be received: ") + std::strerror(Ended.ReadError));
+    if (WIFSIGNALED(Status)) return Crash("crashed: the worker was ended by " + SignalText(WTERMSIG(Status)));
     if (WEXITSTATUS(Status) != 0)
-        return {{}, "the analysis ended with status " + std::to_string(WEXITSTATUS(Status))};
-    if (Ended.Sent.empty()) return {{}, "the analysis ended without a result"};
-    if (Ended.Sent.front() == '-') return {{}, Ended.Sent.substr(1)};
-    return {Ended.Sent.substr(1), {}};
+        return Crash("crashed: the worker ended with status " + std::to_string(WEXITSTATUS(Status)));
+    if (Ended.Sent.empty()) return Crash("crashed: the worker ended without a result");
+    return {Ended.Sent.front() == '-' ? WorkerEnd::Failed : WorkerEnd::Finished, Ended.Sent.substr(1)};
 }
 
 // Reads what the worker has sent; false once there is no more to come.
@@ -117,33 +101,172 @@ bool Receive(Running& Worker)
     return Step > 0;
 }
 
-} // namespace
-
-std::vector<WorkerOutcome> RunWorkers(int Count, int Jobs, const std::function<std::string(int)>& Work,
-                                      const std::function<void(int)>& Ended)
+std::string TimeText(std::chrono::milliseconds Time)
 {
-    std::vector<WorkerOutcome> Outcomes(static_cast<std::size_t>(Count));
-    std::vector<Running> Workers;
-    int Next = 0;
-    int Done = 0;
-    while (Done < Count) {
-        Next = StartWorkers(Next, Count, std::max(1, Jobs), Work, Workers);
+    std::string Seconds = std::to_string(std::chrono::duration<double>(Time).count());
+    Seconds.erase(Seconds.find_last_not_of('0') + 1);
+    if (Seconds.back() == '.') Seconds.pop_back();
+    return Seconds + " s";
+}
 
-        std::vector<pollfd> Pipes;
-        for (const Running& Each : Workers) Pipes.push_back({Each.Pipe, POLLIN, 0});
-        if (::poll(Pipes.data(), Pipes.size(), -1) < 0) {
-            if (errno == EINTR) continue;
-            throw std::system_error(errno, std::generic_category(), "poll");
-        }
-        for (std::size_t Index = Pipes.size(); Index-- > 0;) {
-            if (Pipes[Index].revents == 0 || Receive(Workers[Index])) continue;
-            ::close(Workers[Index].Pipe);
-            Outcomes[static_cast<std::size_t>(Workers[Index].Index)] = Conclude(Workers[Index]);
-            Workers.erase(Workers.begin() + static_cast<std::ptrdiff_t>(Index));
-            Ended(++Done);
+class Pool {
+public:
+    Pool(int HowMany, const WorkerLimits& Within, const std::function<std::string(int)>& ToDo,
+         const std::function<void(int, const WorkerOutcome&)>& Taker)
+        : Count(HowMany)
+        , Limits(Within)
+        , Work(ToDo)
+        , Take(Taker)
+    {
+    }
+    ~Pool();
+    Pool(const Pool&) = delete;
+    Pool& operator=(const Pool&) = delete;
+
+    void Run();
+
+private:
+    bool MayStart() const;
+    int Start();
+    void StartAll();
+    void Wait();
+    void EndOverdue();
+    void End(std::size_t Place, const WorkerOutcome& Outcome);
+
+    const int Count;
+    const WorkerLimits Limits;
+    const std::function<std::string(int)>& Work;
+    const std::function<void(int, const WorkerOutcome&)>& Take;
+    std::vector<Running> Workers;
+    std::map<int, WorkerOutcome> Ended; // waiting for those before them
+    int Next = 0;                       // to be started
+    int Taken = 0;
+};
+
+Pool::~Pool()
+{
+    for (const Running& Each : Workers) ::kill(Each.Process, SIGKILL);
+    for (const Running& Each : Workers) {
+        ::close(Each.Pipe);
+        while (::waitpid(Each.Process, nullptr, 0) < 0 && errno == EINTR) continue;
+    }
+}
+
+bool Pool::MayStart() const
+{
+    if (Next == Count || static_cast<int>(Workers.size()) >= std::max(1, Limits.Jobs)) return false;
+    std::size_t Waiting = 0;
+    for (const auto& [Index, Outcome] : Ended) Waiting += Outcome.Text.size();
+    for (const Running& Each : Workers) Waiting += Each.Sent.size();
+    return Waiting < MostWaiting;
+}
+
+// Returns 0, or the system's error number when it has no handle or process to spare.
+int Pool::Start()
+{
+    int Ends[2];
+    if (::pipe(Ends) != 0) return errno;
+    const pid_t Parent = ::getpid();
+    pid_t Process = 0;
+    {
+        const HeldInterrupts Held; // one that comes meanwhile reaches the worker as the worker wants it
+        Process = ::fork();
+        if (Process == 0) {
+            DieWith(Parent);
+            LeaveInterruptsToParent();
         }
     }
-    return Outcomes;
+    if (Process < 0) {
+        const int Error = errno;
+        ::close(Ends[0]);
+        ::close(Ends[1]);
+        return Error;
+    }
+    if (Process == 0) {
+        // The pipes of the others are of no use here, and their handles may be the last.
+        for (const Running& Each : Workers) ::close(Each.Pipe);
+        ::close(Ends[0]);
+        BeWorker(Ends[1], Next, Work);
+    }
+    ::close(Ends[1]);
+    Workers.push_back({Next, Process, Ends[0], Clock::now() + Limits.Time, {}});
+    return 0;
+}
+
+void Pool::StartAll()
+{
+    while (MayStart()) {
+        const int Error = Start();
+        if (Error != 0 && Workers.empty())
+            throw std::system_error(Error, std::generic_category(), "no worker can be started");
+        if (Error != 0) return;
+        ++Next;
+    }
+}
+
+// Until something has been sent or has ended, a worker is overdue, or an interrupt comes.
+void Pool::Wait()
+{
+    std::vector<pollfd> Pipes;
+    Clock::time_point First = Clock::time_point::max();
+    for (const Running& Each : Workers) {
+        Pipes.push_back({Each.Pipe, POLLIN, 0});
+        if (Each.Sent.empty()) First = std::min(First, Each.Deadline);
+    }
+    const auto Left = std::max(Clock::duration::zero(), First - Clock::now());
+    const auto Seconds = std::chrono::duration_cast<std::chrono::seconds>(Left);
+    const timespec Limit = {Seconds.count(), std::chrono::nanoseconds(Left - Seconds).count()};
+
+    int Ready = 0;
+    {
+        const HeldInterrupts Held;
+        StopIfInterrupted();
+        Ready = ::ppoll(Pipes.data(), Pipes.size(), First == Clock::time_point::max() ? nullptr : &Limit,
+                        &Held.Outside);
+    }
+    if (Ready < 0 && errno != EINTR) throw std::system_error(errno, std::generic_category(), "ppoll");
+    StopIfInterrupted();
+    for (std::size_t Place = Ready > 0 ? Pipes.size() : 0; Place-- > 0;)
+        if (Pipes[Place].revents != 0 && !Receive(Workers[Place])) End(Place, Conclude(Workers[Place]));
+}
+
+void Pool::EndOverdue()
+{
+    const Clock::time_point Now = Clock::now();
+    for (std::size_t Place = Workers.size(); Place-- > 0;) {
+        if (!Workers[Place].Sent.empty() || Now < Workers[Place].Deadline) continue;
+        ::kill(Workers[Place].Process, SIGKILL);
+        Conclude(Workers[Place]);
+        End(Place, {WorkerEnd::TimedOut, "ended at the time limit of " + TimeText(Limits.Time)});
+    }
+}
+
+void Pool::End(std::size_t Place, const WorkerOutcome& Outcome)
+{
+    ::close(Workers[Place].Pipe);
+    Ended[Workers[Place].Index] = Outcome;
+    Workers.erase(Workers.begin() + static_cast<std::ptrdiff_t>(Place));
+}
+
+void Pool::Run()
+{
+    while (Taken < Count) {
+        StartAll();
+        Wait();
+        EndOverdue();
+        for (auto First = Ended.begin(); First != Ended.end() && First->first == Taken; ++Taken) {
+            Take(First->first, First->second);
+            First = Ended.erase(First);
+        }
+    }
+}
+
+} // namespace
+
+void RunWorkers(int Count, const WorkerLimits& Limits, const std::function<std::string(int)>& Work,
+                const std::function<void(int, const WorkerOutcome&)>& Take)
+{
+    Pool(Count, Limits, Work, Take).Run();
 }
 
 } // namespace velorix
