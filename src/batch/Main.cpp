@@ -1,6 +1,7 @@
-// velorix-batch: analyses project files, and turns them into JSON and back, without a screen.
+// velorix-batch: analyses and checks project files, and turns them into JSON and back, without a screen.
 #include "base/Failure.h"
 #include "batch/AnalyseCommand.h"
+#include "batch/CheckCommand.h"
 #include "batch/Interrupt.h"
 #include "batch/OutputFile.h"
 #include "batch/ProjectCommands.h"
@@ -99,8 +100,8 @@ Ending Run(int ArgumentCount, char** Words)
                      "velorix-batch"};
     Program.set_version_flag("--version", "velorix-batch " VELORIX_VERSION);
     Program.require_subcommand(1);
-    Program.footer("Exit status: 0 all is well; 2 an analysis ended with a message and did not stand;\n"
-                   "1 wrong usage, a file that can't be read or written, a time\n"
+    Program.footer("Exit status: 0 all is well; 2 an analysis ended with a message and did not stand, or a\n"
+                   "project would not be saved; 1 wrong usage, a file that can't be read or written, a time\n"
                    "limit or a crash; 130 interrupted. The worst of them counts, 1 above 2.");
 
     Arguments Given;
@@ -113,6 +114,10 @@ Ending Run(int ArgumentCount, char** Words)
     Analyse
         ->add_option("--csv", Given.CsvFolder, "Write the results as comma-separated tables to this folder")
         ->type_name("DIR");
+
+    CLI::App* Check =
+        AddCommand(Program, Given, "check",
+                   "Tell whether the input screen would save the projects, without writing", "Project files");
 
     CLI::App* ExportCommand =
         AddCommand(Program, Given, "export", "Print a project as JSON, or write several", "Project files");
@@ -136,6 +141,7 @@ Ending Run(int ArgumentCount, char** Words)
         return Status == 0 ? Ending::AllWell : Ending::Failed;
     }
     if (*Analyse) return AnalyseFiles(AnalyseOptionsOf(Given));
+    if (*Check) return CheckFiles(OpenInputs(Given.Files), LimitsOf(Given));
     return *ExportCommand ? Export(Given) : Import(Given);
 }
 

@@ -227,6 +227,7 @@ TEST_F(CommandTest, WhatIsNotAsItSeemsIsToldOnStandardError)
                                "velorix-batch: odd.vlx: MPipeline -1 is out of range, 0 is taken\n"
                                "velorix-batch: odd.vlx: PumpingHours 25 is out of range, 24 is taken\n";
     EXPECT_EQ(Batch("analyse odd.vlx village.vlx").Errors, Pinned);
+    EXPECT_EQ(Batch("check odd.vlx").Errors, Pinned);
     EXPECT_THAT(Batch("analyse short.vlx").Errors,
                 HasSubstr("short.vlx: the file is shorter than 8326 bytes"));
     EXPECT_THAT(Batch("analyse short.vlx").Output, HasSubstr("\nshort.vlx"));
@@ -235,6 +236,24 @@ TEST_F(CommandTest, WhatIsNotAsItSeemsIsToldOnStandardError)
     EXPECT_THAT(Foreign.Output, HasSubstr("\nh\uFFFDhe.vlx   not read\n"));
     EXPECT_THAT(Foreign.Errors,
                 AllOf(HasSubstr("\"h\uFFFDhe.vlx\": No such"), HasSubstr("--jobs: Value \uFFFD")));
+}
+
+TEST_F(CommandTest, CheckTellsWhatASaveWouldTell)
+{
+    WriteExample("nameless.vlx", "kloofsig-village-main", {{"Project", " "}});
+    WriteExample("endless.vlx", "kloofsig-village-main", {{"KsNew", "Infinity"}});
+    WriteFile("short.vlx", std::string(8325, ' '));
+    const std::string Village = ReadFile(Folder / "village.vlx");
+    const Run Checked = Batch("check village.vlx nameless.vlx endless.vlx short.vlx");
+    EXPECT_EQ(Checked.Status, 2);
+    EXPECT_THAT(Checked.Output,
+                testing::MatchesRegex("village.vlx: ok\n"
+                                      "nameless.vlx: Enter the project name !\n"
+                                      "endless.vlx: Absolute [^\n]*\n"
+                                      "short.vlx: the file is shorter than 8326 bytes[^\n]*\n"));
+    EXPECT_EQ(Batch("check village.vlx ridge.vlx").Status, 0);
+    EXPECT_EQ(Batch("check nameless.vlx missing.vlx").Status, 1);
+    EXPECT_EQ(ReadFile(Folder / "village.vlx"), Village);
 }
 
 // Two time zones in which it is never the same day; a midnight may pass between the two calls of date.
