@@ -7,7 +7,8 @@ function(velorix_options target)
   target_compile_features(${target} PUBLIC cxx_std_20)
   set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
-                                           -Woverloaded-virtual -Wundef -ffp-contract=off)
+                                           -Woverloaded-virtual -Wundef -Wmissing-declarations
+                                           -ffp-contract=off)
   if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
     target_compile_options(${target} PRIVATE -ffp-exception-behavior=maytrap)
   else()

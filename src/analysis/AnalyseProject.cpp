@@ -23,7 +23,7 @@
 namespace velorix {
 namespace {
 
-void ShowProgress(int Percent)
+void ShowAnalysisProgress(int Percent)
 {
     frmAnalyse.proBar.Value = Percent;
     System().Repaint();
@@ -45,16 +45,16 @@ void ShowDutyCommand()
 void HandOverToResults()
 {
     ShowHeadlines();
-    ShowProgress(75);
+    ShowAnalysisProgress(75);
     ShowDutyCommand();
-    ShowProgress(80);
+    ShowAnalysisProgress(80);
     FillCapitalCostTable();
-    ShowProgress(85);
+    ShowAnalysisProgress(85);
     FillCombos();
-    ShowProgress(90);
+    ShowAnalysisProgress(90);
     TakeProfileForPlot();
-    ShowProgress(95);
-    ShowProgress(100);
+    ShowAnalysisProgress(95);
+    ShowAnalysisProgress(100);
 }
 
 void TellOfHighPoint()
@@ -73,18 +73,18 @@ void RunAnalysis()
     NormaliseInputs();
     ReadLayingRates();
     LoadResultsHidden();
-    ShowProgress(55);
+    ShowAnalysisProgress(55);
 
     HighPointAdjusted = 0;
     SolveFlows();
     if (AnalysisAborted == -1) return;
 
     SupplyDemand();
-    ShowProgress(60);
+    ShowAnalysisProgress(60);
     SplitPumpingHours();
-    ShowProgress(65);
+    ShowAnalysisProgress(65);
     ComputeIncome();
-    ShowProgress(70);
+    ShowAnalysisProgress(70);
     ComputeCapitalCost();
     ComputeAnnualCosts();
     ComputePresentValues();

@@ -11,24 +11,15 @@
 #include "hydraulics/YearlySupply.h"
 #include "input/Session.h"
 #include "model/WorkingSet.h"
+#include "platform/Screen.h"
 #include "results/PlotState.h"
-#include "screens/Analyse.h"
-#include "screens/Dialogs.h"
-#include "screens/DutyPointScreen.h"
-#include "screens/Lcc.h"
-#include "screens/MainWindow.h"
-#include "screens/Results.h"
-#include "screens/Viewers.h"
 
 namespace velorix {
 
 void ResetProgram()
 {
     ClearArithmeticFlags();
-    for (Screen* Each : std::initializer_list<Screen*>{
-             &frmAbout, &frmAgree, &frmAnalyse, &frmDeleteRow, &frmDisclaimer, &frmDutyPoint, &frmIntro,
-             &frmLCC, &frmLCCType, &frmPref, &frmPumpView, &frmResults, &frmView, &MDIProject})
-        Each->Unload();
+    UnloadScreens();
     ResetProjectRecord();
     ResetWorkingSet();
     ResetSession();

@@ -113,8 +113,6 @@ QWidget* DeletedRow()
     return Box;
 }
 
-} // namespace
-
 QDialog* AgreeDialog(QWidget* Owner)
 {
     constexpr int PictureWidth = 320;
@@ -226,17 +224,22 @@ QDialog* DutyPointDialog(QWidget* Owner)
                        {View(frmDutyPoint.lblAdvice), InRow({nullptr, DefaultButton(frmDutyPoint.sscOK)})});
 }
 
+} // namespace
+
+const std::vector<DialogLayout>& AllDialogs()
+{
+    static const std::vector<DialogLayout> Dialogs = {
+        {&frmAgree, AgreeDialog},           {&frmIntro, IntroDialog},
+        {&frmLCCType, LccTypeDialog},       {&frmPref, PreferencesDialog},
+        {&frmDeleteRow, DeleteRowDialog},   {&frmAnalyse, AnalyseDialog},
+        {&frmDisclaimer, DisclaimerDialog}, {&frmAbout, AboutDialog},
+        {&frmDutyPoint, DutyPointDialog}};
+    return Dialogs;
+}
+
 void RegisterDialogs(QtPlatform& Windows)
 {
-    Windows.RegisterDialog(frmAgree, AgreeDialog);
-    Windows.RegisterDialog(frmIntro, IntroDialog);
-    Windows.RegisterDialog(frmLCCType, LccTypeDialog);
-    Windows.RegisterDialog(frmPref, PreferencesDialog);
-    Windows.RegisterDialog(frmDeleteRow, DeleteRowDialog);
-    Windows.RegisterDialog(frmDisclaimer, DisclaimerDialog);
-    Windows.RegisterDialog(frmAbout, AboutDialog);
-    Windows.RegisterDialog(frmAnalyse, AnalyseDialog);
-    Windows.RegisterDialog(frmDutyPoint, DutyPointDialog);
+    for (const auto& [Shown, Make] : AllDialogs()) Windows.RegisterDialog(*Shown, Make);
 }
 
 } // namespace velorix

@@ -1,5 +1,7 @@
-// The dialogs around the main window. Each factory makes the window of one screen.
+// The dialogs around the main window.
 #pragma once
+
+#include <vector>
 
 class QDialog;
 class QWidget;
@@ -7,14 +9,16 @@ class QWidget;
 namespace velorix {
 
 class QtPlatform;
+struct Screen;
 
-QDialog* AgreeDialog(QWidget* Owner);
-QDialog* IntroDialog(QWidget* Owner);
-QDialog* LccTypeDialog(QWidget* Owner);
-QDialog* PreferencesDialog(QWidget* Owner);
-QDialog* DeleteRowDialog(QWidget* Owner);
-QDialog* DisclaimerDialog(QWidget* Owner);
-QDialog* AboutDialog(QWidget* Owner);
+struct DialogLayout {
+    Screen* Shown;
+    QDialog* (*Make)(QWidget* Owner);
+};
+
+// Every dialog, and what makes its window.
+const std::vector<DialogLayout>& AllDialogs();
+
 QDialog* AnalyseDialog(QWidget* Owner);
 
 // Tells the platform which factory makes which screen's window.

@@ -8,9 +8,6 @@
 #include "desktop/Style.h"
 #include "desktop/Views.h"
 #include "input/FileCommands.h"
-#include "screens/Analyse.h"
-#include "screens/Dialogs.h"
-#include "screens/MainWindow.h"
 #include "shell/Shell.h"
 
 #include <optional>
@@ -33,7 +30,7 @@ int main(int ArgumentCount, char** Arguments)
     ConnectScreens();
     MainWindow Window;
     Window.FileDropped = [](const std::filesystem::path& Path) { Guarded([&] { OpenProjectFile(Path); }); };
-    for (Screen* Each : std::initializer_list<Screen*>{&frmIntro, &MDIProject, &frmAnalyse}) RunTimers(*Each);
+    for (Screen* Each : AllScreens()) RunTimers(*Each);
 
     bool Started = false;
     Guarded([&] { Started = StartProgram(); });

@@ -1,83 +1,32 @@
-// How each kind of control wires its fields to its event, and returns to its state at design.
+// How each kind of control wires its fields to its event.
 #include "platform/Controls.h"
 
 #include <algorithm>
 
 namespace velorix {
 
-void Control::NoteDesign()
-{
-    Visible.NoteDesign();
-    Enabled.NoteDesign();
-}
-
-void Control::BackToDesign()
-{
-    Visible.BackToDesign();
-    Enabled.BackToDesign();
-    Tag.clear();
-}
-
 Label::Label(std::string Text, std::string Hint)
     : Control(std::move(Hint))
-    , Caption(std::move(Text))
+    , Caption(*this, std::move(Text))
 {
-}
-
-void Label::NoteDesign()
-{
-    Control::NoteDesign();
-    Caption.NoteDesign();
-    BackColor.NoteDesign();
-}
-
-void Label::BackToDesign()
-{
-    Control::BackToDesign();
-    Caption.BackToDesign();
-    BackColor.BackToDesign();
 }
 
 Frame::Frame(std::string Text)
-    : Caption(std::move(Text))
+    : Caption(*this, std::move(Text))
 {
-}
-
-void Frame::NoteDesign()
-{
-    Control::NoteDesign();
-    Caption.NoteDesign();
-}
-
-void Frame::BackToDesign()
-{
-    Control::BackToDesign();
-    Caption.BackToDesign();
 }
 
 TextBox::TextBox(std::string Hint, int LongestText)
     : Control(std::move(Hint))
     , MaxLength(LongestText)
 {
+    Keep(MaxLength, SelStart);
     Text.Changed = [this] { Change(); };
-}
-
-void TextBox::NoteDesign()
-{
-    Control::NoteDesign();
-    Text.NoteDesign();
-}
-
-void TextBox::BackToDesign()
-{
-    Control::BackToDesign();
-    Text.BackToDesign();
-    SelStart = 0;
 }
 
 ComboBox::ComboBox(std::vector<std::string> Entries, std::string Hint)
     : Control(std::move(Hint))
-    , List(std::move(Entries))
+    , List(*this, std::move(Entries))
 {
     ListIndex.Fit = [this](int Index) {
         return Index >= 0 && Index < static_cast<int>(List.Get().size()) ? Index : -1;
@@ -91,41 +40,13 @@ std::string ComboBox::Text() const
     return ListIndex < 0 ? std::string() : List.Get().at(static_cast<std::size_t>(ListIndex.Get()));
 }
 
-void ComboBox::NoteDesign()
-{
-    Control::NoteDesign();
-    List.NoteDesign();
-    ListIndex.NoteDesign();
-}
-
-void ComboBox::BackToDesign()
-{
-    Control::BackToDesign();
-    List.BackToDesign();
-    ListIndex.BackToDesign();
-}
-
 OptionButton::OptionButton(std::string Text, std::string Hint)
     : Control(std::move(Hint))
-    , Caption(std::move(Text))
+    , Caption(*this, std::move(Text))
 {
     Value.Changed = [this] {
         if (Value) Click();
     };
-}
-
-void OptionButton::NoteDesign()
-{
-    Control::NoteDesign();
-    Caption.NoteDesign();
-    Value.NoteDesign();
-}
-
-void OptionButton::BackToDesign()
-{
-    Control::BackToDesign();
-    Caption.BackToDesign();
-    Value.BackToDesign();
 }
 
 void GroupOptions(const std::vector<OptionButton*>& Members)
@@ -141,56 +62,31 @@ void GroupOptions(const std::vector<OptionButton*>& Members)
 
 CheckBox::CheckBox(std::string Text, std::string Hint)
     : Control(std::move(Hint))
-    , Caption(std::move(Text))
+    , Caption(*this, std::move(Text))
 {
     Value.Changed = [this] { Click(); };
 }
 
-void CheckBox::NoteDesign()
-{
-    Control::NoteDesign();
-    Caption.NoteDesign();
-    Value.NoteDesign();
-}
-
-void CheckBox::BackToDesign()
-{
-    Control::BackToDesign();
-    Caption.BackToDesign();
-    Value.BackToDesign();
-}
-
 CommandButton::CommandButton(std::string Text, std::string Hint)
     : Control(std::move(Hint))
-    , Caption(std::move(Text))
+    , Caption(*this, std::move(Text))
 {
-}
-
-void CommandButton::NoteDesign()
-{
-    Control::NoteDesign();
-    Caption.NoteDesign();
-}
-
-void CommandButton::BackToDesign()
-{
-    Control::BackToDesign();
-    Caption.BackToDesign();
 }
 
 MenuItem::MenuItem(std::string Text, std::string Hint)
     : Control(std::move(Hint))
-    , Caption(std::move(Text))
+    , Caption(*this, std::move(Text))
 {
 }
 
 ScrollBar::ScrollBar(int Least, int Most, int LargeStep, std::string Hint)
     : Control(std::move(Hint))
-    , Min(Least)
-    , Max(Most)
-    , Value(Least)
+    , Min(*this, Least)
+    , Max(*this, Most)
+    , Value(*this, Least)
     , LargeChange(LargeStep)
 {
+    Keep(SmallChange, LargeChange);
     // std::clamp would ask for Min <= Max, which code that sets the two one after the other can't promise.
     Value.Fit = [this](int Wanted) { return std::max(Min.Get(), std::min(Max.Get(), Wanted)); };
     Value.Changed = [this] { Change(); };
@@ -198,52 +94,10 @@ ScrollBar::ScrollBar(int Least, int Most, int LargeStep, std::string Hint)
     Max.Changed = [this] { Value = Value.Get(); };
 }
 
-void ScrollBar::NoteDesign()
-{
-    Control::NoteDesign();
-    Min.NoteDesign();
-    Max.NoteDesign();
-    Value.NoteDesign();
-}
-
-void ScrollBar::BackToDesign()
-{
-    Control::BackToDesign();
-    Min.BackToDesign();
-    Max.BackToDesign();
-    Value.BackToDesign();
-}
-
-void ProgressBar::NoteDesign()
-{
-    Control::NoteDesign();
-    Value.NoteDesign();
-}
-
-void ProgressBar::BackToDesign()
-{
-    Control::BackToDesign();
-    Value.BackToDesign();
-}
-
 TabControl::TabControl(std::vector<std::string> Captions)
     : TabCaptions(std::move(Captions))
-    , TabVisible(std::vector<bool>(TabCaptions.size(), true))
+    , TabVisible(*this, std::vector<bool>(TabCaptions.size(), true))
 {
-}
-
-void TabControl::NoteDesign()
-{
-    Control::NoteDesign();
-    Tab.NoteDesign();
-    TabVisible.NoteDesign();
-}
-
-void TabControl::BackToDesign()
-{
-    Control::BackToDesign();
-    Tab.BackToDesign();
-    TabVisible.BackToDesign();
 }
 
 DatePicker::DatePicker(std::string Hint)
@@ -252,34 +106,10 @@ DatePicker::DatePicker(std::string Hint)
     Value.Changed = [this] { Change(); };
 }
 
-void DatePicker::NoteDesign()
-{
-    Control::NoteDesign();
-    Value.NoteDesign();
-}
-
-void DatePicker::BackToDesign()
-{
-    Control::BackToDesign();
-    Value.BackToDesign();
-}
-
 Timer::Timer(int Milliseconds)
-    : Interval(Milliseconds)
+    : Interval(*this, Milliseconds)
 {
     Enabled = false;
-}
-
-void Timer::NoteDesign()
-{
-    Control::NoteDesign();
-    Interval.NoteDesign();
-}
-
-void Timer::BackToDesign()
-{
-    Control::BackToDesign();
-    Interval.BackToDesign();
 }
 
 } // namespace velorix

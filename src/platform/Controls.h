@@ -14,80 +14,58 @@ using Handler = Event<>;
 using KeyHandler = Event<int&>; // a key's code; the handler sets it to 0 to drop the key
 
 // What all controls have in common.
-struct Control {
+struct Control : PropertyOwner {
     Control(std::string Hint = {});
-    Control(const Control&) = delete;
-    Control& operator=(const Control&) = delete;
     virtual ~Control() = default;
 
     std::string ToolTip; // also the hint of the status bar
     std::string Tag;     // a note that the domain keeps at the control
-    Property<bool> Visible{true};
-    Property<bool> Enabled{true};
+    Property<bool> Visible{*this, true};
+    Property<bool> Enabled{*this, true};
     Handler GotFocus;
     Handler MouseMove;
-
-    // Notes the present state as the one that BackToDesign returns to. Neither raises an event of the
-    // control.
-    virtual void NoteDesign();
-    virtual void BackToDesign();
 };
 
 // A line of text, or a coloured field that can be clicked.
 struct Label : Control {
     Label(std::string Text = {}, std::string Hint = {});
-    Property<std::string> Caption;
-    Property<Color> BackColor{ButtonColor};
+    Property<std::string> Caption{*this};
+    Property<Color> BackColor{*this, ButtonColor};
     Handler Click;
-
-    void NoteDesign() override;
-    void BackToDesign() override;
 };
 
 struct Frame : Control {
     explicit Frame(std::string Text = {});
-    Property<std::string> Caption;
-
-    void NoteDesign() override;
-    void BackToDesign() override;
+    Property<std::string> Caption{*this};
 };
 
 struct TextBox : Control {
     TextBox(std::string Hint = {}, int LongestText = 0);
-    Property<std::string> Text;
+    Property<std::string> Text{*this};
     int MaxLength = 0; // characters that can be typed; 0 for no limit
     int SelStart = 0;  // the caret, in characters
     Handler Change;
     KeyHandler KeyPress;
     KeyHandler KeyDown;
-
-    void NoteDesign() override;
-    void BackToDesign() override;
 };
 
 // A list to choose from, without typing.
 struct ComboBox : Control {
     explicit ComboBox(std::vector<std::string> Entries = {}, std::string Hint = {});
-    Property<std::vector<std::string>> List;
-    Property<int> ListIndex{-1}; // -1 when nothing is chosen; an index outside the list becomes -1
+    Property<std::vector<std::string>> List{*this};
+    Property<int> ListIndex{*this, -1}; // -1 when nothing is chosen; an index outside the list becomes -1
     Handler Change;
 
     // The chosen entry, empty when there is none.
     std::string Text() const;
-
-    void NoteDesign() override;
-    void BackToDesign() override;
 };
 
 // One of a group of which one is set.
 struct OptionButton : Control {
     explicit OptionButton(std::string Text = {}, std::string Hint = {});
-    Property<std::string> Caption;
-    Property<bool> Value{false};
+    Property<std::string> Caption{*this};
+    Property<bool> Value{*this, false};
     Handler Click; // raised when the option is set, by the user or by code
-
-    void NoteDesign() override;
-    void BackToDesign() override;
 };
 
 // Makes options exclude each other: setting one clears the others.
@@ -95,78 +73,57 @@ void GroupOptions(const std::vector<OptionButton*>& Members);
 
 struct CheckBox : Control {
     explicit CheckBox(std::string Text = {}, std::string Hint = {});
-    Property<std::string> Caption;
-    Property<bool> Value{false};
+    Property<std::string> Caption{*this};
+    Property<bool> Value{*this, false};
     Handler Click;
-
-    void NoteDesign() override;
-    void BackToDesign() override;
 };
 
 struct CommandButton : Control {
     explicit CommandButton(std::string Text = {}, std::string Hint = {});
-    Property<std::string> Caption; // "&" marks the letter that presses it
+    Property<std::string> Caption{*this}; // "&" marks the letter that presses it
     Handler Click;
-
-    void NoteDesign() override;
-    void BackToDesign() override;
 };
 
 // An entry of a menu; "&" marks its letter.
 struct MenuItem : Control {
     explicit MenuItem(std::string Text, std::string Hint = {});
-    Property<std::string> Caption;
+    Property<std::string> Caption{*this};
     Handler Click;
 };
 
 // A bar that carries a whole number between Min and Max. A value outside is held at the bound.
 struct ScrollBar : Control {
     ScrollBar(int Least, int Most, int LargeStep, std::string Hint = {});
-    Property<int> Min;
-    Property<int> Max;
-    Property<int> Value;
+    Property<int> Min{*this};
+    Property<int> Max{*this};
+    Property<int> Value{*this};
     int SmallChange = 1;
     int LargeChange = 1;
     Handler Change;
-
-    void NoteDesign() override;
-    void BackToDesign() override;
 };
 
 struct ProgressBar : Control {
-    Property<int> Value{0}; // percent
-
-    void NoteDesign() override;
-    void BackToDesign() override;
+    Property<int> Value{*this, 0}; // percent
 };
 
 struct TabControl : Control {
     explicit TabControl(std::vector<std::string> Captions);
     const std::vector<std::string> TabCaptions;
-    Property<int> Tab{0}; // the page on top
-    Property<std::vector<bool>> TabVisible;
-
-    void NoteDesign() override;
-    void BackToDesign() override;
+    Property<int> Tab{*this, 0}; // the page on top
+    Property<std::vector<bool>> TabVisible{*this};
 };
 
 struct DatePicker : Control {
     explicit DatePicker(std::string Hint = {});
-    Property<Date> Value;
+    Property<Date> Value{*this};
     Handler Change;
-
-    void NoteDesign() override;
-    void BackToDesign() override;
 };
 
 // Raises Tick every Interval milliseconds while it is enabled, from the event loop only.
 struct Timer : Control {
     explicit Timer(int Milliseconds);
-    Property<int> Interval;
+    Property<int> Interval{*this};
     Handler Tick;
-
-    void NoteDesign() override;
-    void BackToDesign() override;
 };
 
 } // namespace velorix

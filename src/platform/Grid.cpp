@@ -14,7 +14,9 @@ Grid::Grid(int DesignRows, int DesignCols, std::string Hint)
     , ColCount(DesignCols)
 {
     SetRows(DesignRows);
-    Grid::NoteDesign();
+    Keep(ColWidth, HeaderHeight, DataRowHeight, FixedRows, FixedCols, MergeEqualCells, Cells, CurrentRow,
+         CurrentCol);
+    DesignIsBack = [this] { ShapeView(); };
 }
 
 GridCell& Grid::At(int Row, int Col)
@@ -93,22 +95,6 @@ bool Grid::Navigate(int Key)
     if (Rows() <= FixedRows || ColCount <= FixedCols) return true;
     Select(std::clamp(NewRow, FixedRows, Rows() - 1), std::clamp(NewCol, FixedCols, ColCount - 1));
     return true;
-}
-
-void Grid::NoteDesign()
-{
-    Control::NoteDesign();
-    DesignCells = Cells;
-    DesignLayout = Layout();
-}
-
-void Grid::BackToDesign()
-{
-    Control::BackToDesign();
-    Cells = DesignCells;
-    Layout() = DesignLayout;
-    CurrentRow = CurrentCol = 0;
-    ShapeView();
 }
 
 } // namespace velorix

@@ -4,7 +4,6 @@
 #include "platform/Controls.h"
 
 #include <string>
-#include <tuple>
 #include <vector>
 
 namespace velorix {
@@ -13,6 +12,7 @@ struct GridCell {
     std::string Text;
     Color BackColor = WindowColor;
     bool Bold = false;
+    bool operator==(const GridCell&) const = default;
 };
 
 // Rows and columns count from 0, the fixed ones included. A cell outside the grid throws SubscriptFailure.
@@ -61,18 +61,9 @@ struct Grid : Control {
     Handler DblClick;     // with the left button, on the current cell
 
     Event<int, int> CellView; // tells the attached view that a cell has changed
-    Handler ShapeView;        // tells it that rows or the current cell have
-
-    void NoteDesign() override;
-    void BackToDesign() override;
+    Handler ShapeView;        // tells it that rows or the current cell have, or all at once
 
 private:
-    // What the code may set about the grid beside its cells.
-    auto Layout()
-    {
-        return std::tie(ColWidth, HeaderHeight, DataRowHeight, FixedRows, FixedCols, MergeEqualCells);
-    }
-
     GridCell& At(int Row, int Col);
     const GridCell& At(int Row, int Col) const;
 
@@ -80,8 +71,6 @@ private:
     std::vector<std::vector<GridCell>> Cells;
     int CurrentRow = 0;
     int CurrentCol = 0;
-    std::vector<std::vector<GridCell>> DesignCells;
-    std::tuple<std::vector<int>, int, int, int, int, bool> DesignLayout;
 };
 
 } // namespace velorix

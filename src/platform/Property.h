@@ -1,5 +1,7 @@
-// The visible fields of a control, and the events that a control raises.
+// The properties of a control, and the events that a control raises.
 #pragma once
+
+#include "platform/DesignState.h"
 
 #include <functional>
 #include <utility>
@@ -32,21 +34,20 @@ private:
     std::function<void(Arguments...)> Handler;
 };
 
-// A field that reads like a plain value and, when it takes a new value, tells first the attached view and
-// then the control's own event. Taking the value that it holds already tells nobody.
+// A property reads like a plain value and, when it takes a new one, tells first the attached view and
+// then the control's own event. Taking the value that it holds already tells nobody. It can't be built
+// without the control or screen that it belongs to, so none is left out when its owner returns to its design.
 template <typename T>
-class Property {
+class Property final : public PropertyOf<T> {
 public:
-    Property() = default;
-    explicit Property(T Initial)
-        : Current(std::move(Initial))
-        , Design(Current)
+    explicit Property(PropertyOwner& Owner, T Initial = {})
+        : PropertyOf<T>(Owner, Initial)
+        , Current(std::move(Initial))
     {
     }
-    Property(const Property&) = delete;
     Property& operator=(const Property& Other) { return *this = Other.Current; }
 
-    const T& Get() const { return Current; }
+    const T& Get() const override { return Current; }
     operator const T&() const { return Current; }
 
     Property& operator=(T Value)
@@ -65,14 +66,7 @@ public:
         Changed();
     }
 
-    // Notes the present value as the one that BackToDesign returns to. Without it that is the first value.
-    void NoteDesign() { Design = Current; }
-
-    // Takes the value noted as the design: the view is told, no event is raised.
-    void BackToDesign() { Restore(Design); }
-
-    // Takes a value as BackToDesign does.
-    void Restore(T Value)
+    void Restore(T Value) override
     {
         if (Value == Current) return;
         Current = std::move(Value);
@@ -80,12 +74,11 @@ public:
     }
 
     Event<const void*> View; // set by the attached view; the argument is the source
-    Event<> Changed;         // set by the control that owns the field
+    Event<> Changed;         // set by the control that owns it
     std::function<T(T)> Fit; // brings a value into what the control can hold
 
 private:
-    T Current{};
-    T Design{};
+    T Current;
 };
 
 } // namespace velorix

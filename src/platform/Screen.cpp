@@ -1,4 +1,4 @@
-// Loading, unloading and the registration of controls.
+// Loading, unloading and the registration of controls and screens.
 #include "platform/Screen.h"
 
 #include "platform/Controls.h"
@@ -9,12 +9,21 @@ namespace {
 // The screen whose members are being built. Screens are built one after the other, each in one go.
 Screen* UnderConstruction = nullptr;
 
+// Inside a routine, because screens are globals: the first of them to be built may come before any global of
+// this file. It outlives them all, being complete before the first of them is.
+std::vector<Screen*>& Registered()
+{
+    static std::vector<Screen*> Screens;
+    return Screens;
+}
+
 } // namespace
 
 Screen::Screen(std::string ScreenName, std::string ScreenCaption)
     : Name(std::move(ScreenName))
-    , Caption(std::move(ScreenCaption))
+    , Caption(*this, std::move(ScreenCaption))
 {
+    Registered().push_back(this);
     UnderConstruction = this;
     Visible.Changed = [this] {
         if (Visible)
@@ -24,10 +33,15 @@ Screen::Screen(std::string ScreenName, std::string ScreenCaption)
     };
 }
 
+Screen::~Screen()
+{
+    std::erase(Registered(), this);
+}
+
 void Screen::DesignEnds()
 {
     UnderConstruction = nullptr;
-    DesignCaption = Caption;
+    NoteDesign();
     for (Control* Each : Controls) Each->NoteDesign();
 }
 
@@ -50,14 +64,24 @@ void Screen::Unload()
 {
     Loaded = false;
     Visible = false;
-    Enabled.Restore(true);
-    Caption.Restore(DesignCaption);
+    BackToDesign();
     for (Control* Each : Controls) Each->BackToDesign();
+}
+
+const std::vector<Screen*>& AllScreens()
+{
+    return Registered();
+}
+
+void UnloadScreens()
+{
+    for (Screen* Each : AllScreens()) Each->Unload();
 }
 
 Control::Control(std::string Hint)
     : ToolTip(std::move(Hint))
 {
+    Keep(ToolTip, Tag);
     if (UnderConstruction) UnderConstruction->Controls.push_back(this);
 }
 

@@ -12,15 +12,14 @@ struct Control;
 
 // The controls that a screen declares as its members register themselves in their order, which is also the
 // tab order. A screen's constructor ends with DesignEnds(), which notes what every control holds then.
-struct Screen {
+struct Screen : PropertyOwner {
     Screen(std::string ScreenName, std::string ScreenCaption);
-    Screen(const Screen&) = delete;
-    Screen& operator=(const Screen&) = delete;
+    ~Screen();
 
     const std::string Name;
     Property<std::string> Caption;
-    Property<bool> Visible{false};
-    Property<bool> Enabled{true};
+    Property<bool> Visible{*this, false};
+    Property<bool> Enabled{*this, true};
     std::vector<Control*> Controls;
 
     Event<> Load;   // raised when an unloaded screen is loaded
@@ -43,8 +42,14 @@ protected:
     void DesignEnds();
 
 private:
-    std::string DesignCaption;
     bool Loaded = false;
 };
+
+// Every screen of the program, in an order that means nothing: a screen joins as it is built and leaves as it
+// goes.
+const std::vector<Screen*>& AllScreens();
+
+// Unloads them all.
+void UnloadScreens();
 
 } // namespace velorix

@@ -13,9 +13,9 @@ struct DutyPointScreen : Screen {
         DesignEnds();
     }
 
-    Label lblAdvice{
-        "Choose a pump curve that reaches the head of the system curve between its first and its sixth "
-        "point, or a pipeline with less head loss."};
+    Label lblAdvice{"Choose a pump curve that reaches the head of the system curve between its first and its "
+                    "sixth point,\n"
+                    "or a pipeline with less head loss."};
     CommandButton sscOK{"&OK", "Click to return"};
 };
 

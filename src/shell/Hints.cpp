@@ -4,8 +4,9 @@
 #include "screens/MainWindow.h"
 
 namespace velorix {
+namespace {
 
-void ConnectHints(Screen& Target)
+void ConnectHintsOf(Screen& Target)
 {
     for (Control* Each : Target.Controls) {
         if (Each->ToolTip.empty()) continue;
@@ -16,6 +17,13 @@ void ConnectHints(Screen& Target)
         if (Pressed) Each->MouseMove = ShowHint;
     }
     Target.Hidden = ClearHint;
+}
+
+} // namespace
+
+void ConnectHints()
+{
+    for (Screen* Each : AllScreens()) ConnectHintsOf(*Each);
 }
 
 void ClearHint()

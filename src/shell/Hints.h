@@ -1,13 +1,11 @@
 // The hints of the status bar.
 #pragma once
 
-#include "platform/Screen.h"
-
 namespace velorix {
 
-// Shows a control's tool tip in the status bar: that of an input when it gets the focus, that of a button or
-// menu entry when the pointer comes over it. The hint goes with its screen.
-void ConnectHints(Screen& Target);
+// Shows a control's tool tip in the status bar, on every screen: that of an input when it gets the focus,
+// that of a button or menu entry when the pointer comes over it. The hint goes with its screen.
+void ConnectHints();
 
 void ClearHint();
 

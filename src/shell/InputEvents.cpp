@@ -221,7 +221,6 @@ void ConnectHelp()
 
 void ConnectInputScreen()
 {
-    ConnectHints(frmLCC);
     ConnectEdits();
     frmLCC.comDiameterUnits.Change = DiameterUnitsChosen;
     frmLCC.comPumpVaryingDemandUnits.Change = PumpDemandUnitsChosen;

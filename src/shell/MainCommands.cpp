@@ -96,7 +96,6 @@ void ConnectMainWindow()
     MDIProject.tmrWelcome.Tick = WelcomeTick;
     MDIProject.tmrCurrency.Tick = RefreshCurrency;
     MDIProject.sspProject.MouseMove = ClearHint;
-    ConnectHints(MDIProject);
     DisableWhatIsMissing();
 }
 

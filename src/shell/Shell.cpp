@@ -69,6 +69,7 @@ Handler ShowPumpCurve;
 
 void ConnectScreens()
 {
+    ConnectHints();
     ConnectMainWindow();
     ConnectInputScreen();
     ConnectGridEditors();
@@ -77,10 +78,6 @@ void ConnectScreens()
     ConnectKindOfSystem();
     ConnectAnalyseDialog();
     ConnectResults();
-    for (Screen* Each :
-         std::initializer_list<Screen*>{&frmAbout, &frmAgree, &frmAnalyse, &frmDeleteRow, &frmDisclaimer,
-                                        &frmDutyPoint, &frmLCCType, &frmPref, &frmResults})
-        ConnectHints(*Each);
 }
 
 bool StartProgram()

@@ -43,8 +43,7 @@ TEST_F(HelpTest, EveryHelpCommandAndEveryLinkFindsItsTopic)
 {
     TopicPlatform Topics;
     InstallPlatform(&Topics);
-    for (const Screen* Each : std::initializer_list<Screen*>{&MDIProject, &frmLCC, &frmLCCType, &frmPref,
-                                                             &frmDeleteRow, &frmAnalyse})
+    for (const Screen* Each : AllScreens())
         for (Control* Command : Each->Controls) {
             if (!Command->ToolTip.starts_with("Help")) continue;
             if (auto* Button = dynamic_cast<CommandButton*>(Command)) Button->Click();

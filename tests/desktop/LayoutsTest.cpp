@@ -236,11 +236,8 @@ TEST_F(LayoutsTest, OneScreenStandsAtATime)
 
 TEST_F(LayoutsTest, DialogsAreCompleteAndFit)
 {
-    const std::pair<Screen*, QDialog* (*)(QWidget*)> Dialogs[] = {
-        {&frmAgree, AgreeDialog},      {&frmIntro, IntroDialog},         {&frmLCCType, LccTypeDialog},
-        {&frmPref, PreferencesDialog}, {&frmDeleteRow, DeleteRowDialog}, {&frmDisclaimer, DisclaimerDialog},
-        {&frmAbout, AboutDialog}};
-    for (const auto& [Shown, Make] : Dialogs) {
+    for (const auto& [Shown, Make] : AllDialogs()) {
+        if (Shown == &frmAnalyse) continue; // opens empty, see below
         SCOPED_TRACE(Shown->Name);
         Shown->LoadHidden();
         const std::unique_ptr<QDialog> Dialog(Make(Main.get()));

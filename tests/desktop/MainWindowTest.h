@@ -31,7 +31,7 @@ protected:
 
     ~MainWindowTest() override
     {
-        for (Screen* Each : std::initializer_list<Screen*>{&MDIProject, &frmLCC, &frmResults}) Each->Unload();
+        UnloadScreens();
         ResetSession();
     }
 

@@ -14,12 +14,6 @@ using testing::HasSubstr;
 
 class FileCommandsTest : public ProjectTest {
 protected:
-    FileCommandsTest()
-    {
-        for (Screen* Each : std::initializer_list<Screen*>{&frmLCCType, &frmView, &frmPumpView})
-            Each->Unload();
-    }
-
     // A complete gravity project in a file of that name.
     std::filesystem::path StartSaved(const std::string& Name)
     {

@@ -26,7 +26,7 @@ protected:
         ResetProjectRecord();
         ResetWorkingSet();
         ResetSession();
-        for (Screen* Each : std::initializer_list<Screen*>{&frmLCC, &frmResults, &MDIProject}) Each->Unload();
+        UnloadScreens();
 
         std::string Template = (std::filesystem::temp_directory_path() / "velorix-test-XXXXXX").string();
         Folder = ::mkdtemp(Template.data());

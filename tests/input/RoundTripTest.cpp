@@ -115,7 +115,7 @@ TEST_F(RoundTripTest, EveryFieldComesBackAsTyped)
         ResetProjectRecord();
         ResetWorkingSet();
         ResetSession();
-        for (Screen* Each : std::initializer_list<Screen*>{&frmLCC, &MDIProject}) Each->Unload();
+        UnloadScreens();
         StartNew(1 - SystemType);
         OpenProjectFile(File);
         EXPECT_EQ(ShownProject(), Typed);

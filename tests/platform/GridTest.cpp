@@ -68,12 +68,17 @@ TEST(GridTest, RowsThatStayKeepTheirCellsAndTheDesignComesBack)
 
     Table.ColWidth[0] = 100;
     Table.MergeEqualCells = true;
+    Table.HeaderHeight = Table.DataRowHeight = Table.FixedRows = Table.FixedCols = 2;
     Table.EnterCell = [] { ADD_FAILURE() << "an event"; };
+    int Told = 0;
+    Table.ShapeView = [&] { ++Told; };
     Table.BackToDesign();
+    EXPECT_EQ(Told, 1);
     EXPECT_EQ(Table.Rows(), 3);
     EXPECT_EQ(Table.Text(2, 0), "last");
     EXPECT_EQ(Table.ColWidth[0], 900);
     EXPECT_FALSE(Table.MergeEqualCells);
+    EXPECT_EQ(Table.HeaderHeight + Table.DataRowHeight + Table.FixedRows + Table.FixedCols, 1);
     EXPECT_EQ(Table.Row(), 0);
     EXPECT_EQ(Table.Col(), 0);
 }

@@ -9,7 +9,9 @@ namespace {
 
 TEST(PropertyTest, ANewValueTellsTheViewAndThenTheEventOnceEach)
 {
-    Property<int> Field(1);
+    struct : PropertyOwner {
+    } Owner;
+    Property<int> Field(Owner, 1);
     std::string Heard;
     const auto Note = [&](const std::string& What) { Heard += What + std::to_string(Field) + " "; };
     Field.View = [&](const void* Source) { Note(Source == &Heard ? "own" : "view"); };

@@ -16,9 +16,6 @@ struct SampleScreen : Screen {
         Varying.Value = true;
         Units.ListIndex = 0;
         Remark.Text = "none";
-        Day.Value = Date{2005, 3, 3};
-        Advanced.Visible = false;
-        Sign.BackColor = PureYellow;
         DesignEnds();
     }
 
@@ -26,26 +23,19 @@ struct SampleScreen : Screen {
     auto Shown() const
     {
         return std::tuple(Visible.Get(), Enabled.Get(), Caption.Get(), Remark.Text.Get(),
-                          Remark.Enabled.Get(), Remark.Tag, Units.Text(), Fixed.Value.Get(),
-                          Varying.Value.Get(), Advanced.Value.Get(), Advanced.Visible.Get(), Life.Max.Get(),
-                          Life.Value.Get(), Day.Value.Get(), Sign.Caption.Get(), Sign.BackColor.Get(),
-                          Next.Caption.Get(), Pages.Tab.Get(), Pages.TabVisible.Get(), Progress.Value.Get(),
-                          Clock.Enabled.Get(), Table.Rows());
+                          Remark.Enabled.Get(), Remark.Tag, Remark.ToolTip, Remark.MaxLength, Remark.SelStart,
+                          Units.Text(), Fixed.Value.Get(), Varying.Value.Get(), Life.Max.Get(),
+                          Life.Value.Get(), Life.SmallChange, Life.LargeChange, Entry.Caption.Get(),
+                          Table.Rows());
     }
 
     TextBox Remark;
     ComboBox Units{{"m", "ft"}};
     OptionButton Fixed{"Fixed"};
     OptionButton Varying{"Varying"};
-    CheckBox Advanced{"Advanced"};
     ScrollBar Life{1, 100, 5};
-    DatePicker Day;
     Array0<Label, 2> Hours;
-    Label Sign{"R"};
-    CommandButton Next{"&Next"};
-    TabControl Pages{{"One", "Two"}};
-    ProgressBar Progress;
-    Timer Clock{100};
+    MenuItem Entry{"&Add"};
     Grid Table{3, 2};
 };
 
@@ -53,10 +43,23 @@ TEST(ScreenTest, ControlsStandInTheOrderOfTheirDeclaration)
 {
     SampleScreen Sample;
     const TextBox Loose; // belongs to no screen
-    ASSERT_EQ(Sample.Controls.size(), 15U);
+    ASSERT_EQ(Sample.Controls.size(), 9U);
     EXPECT_EQ(Sample.Controls[0], &Sample.Remark);
-    EXPECT_EQ(Sample.Controls[8], &Sample.Hours[1]);
-    EXPECT_EQ(Sample.Controls[14], &Sample.Table);
+    EXPECT_EQ(Sample.Controls[6], &Sample.Hours[1]);
+    EXPECT_EQ(Sample.Controls[8], &Sample.Table);
+}
+
+TEST(ScreenTest, AScreenIsAmongAllAsLongAsItLives)
+{
+    const std::vector<Screen*> Others = AllScreens();
+    {
+        SampleScreen Sample;
+        EXPECT_EQ(AllScreens().back(), &Sample);
+        Sample.Visible = true;
+        UnloadScreens();
+        EXPECT_FALSE(Sample.Visible);
+    }
+    EXPECT_EQ(AllScreens(), Others);
 }
 
 TEST(ScreenTest, UnloadPutsEverythingBackWithoutEvents)
@@ -72,23 +75,18 @@ TEST(ScreenTest, UnloadPutsEverythingBackWithoutEvents)
     Sample.Caption = "Other";
     Sample.Remark.Text = "typed";
     Sample.Remark.Enabled = false;
-    Sample.Remark.Tag = "note";
+    Sample.Remark.Tag = Sample.Remark.ToolTip = "note";
+    Sample.Remark.MaxLength = Sample.Remark.SelStart = Sample.Life.SmallChange = Sample.Life.LargeChange = 3;
     Sample.Units.List = {"mm"};
-    Sample.Fixed.Value = Sample.Advanced.Value = Sample.Advanced.Visible = Sample.Clock.Enabled = true;
+    Sample.Fixed.Value = true;
     Sample.Varying.Value = false;
     Sample.Life.Max = 20;
     Sample.Life.Value = 15;
-    Sample.Day.Value = Date{1999, 1, 1};
-    Sample.Sign.Caption = "$";
-    Sample.Sign.BackColor = PureRed;
-    Sample.Next.Caption = "&Finish";
-    Sample.Pages.Tab = 1;
-    Sample.Pages.TabVisible = {true, false};
-    Sample.Progress.Value = 50;
+    Sample.Entry.Caption = "&Remove";
     Sample.Table.SetRows(9);
 
-    Sample.Remark.Change = Sample.Units.Change = Sample.Life.Change = Sample.Day.Change = Sample.Fixed.Click =
-        Sample.Varying.Click = Sample.Advanced.Click = [&] { Heard += "event "; };
+    Sample.Remark.Change = Sample.Units.Change = Sample.Life.Change = Sample.Fixed.Click =
+        Sample.Varying.Click = [&] { Heard += "event "; };
     Sample.Remark.Text.View = [&](const void*) { Heard += "view "; };
     Sample.Unload();
     EXPECT_TRUE(Sample.Shown() == Design);

@@ -49,9 +49,7 @@ TEST_F(MainCommandsTest, ResultsAndInputTakeTurns)
 // Every button that can be pressed does something.
 TEST_F(MainCommandsTest, NoButtonIsLeftUnconnected)
 {
-    for (const Screen* Each :
-         std::initializer_list<const Screen*>{&MDIProject, &frmLCC, &frmAnalyse, &frmLCCType, &frmPref,
-                                              &frmDeleteRow, &frmAgree, &frmDisclaimer, &frmAbout})
+    for (const Screen* Each : AllScreens())
         for (const Control* Control : Each->Controls) {
             const auto* Button = dynamic_cast<const CommandButton*>(Control);
             if (!Button || !Button->Enabled) continue;

@@ -1,0 +1,108 @@
+// Every property of every screen, after a reset of the program.
+#include "ShellTest.h"
+
+#include "platform/Grid.h"
+
+#include <functional>
+#include <tuple>
+#include <typeinfo>
+
+namespace velorix {
+namespace {
+
+// A property, and what it held before any test had run.
+struct Noted {
+    std::string Name;
+    AnyProperty* Property;
+    std::function<bool()> HoldsItsStart;
+};
+
+bool Other(bool Value)
+{
+    return !Value;
+}
+int Other(int Value)
+{
+    return Value + 1;
+}
+std::string Other(const std::string& Value)
+{
+    return Value + "x";
+}
+Date Other(Date Value)
+{
+    return {Value.Year + 1, Value.Month, Value.Day};
+}
+Color Other(Color Value)
+{
+    return {Value.Value + 1};
+}
+template <typename T>
+std::vector<T> Other(std::vector<T> Value)
+{
+    Value.emplace_back();
+    return Value;
+}
+
+// Does What with the property as one of its type. False for a type that isn't told here.
+template <typename Action>
+bool WithItsType(AnyProperty& Target, const Action& What)
+{
+    const auto Try = [&What](auto* Typed) {
+        if (Typed) What(*Typed);
+        return Typed != nullptr;
+    };
+    const auto TryAll = [&]<typename... T>(std::tuple<T...>*) {
+        return (Try(dynamic_cast<PropertyOf<T>*>(&Target)) || ...);
+    };
+    using Types = std::tuple<bool, int, std::string, Date, Color, std::vector<bool>, std::vector<int>,
+                             std::vector<std::string>, std::vector<std::vector<GridCell>>>;
+    return TryAll(static_cast<Types*>(nullptr));
+}
+
+class FreshStart : public testing::Environment {
+public:
+    void SetUp() override
+    {
+        for (const Screen* Each : AllScreens()) {
+            Note(*Each, Each->Name);
+            for (const Control* Member : Each->Controls)
+                Note(*Member, Each->Name + ": " + typeid(*Member).name() + " " + Member->ToolTip);
+        }
+    }
+
+    std::vector<Noted> Properties;
+
+private:
+    void Note(const PropertyOwner& Owner, const std::string& Name)
+    {
+        for (AnyProperty* Each : Owner.Properties) {
+            std::function<bool()> HoldsItsStart;
+            WithItsType(*Each, [&](auto& Typed) {
+                HoldsItsStart = [&Typed, Start = Typed.Get()] { return Typed.Get() == Start; };
+            });
+            Properties.push_back({Name, Each, HoldsItsStart});
+        }
+    }
+};
+const auto* const Fresh = static_cast<FreshStart*>(testing::AddGlobalTestEnvironment(new FreshStart));
+
+// Twice: after what a started program has changed, and after changes of all there is.
+TEST_F(ShellTest, AResetPutsEveryPropertyOfEveryScreenBackToAFreshStart)
+{
+    ASSERT_GT(Fresh->Properties.size(), 1000U);
+    for (int Round = 0; Round < 2; ++Round) {
+        ResetProgram();
+        for (const auto& [Name, Property, HoldsItsStart] : Fresh->Properties)
+            EXPECT_TRUE(HoldsItsStart && HoldsItsStart()) << Name;
+        for (const auto& [Name, Property, HoldsItsStart] : Fresh->Properties) {
+            ASSERT_TRUE(WithItsType(*Property, [](auto& Typed) { Typed.Restore(Other(Typed.Get())); }))
+                << Name;
+            EXPECT_FALSE(HoldsItsStart()) << Name;
+        }
+    }
+    ResetProgram();
+}
+
+} // namespace
+} // namespace velorix
