@@ -40,14 +40,14 @@ std::vector<std::string> LoadAndTellPinned(const std::filesystem::path& Project)
     ReadProjectRecord();
     CopyRecordToWorkingSet(); // which the load step does again, ahead of the fill
     ProjectFields Held;
-#define VELORIX_NUMBERS(Name, Offset, Count) Held.Name = w##Name;
-#define VELORIX_TEXT(Name, Offset, Width)
+#define VELORIX_NUMBERS(Name, ...) Held.Name = w##Name;
+#define VELORIX_TEXT(...)
     VELORIX_RECORD_FIELDS(VELORIX_NUMBERS, VELORIX_NUMBERS, VELORIX_TEXT)
 #undef VELORIX_NUMBERS
 
     LoadProject();
     Lines Told;
-#define VELORIX_NUMBERS(Name, Offset, Count) Compare(#Name, Held.Name, w##Name, Told);
+#define VELORIX_NUMBERS(Name, ...) Compare(#Name, Held.Name, w##Name, Told);
     VELORIX_RECORD_FIELDS(VELORIX_NUMBERS, VELORIX_NUMBERS, VELORIX_TEXT)
 #undef VELORIX_NUMBERS
 #undef VELORIX_TEXT

@@ -39,8 +39,8 @@ constexpr auto ProfileKeys =
 constexpr int ListsOf(int Size)
 {
     int Found = 0;
-#define VELORIX_NUMBERS(Name, Offset, Count) Found += (Count) == Size;
-#define VELORIX_TEXT(Name, Offset, Width)
+#define VELORIX_NUMBERS(Name, Offset, Count, ...) Found += (Count) == Size;
+#define VELORIX_TEXT(...)
     VELORIX_RECORD_FIELDS(VELORIX_NUMBERS, VELORIX_NUMBERS, VELORIX_TEXT)
 #undef VELORIX_NUMBERS
 #undef VELORIX_TEXT
@@ -146,59 +146,23 @@ std::string Shown(const Json& Value)
     return Value.is_object() ? "an object" : Shortened(Value.dump());
 }
 
-struct FieldRange {
-    std::string_view Key;
-    int Least;
-    int Most;
-};
-
-constexpr auto Ranges = std::to_array<FieldRange>({
-    {"SystemType", 0, 1},      {"Units", 0, 1},
-    {"Currency", 0, 1},        {"FlowrateUnits", 0, 12},
-    {"VaryingDemand", 0, 1},   {"Life", 2, 100},
-    {"BaseYear", 1950, 2500},  {"SupplyStart", 1950, 2500},
-    {"DemandUnits", 0, 12},    {"TRWLUnits", 0, 3},
-    {"BRWLUnits", 0, 3},       {"NodeNr", 1, 500},
-    {"NodeDesc", 0, 20},       {"WallThicknessUnits", 0, 3},
-    {"LiningType", 0, 1},      {"LiningThicknessUnits", 0, 3},
-    {"KsNewUnits", 0, 3},      {"KsOldUnits", 0, 3},
-    {"DiameterUnits", 0, 3},   {"ElevationUnits", 0, 3},
-    {"LengthUnits", 0, 3},     {"MMechanical", 0, 1000},
-    {"MElectrical", 0, 1000},  {"MPipeline", 0, 2000},
-    {"WaterSalesUnits", 0, 3}, {"HeadUnits", 0, 1},
-    {"FlowUnits", 0, 3},       {"PumpDetails", 0, 1},
-    {"Summer", 0, 12},         {"SummerHour", 0, 2},
-    {"WinterHour", 0, 2},      {"PumpOperatingFlowrateUnits", 0, 9},
-    {"PumpingHours", 1, 24},
-});
-
-// What the field may hold; without a range of its own, what its 16 bits may.
-FieldRange RangeOf(const std::string& Key)
-{
-    const auto* const Found =
-        std::find_if(Ranges.begin(), Ranges.end(), [&](const FieldRange& Each) { return Each.Key == Key; });
-    if (Found != Ranges.end()) return *Found;
-    return {Key, std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::int16_t>::max()};
-}
-
 // The texts that stand for the numbers that JSON has no words for.
 constexpr auto NotFiniteWords = std::to_array<std::pair<std::string_view, float>>(
     {{"NaN", std::numeric_limits<float>::quiet_NaN()},
      {"Infinity", std::numeric_limits<float>::infinity()},
      {"-Infinity", -std::numeric_limits<float>::infinity()}});
 
-void TakeValue(const std::string& Key, const Json& Value, std::int16_t& Target)
+void TakeValue(const FieldRule& Rule, const Json& Value, std::int16_t& Target)
 {
-    if (!Value.is_number_integer()) Refuse(Key, "a whole number is expected, not " + Shown(Value));
-    const FieldRange Allowed = RangeOf(Key);
+    if (!Value.is_number_integer()) Refuse(Rule.Name, "a whole number is expected, not " + Shown(Value));
     const std::int64_t Number = Value.get<std::int64_t>();
-    if (Number < Allowed.Least || Number > Allowed.Most)
-        Refuse(Key, Shown(Value) + " is outside " + std::to_string(Allowed.Least) + " to " +
-                        std::to_string(Allowed.Most));
+    if (Number < Rule.Allowed.Least || Number > Rule.Allowed.Most)
+        Refuse(Rule.Name, Shown(Value) + " is outside " + std::to_string(Rule.Allowed.Least) + " to " +
+                              std::to_string(Rule.Allowed.Most));
     Target = static_cast<std::int16_t>(Number);
 }
 
-void TakeValue(const std::string& Key, const Json& Value, Single& Target)
+void TakeValue(const FieldRule& Rule, const Json& Value, Single& Target)
 {
     if (Value.is_number()) {
         Target = Value.get<double>();
@@ -209,17 +173,19 @@ void TakeValue(const std::string& Key, const Json& Value, Single& Target)
             Target = Number;
             return;
         }
-    Refuse(Key, "a number is expected, not " + Shown(Value));
+    Refuse(Rule.Name, "a number is expected, not " + Shown(Value));
 }
 
 template <int Width>
-void TakeValue(const std::string& Key, const Json& Value, FixedText<Width>& Target)
+void TakeValue(const FieldRule& Rule, const Json& Value, FixedText<Width>& Target)
 {
-    if (!Value.is_string()) Refuse(Key, "a text is expected, not " + Shown(Value));
+    if (!Value.is_string()) Refuse(Rule.Name, "a text is expected, not " + Shown(Value));
     const std::string Text = Value.get<std::string>();
     const std::string Bytes = ToCodePage(Text);
-    if (FromCodePage(Bytes) != Text) Refuse(Key, "the text has characters that a project file can't hold");
-    if (Bytes.size() > Width) Refuse(Key, "the text is longer than " + std::to_string(Width) + " characters");
+    if (FromCodePage(Bytes) != Text)
+        Refuse(Rule.Name, "the text has characters that a project file can't hold");
+    if (Bytes.size() > Width)
+        Refuse(Rule.Name, "the text is longer than " + std::to_string(Width) + " characters");
     SetText(Target, Text);
 }
 
@@ -229,38 +195,39 @@ void RequireList(const std::string& Key, const Json& Value)
 }
 
 template <typename T, int Count>
-void TakeList(const std::string& Key, const Json& Values, Array1<T, Count>& Target)
+void TakeList(const FieldRule& Rule, const Json& Values, Array1<T, Count>& Target)
 {
-    RequireList(Key, Values);
-    if (Values.size() > Count) Refuse(Key, "the list is longer than " + std::to_string(Count) + " entries");
+    RequireList(Rule.Name, Values);
+    if (Values.size() > Count)
+        Refuse(Rule.Name, "the list is longer than " + std::to_string(Count) + " entries");
     int Index = 0;
     for (const Json& Each : Values) {
         ++Index;
-        TakeValue(Key, Each, Target[Index]);
+        TakeValue(Rule, Each, Target[Index]);
     }
 }
 
-void TakePumpCurve(const std::string& Key, const Json& Points, Array1<Single, PumpCurveValues>& Target)
+void TakePumpCurve(const FieldRule& Rule, const Json& Points, Array1<Single, PumpCurveValues>& Target)
 {
-    RequireList(Key, Points);
-    if (Points.size() > Target.Count / PumpValues) Refuse(Key, "the list is longer than 6 points");
+    RequireList(Rule.Name, Points);
+    if (Points.size() > Target.Count / PumpValues) Refuse(Rule.Name, "the list is longer than 6 points");
     int Index = 0;
     for (const Json& Point : Points) {
         if (!Point.is_array() || Point.size() != PumpValues)
-            Refuse(Key, "a point is a list of three: head, flow rate and efficiency");
-        for (const Json& Each : Point) TakeValue(Key, Each, Target[++Index]);
+            Refuse(Rule.Name, "a point is a list of three: head, flow rate and efficiency");
+        for (const Json& Each : Point) TakeValue(Rule, Each, Target[++Index]);
     }
 }
 
 template <typename T, int Count>
-void TakeValue(const std::string& Key, const Json& Values, Array1<T, Count>& Target)
+void TakeValue(const FieldRule& Rule, const Json& Values, Array1<T, Count>& Target)
 {
     if constexpr (Count == PumpCurveValues) {
-        TakePumpCurve(Key, Values, Target);
+        TakePumpCurve(Rule, Values, Target);
     } else {
-        TakeList(Key, Values, Target);
+        TakeList(Rule, Values, Target);
         if constexpr (Count == LayingEntries)
-            if (Target[Count] != 0.0) Refuse(Key, "entry " + std::to_string(Count) + " must be 0");
+            if (Target[Count] != 0.0) Refuse(Rule.Name, "entry " + std::to_string(Count) + " must be 0");
     }
 }
 
@@ -268,10 +235,9 @@ void TakeValue(const std::string& Key, const Json& Values, Array1<T, Count>& Tar
 std::map<std::string, std::function<void(const Json&)>> FieldTakers(ProjectFields& Record)
 {
     std::map<std::string, std::function<void(const Json&)>> Takers;
-#define VELORIX_FIELD(Name, Offset, Count)                                                                   \
-    Takers[#Name] = [&Record](const Json& Value) { TakeValue(#Name, Value, Record.Name); };
-    VELORIX_RECORD_FIELDS(VELORIX_FIELD, VELORIX_FIELD, VELORIX_FIELD)
-#undef VELORIX_FIELD
+    ForEachField(Record, [&](const FieldRule& Rule, auto& Field) {
+        Takers[Rule.Name] = [&Rule, &Field](const Json& Value) { TakeValue(Rule, Value, Field); };
+    });
     return Takers;
 }
 
@@ -333,9 +299,9 @@ Json Parse(const std::string& Text)
 std::string ProjectToJson(const ProjectFields& Record)
 {
     JsonObject Object;
-#define VELORIX_FIELD(Name, Offset, Count) Object.Add(#Name, FieldText(Record, Record.Name));
-    VELORIX_RECORD_FIELDS(VELORIX_FIELD, VELORIX_FIELD, VELORIX_FIELD)
-#undef VELORIX_FIELD
+    ForEachField(Record, [&](const FieldRule& Rule, const auto& Field) {
+        Object.Add(Rule.Name, FieldText(Record, Field));
+    });
     return Object.Text() + "\n";
 }
 

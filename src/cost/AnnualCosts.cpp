@@ -38,7 +38,7 @@ double Escalated(double Rate, int y)
 double WaterSold(int y)
 {
     double Supply = Flow[y];
-    if (wSystemType == 1) Supply = PumpingHours[y] * Flow[y] / 24;
+    if (IsPumping()) Supply = PumpingHours[y] * Flow[y] / 24;
     const double Demand = wVaryingDemand == 1 ? DemandFactor * wDemand[y] : wFlowrate * DemandFactor;
     return Ordered(Checked(Demand)) >= Ordered(Checked(Supply)) ? Supply : Demand;
 }
@@ -103,7 +103,7 @@ void ComputeAnnualCosts()
     for (int y = 1; y <= wLife; ++y) ComputeMaintenance(y);
     ComputeOperation();
     for (int y = 1; y <= wLife; ++y) {
-        if (wSystemType == 1)
+        if (IsPumping())
             ComputeEnergy(y);
         else
             EnergyCost[y] = 0;

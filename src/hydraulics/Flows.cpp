@@ -127,7 +127,7 @@ void SolveGivenFlow()
 void SolveAllYears()
 {
     StoreRoughness();
-    if (wSystemType != 1)
+    if (!IsPumping())
         SolveGravity();
     else if (wPumpDetails == 0)
         SolveGivenFlow();

@@ -3,9 +3,9 @@
 
 #include "base/Arithmetic.h"
 #include "base/Failure.h"
+#include "model/Units.h"
 #include "model/WorkingSet.h"
 
-#include <array>
 #include <optional>
 
 namespace velorix {
@@ -27,47 +27,10 @@ Single WaterSalesFactor;
 
 namespace {
 
-// Index: the entry of the unit's list. Flows to m3/s.
-constexpr std::array DemandFactors = {
-    0.011574074,    // megalitres a day
-    0.00027777778,  // m3/h
-    1.0,            // m3/s
-    0.001,          // l/s
-    0.028316846,    // ft3/s
-    0.0037854118,   // US gallons a second
-    0.00006309020,  // US gallons a minute
-    1.0505030,      // million US gallons an hour
-    0.043812636,    // million US gallons a day
-    0.0045460919,   // imperial gallons a second
-    0.000075768199, // imperial gallons a minute
-    1.2628033,      // million imperial gallons an hour
-    0.052616805,    // million imperial gallons a day
-};
-constexpr std::array OperatingFlowFactors = {
-    0.00027777778,  // m3/h
-    1.0,            // m3/s
-    0.001,          // l/s
-    0.028316846,    // ft3/s
-    0.0037854118,   // US gallons a second
-    0.00006309020,  // US gallons a minute
-    1.0505030,      // million US gallons an hour
-    0.0045460919,   // imperial gallons a second
-    0.000075768199, // imperial gallons a minute
-    1.2628033,      // million imperial gallons an hour
-};
-constexpr std::array HeadFactors = {1.0, 0.3048};                                          // m, ft
-constexpr std::array FlowFactors = {0.00027777778, 1.0, 0.028316847 / 3600, 0.0037854118}; // m3/h, m3/s,
-                                                                                           // ft3/h, US gal/s
-constexpr std::array WaterSalesFactors = {1.0, 1000.0, 0.028316846, 0.0037854118};         // per m3, Ml,
-                                                                                           // ft3, US gal
-constexpr std::array<std::int16_t, 4> ElevationFactors = {1, 1000, 0,
-                                                          1609}; // m, km, ft, miles: whole numbers
-
-// A unit index outside its table leaves the target as it was, here and in Store.
-template <typename Target, typename Entry, std::size_t Count>
-void Pick(Target& Factor, const std::array<Entry, Count>& Table, int Index)
+// A unit index outside its list leaves the target as it was, here and in Store.
+void Pick(Single& Factor, UnitList Units, int Index)
 {
-    if (Index >= 0 && Index < static_cast<int>(Count)) Factor = Table[static_cast<std::size_t>(Index)];
+    if (const Unit* const Found = UnitAt(Units, Index)) Factor = Found->Factor;
 }
 
 void Store(Single& Target, std::optional<double> Value)
@@ -75,34 +38,34 @@ void Store(Single& Target, std::optional<double> Value)
     if (Value) Target = Checked(*Value);
 }
 
-// Units: m, km, ft, miles.
+std::optional<double> InMetres(double Value, UnitList Units, int Index)
+{
+    const Unit* const Found = UnitAt(Units, Index);
+    return Found ? std::optional(Value * Found->Factor) : std::nullopt;
+}
+
 std::optional<double> FromDistance(double Value, int Units)
 {
-    switch (Units) {
-    case 0: return Value;
-    case 1: return Value * 1000;
-    case 2: return Value * 0.3048;
-    case 3: return Value * 1609.344;
-    default: return std::nullopt;
-    }
+    return InMetres(Value, DistanceUnitList, Units);
 }
 
-// Diameters and roughnesses. Units: mm, m, in, ft.
-std::optional<double> FromFineLength(double Value, int Units)
-{
-    switch (Units) {
-    case 0: return Value / 1000;
-    case 1: return Value;
-    case 2: return Value * 0.0254;
-    case 3: return Value * 0.3048;
-    default: return std::nullopt;
-    }
-}
-
-// Lining and walls. The same units, but mm are multiplied, which may differ in the last digit.
+// Lining and walls.
 std::optional<double> FromThickness(double Value, int Units)
 {
-    return Units == 0 ? Value * 0.001 : FromFineLength(Value, Units);
+    return InMetres(Value, FineLengthUnitList, Units);
+}
+
+// Diameters and roughnesses. The same units, but mm are divided, which may differ in the last digit.
+std::optional<double> FromFineLength(double Value, int Units)
+{
+    return Units == 0 ? Value / 1000 : FromThickness(Value, Units);
+}
+
+// A whole number: that of feet is 0.
+void StoreElevationFactor()
+{
+    if (const Unit* const Found = UnitAt(DistanceUnitList, wElevationUnits))
+        ElevationFactor = RoundToInt16(Found->Factor);
 }
 
 void StoreBores()
@@ -134,7 +97,7 @@ void StoreSectionLengths()
 void StoreDemand()
 {
     const bool Varying = wVaryingDemand == 1;
-    Pick(DemandFactor, DemandFactors, Varying ? wDemandUnits : wFlowrateUnits);
+    Pick(DemandFactor, FlowUnitList, Varying ? wDemandUnits : wFlowrateUnits);
     for (int y = 1; y <= wLife; ++y)
         DemandFlow[y] = Checked(DemandFactor * (Varying ? wDemand[y] : wFlowrate));
 }
@@ -142,12 +105,12 @@ void StoreDemand()
 void StorePumpAndSalesFactors()
 {
     if (wPumpDetails != 0) {
-        Pick(HeadFactor, HeadFactors, wHeadUnits);
-        Pick(FlowFactor, FlowFactors, wFlowUnits);
+        Pick(HeadFactor, HeadUnitList, wHeadUnits);
+        Pick(FlowFactor, PumpFlowUnitList, wFlowUnits);
     } else {
-        Pick(OperatingFlowFactor, OperatingFlowFactors, wPumpOperatingFlowrateUnits);
+        Pick(OperatingFlowFactor, OperatingFlowUnitList, wPumpOperatingFlowrateUnits);
     }
-    Pick(WaterSalesFactor, WaterSalesFactors, wWaterSalesUnits);
+    Pick(WaterSalesFactor, TariffUnitList, wWaterSalesUnits);
 }
 
 } // namespace
@@ -157,7 +120,7 @@ void NormaliseInputs()
     ClearArithmeticFlags();
     Store(UpstreamLevel, FromDistance(wTRWL, wTRWLUnits));
     Store(DownstreamLevel, FromDistance(wBRWL, wBRWLUnits));
-    Pick(ElevationFactor, ElevationFactors, wElevationUnits);
+    StoreElevationFactor();
     StoreBores();
     Store(KsNewM, FromFineLength(wKsNew, wKsNewUnits));
     Store(KsOldM, FromFineLength(wKsOld, wKsOldUnits));

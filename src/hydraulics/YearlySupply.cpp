@@ -85,7 +85,7 @@ void SupplyDemand()
 {
     ClearArithmeticFlags();
     for (int y = 1; y <= wLife; ++y) {
-        if (wSystemType == 1)
+        if (IsPumping())
             SupplyPumpingYear(y);
         else
             SupplyGravityYear(y);

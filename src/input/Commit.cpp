@@ -1,24 +1,84 @@
-// The steps of a commit in their order.
+// The steps of a commit in their order, over the table of inputs.
 #include "input/Commit.h"
 
-#include "input/CommitChecks.h"
-#include "input/CommitFields.h"
-#include "input/CostTables.h"
+#include "base/NumberText.h"
+#include "base/Text.h"
+#include "input/InputFields.h"
 #include "input/Session.h"
 #include "model/ProjectFile.h"
 #include "model/WorkingSet.h"
+#include "platform/Platform.h"
+#include "screens/Lcc.h"
 #include "screens/MainWindow.h"
 
+#include <cctype>
+
 namespace velorix {
+namespace {
+
+// The page on top stays, whichever page holds the box.
+void PointOut(TextBox& Box, const std::string& Problem)
+{
+    Warn(Problem, "Error !");
+    frmLCC.Visible = true;
+    System().SetFocus(Box);
+}
+
+// Looks for an empty box; in between, grids are read.
+bool InputIsComplete()
+{
+    for (const InputField* Each : RequestedFields()) {
+        const Request& Asked = Each->Asked;
+        if (!Each->When.IsTaken() || (Asked.Under && !Asked.Under->Value)) continue;
+        if (Asked.Instead) {
+            Asked.Instead();
+        } else if (Trimmed(Each->Box->Text.Get()).empty()) {
+            PointOut(*Each->Box, Asked.IfEmpty);
+            return false;
+        }
+    }
+    return true;
+}
+
+// A box is known to the user by its hint: "Enter the fixed demand" asks for the "Fixed demand".
+std::string NameOf(const TextBox& Box)
+{
+    const std::string Request = "Enter the ";
+    std::string Name = Box.ToolTip;
+    if (Name.starts_with(Request)) Name.erase(0, Request.size());
+    if (!Name.empty()) Name[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(Name[0])));
+    return Name;
+}
+
+// Of the boxes out of use too.
+bool NumbersAreReadable()
+{
+    for (const InputField* Each : RequestedFields()) {
+        if (!Each->Number || !Each->When.IsTaken()) continue;
+        try {
+            ParseSingle(Each->Box->Text.Get());
+        } catch (const Failure& Problem) {
+            PointOut(*Each->Box, NameOf(*Each->Box) + ": " + Problem.what());
+            return false;
+        }
+    }
+    return true;
+}
+
+void TakeInputs()
+{
+    for (const InputField& Each : InputFields)
+        if (Each.Take && Each.When.IsTaken()) Each.Take();
+}
+
+} // namespace
 
 void CommitProject()
 {
     Committing = 1;
-    ReadOptions();
-    if (!InputIsComplete()) return;
-    ReadStaffGrid();
-    ReadExpensesGrid();
-    if (!ReadFields()) return;
+    TakeOptions();
+    if (!InputIsComplete() || !NumbersAreReadable()) return;
+    TakeInputs();
     CopyWorkingSetToRecord();
     MDIProject.proProgressBar.Value = 70;
     Committing = 0;

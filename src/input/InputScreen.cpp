@@ -1,13 +1,11 @@
-// The order in which the input screen is filled, page by page.
+// Filling the input screen, and what its options show.
 #include "input/InputScreen.h"
 
 #include "base/Failure.h"
 #include "base/Format.h"
 #include "base/NumberText.h"
-#include "input/CommitFields.h"
 #include "input/CostTables.h"
-#include "input/HourPattern.h"
-#include "input/ProfileTable.h"
+#include "input/InputFields.h"
 #include "model/WorkingSet.h"
 #include "screens/MainWindow.h"
 
@@ -18,11 +16,6 @@ namespace {
 
 constexpr int EnergyPage = 2;
 
-void ShowNumber(TextBox& Box, Single Value)
-{
-    Box.Text = GeneralText(Value);
-}
-
 bool HoldsNumber(const TextBox& Box)
 {
     try {
@@ -31,14 +24,6 @@ bool HoldsNumber(const TextBox& Box)
     } catch (const Failure&) {
         return false;
     }
-}
-
-// The working set takes what the bar can hold, ahead of the bar: a bar that shows what is stored already
-// hasn't been moved by the user.
-void ShowInBar(ScrollBar& Bar, std::int16_t& Value)
-{
-    Value = static_cast<std::int16_t>(Bar.Value.Fit(Value));
-    Bar.Value = Value;
 }
 
 void HideOptionFrames()
@@ -63,142 +48,6 @@ void ShowKindOfSystem()
     frmLCC.lblEnergyEscalationUnit.Visible = IsPumping();
 }
 
-void FillGeneralPage()
-{
-    frmLCC.txtProject.Text = wProject;
-    frmLCC.txtDesigner.Text = wDesigner;
-    if (const std::optional<Date> Found = ParseDate(wDate)) frmLCC.dtpDate.Value = *Found;
-    frmLCC.txtDescription.Text = wDescription;
-    ShowInBar(frmLCC.hscLife, wLife);
-    ShowInBar(frmLCC.hscBaseYear, wBaseYear);
-    ShowInBar(frmLCC.hscSupplyStart, wSupplyStart);
-    frmLCC.lblLife.Caption = std::to_string(wLife);
-    frmLCC.lblBaseYear.Caption = std::to_string(wBaseYear);
-    frmLCC.lblSupplyStart.Caption = std::to_string(wSupplyStart);
-}
-
-void FillPumpCurve()
-{
-    for (int Point = 0; Point < 6; ++Point) {
-        ShowNumber(frmLCC.txtH[Point], wPumpCurve[3 * Point + 1]);
-        ShowNumber(frmLCC.txtQ[Point], wPumpCurve[3 * Point + 2]);
-        ShowNumber(frmLCC.txtEfficiency[Point], wPumpCurve[3 * Point + 3]);
-    }
-}
-
-// Both kinds of system have level and demand selectors of their own, over the same fields.
-void FillDemandAndLevelUnits()
-{
-    frmLCC.comTRWLUnits.ListIndex = wTRWLUnits;
-    frmLCC.comBRWLUnits.ListIndex = wBRWLUnits;
-    frmLCC.comPPRWLUnits.ListIndex = wTRWLUnits;
-    frmLCC.comPERWLUnits.ListIndex = wBRWLUnits;
-    frmLCC.comGFlowrateUnits.ListIndex = wFlowrateUnits;
-    frmLCC.comPFlowrateUnits.ListIndex = wFlowrateUnits;
-    frmLCC.comVaryingDemandUnits.ListIndex = wDemandUnits;
-    frmLCC.comPumpVaryingDemandUnits.ListIndex = wDemandUnits;
-}
-
-void FillEnergyPage()
-{
-    ShowInBar(frmLCC.fsbSummer, wSummer);
-    frmLCC.lblSummer.Caption = std::to_string(wSummer);
-    ShowInBar(frmLCC.fsbPumpingHours, wPumpingHours);
-    frmLCC.lblPumpingHours.Caption = std::to_string(wPumpingHours);
-    ShowNumber(frmLCC.txtSPeak, wSPeak);
-    ShowNumber(frmLCC.txtSStandard, wSStandard);
-    ShowNumber(frmLCC.txtSOffpeak, wSOffpeak);
-    ShowNumber(frmLCC.txtWPeak, wWPeak);
-    ShowNumber(frmLCC.txtWStandard, wWStandard);
-    ShowNumber(frmLCC.txtWOffpeak, wWOffpeak);
-    FillHourPattern();
-}
-
-void FillPumpingSystem()
-{
-    (wVaryingDemand == 1 ? frmLCC.optPumpVarying : frmLCC.optPumpFixed).Value = true;
-    (wPumpDetails != 0 ? frmLCC.optPumpDetails : frmLCC.optFlowrate).Value = true;
-    frmLCC.fraPumpOption.Visible = true;
-    frmLCC.FraPumpingOption.Visible = true;
-    frmLCC.fraPumpReservoir.Visible = true;
-    ReadOptions();
-    ShowPumpDemandOption();
-    ShowPumpingOption();
-
-    ShowNumber(frmLCC.txtPumpOperatingFlowrate, wPumpOperatingFlowrate);
-    ShowNumber(frmLCC.txtPPRWL, wTRWL);
-    ShowNumber(frmLCC.txtPERWL, wBRWL);
-    FillDemandAndLevelUnits();
-    frmLCC.comPumpOperatingFlowrateUnits.ListIndex = wPumpOperatingFlowrateUnits;
-    frmLCC.comHeadUnits.ListIndex = wHeadUnits;
-    frmLCC.comFlowUnits.ListIndex = wFlowUnits;
-    FillDemandGrid(frmLCC.msgPumpDemand);
-    ShowNumber(frmLCC.txtPFlowrate, wFlowrate);
-    ShowNumber(frmLCC.txtPumpEfficiency, wPumpEfficiency);
-    frmLCC.txtPumptype.Text = wPumptype;
-    frmLCC.txtPumpDescription.Text = wPumpDescription;
-    FillPumpCurve();
-    FillEnergyPage();
-}
-
-void FillGravitySystem()
-{
-    (wVaryingDemand == 1 ? frmLCC.optGCalculatedFlowrate : frmLCC.optGSpecifiedFlowrate).Value = true;
-    ReadOptions();
-    frmLCC.fraGravityOption.Visible = true;
-    frmLCC.fraGravityFlowrate.Visible = true;
-    frmLCC.fraVaryingDemand.Visible = true;
-    frmLCC.fraGravityReservoirs.Visible = true;
-    ShowGravityDemandOption();
-
-    ShowNumber(frmLCC.txtGFlowrate, wFlowrate);
-    ShowNumber(frmLCC.txtTRWL, wTRWL);
-    ShowNumber(frmLCC.txtBRWL, wBRWL);
-    FillDemandAndLevelUnits();
-    FillDemandGrid(frmLCC.msgDemand);
-    FillPumpCurve();
-}
-
-void FillProfilePage()
-{
-    (wLiningType == 1 ? frmLCC.optMortar : frmLCC.optCopon).Value = true;
-    ShowLiningOption();
-    ShowNumber(frmLCC.txtLiningThickness, wLiningThickness);
-    frmLCC.comLiningThicknessUnits.ListIndex = wLiningThicknessUnits;
-    ShowNumber(frmLCC.txtKsNew, wKsNew);
-    ShowNumber(frmLCC.txtKsOld, wKsOld);
-    ShowNumber(frmLCC.txtKsOldYears, wKsOldYears);
-    frmLCC.comKsNewUnits.ListIndex = wKsNewUnits;
-    frmLCC.comKsOldUnits.ListIndex = wKsOldUnits;
-    frmLCC.comDiameterUnits.ListIndex = wDiameterUnits;
-    frmLCC.comElevationUnits.ListIndex = wElevationUnits;
-    frmLCC.comLengthUnits.ListIndex = wLengthUnits;
-    frmLCC.comWallThicknessUnits.ListIndex = wWallThicknessUnits;
-    FillProfileGrid();
-    FillLayingGrid();
-}
-
-void FillRatesPage()
-{
-    ShowNumber(frmLCC.txtDiscountRate, wDiscountRate);
-    ShowNumber(frmLCC.txtEscalation, wEscalation);
-    if (IsPumping()) ShowNumber(frmLCC.txtEnergyEscalation, wEnergyEscalation);
-    ShowInBar(frmLCC.hscMMechanical, wMMechanical);
-    ShowInBar(frmLCC.hscMElectrical, wMElectrical);
-    ShowInBar(frmLCC.hscMPipeline, wMPipeline);
-    frmLCC.lblMMechanical.Caption = PercentCaption(wMMechanical);
-    frmLCC.lblMElectrical.Caption = PercentCaption(wMElectrical);
-    frmLCC.lblMPipeline.Caption = PercentCaption(wMPipeline);
-    ShowNumber(frmLCC.txtElectrical, wElectrical);
-    ShowNumber(frmLCC.txtMechanical, wMechanical);
-    ShowNumber(frmLCC.txtSupervision, wSupervision);
-    ShowNumber(frmLCC.txtWaterSales, wWaterSales);
-    frmLCC.comWaterSalesUnits.ListIndex = wWaterSalesUnits;
-    ShowNumber(frmLCC.txtWaterIncrease, wWaterIncrease);
-    FillStaffGrid();
-    FillExpensesGrid();
-}
-
 } // namespace
 
 void FillInputScreen()
@@ -207,13 +56,8 @@ void FillInputScreen()
     ShowKindOfSystem();
     ShowCurrencySigns();
     FillCostHeadings();
-    FillGeneralPage();
-    if (IsPumping())
-        FillPumpingSystem();
-    else
-        FillGravitySystem();
-    FillProfilePage();
-    FillRatesPage();
+    for (const InputField& Each : InputFields)
+        if (Each.When.IsShown()) Each.Show();
 }
 
 void ShowGravityDemandOption()
@@ -248,20 +92,11 @@ void ShowLiningOption()
 
 void FillUnusedBoxes()
 {
-    const auto Fill = [](TextBox& Box, Single Value) {
-        if (!HoldsNumber(Box)) ShowNumber(Box, std::isfinite(Value.Float()) ? Value : Single(0.0));
-    };
-    if (!frmLCC.optGSpecifiedFlowrate.Value) Fill(frmLCC.txtGFlowrate, wFlowrate);
-    if (!frmLCC.optPumpFixed.Value) Fill(frmLCC.txtPFlowrate, wFlowrate);
-    if (frmLCC.optPumpDetails.Value) {
-        Fill(frmLCC.txtPumpOperatingFlowrate, wPumpOperatingFlowrate);
-        Fill(frmLCC.txtPumpEfficiency, wPumpEfficiency);
-        return;
-    }
-    for (int Point = 0; Point < 6; ++Point) {
-        Fill(frmLCC.txtH[Point], wPumpCurve[3 * Point + 1]);
-        Fill(frmLCC.txtQ[Point], wPumpCurve[3 * Point + 2]);
-        Fill(frmLCC.txtEfficiency[Point], wPumpCurve[3 * Point + 3]);
+    for (const InputField& Each : InputFields) {
+        const OptionButton* const Option = Each.Asked.Under;
+        if (!Each.Number || !Each.When.IsTaken() || !Option || Option->Value || HoldsNumber(*Each.Box))
+            continue;
+        Each.Box->Text = GeneralText(std::isfinite(Each.Number->Float()) ? *Each.Number : Single(0.0));
     }
 }
 

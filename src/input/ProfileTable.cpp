@@ -4,6 +4,7 @@
 #include "base/NumberText.h"
 #include "base/Text.h"
 #include "input/GridReading.h"
+#include "model/Components.h"
 #include "model/WorkingSet.h"
 #include "platform/Platform.h"
 #include "screens/Lcc.h"
@@ -34,22 +35,6 @@ Array1<Single, 500>& ColumnArray(int Col)
     }
 }
 
-Array1<std::string, 21> MakeComponentTable()
-{
-    constexpr int Width = 20; // characters
-    constexpr std::array<const char*, 10> Names = {
-        "Node",      "Reservoir", "Pumpstation", "Isolating valve", "Non-return valve",
-        "Air valve", "90° bend",  "45° bend",    "22.5° bend",      "T-junction"};
-    Array1<std::string, 21> Table;
-    for (int Entry = 1; Entry <= Table.LastIndex; ++Entry) {
-        std::string Name =
-            Entry <= static_cast<int>(Names.size()) ? Names.at(static_cast<std::size_t>(Entry - 1)) : "";
-        const int Blanks = Width - CharacterCount(Name);
-        Table[Entry] = Name + std::string(static_cast<std::size_t>(Blanks), ' ');
-    }
-    return Table;
-}
-
 // The node count that the arrays spell.
 int CountNodes()
 {
@@ -59,19 +44,6 @@ int CountNodes()
         if (Zero || Unused) return std::max(Row - 1, LeastNodes);
     }
     return wElevation.LastIndex - 1;
-}
-
-std::string ComponentText(int NodeDesc)
-{
-    const int Entry = NodeDesc + 1;
-    return Entry >= 1 && Entry <= ComponentTable.LastIndex ? ComponentTable[Entry] : std::string();
-}
-
-std::int16_t ComponentIndex(const std::string& Text)
-{
-    for (int Entry = 1; Entry <= ComponentTable.LastIndex; ++Entry)
-        if (ComponentTable[Entry] == Text) return static_cast<std::int16_t>(Entry - 1);
-    return 0;
 }
 
 void CopyCells(int From, int To, int FirstCol, int LastCol)
@@ -116,8 +88,6 @@ void RowsChanged()
 }
 
 } // namespace
-
-const Array1<std::string, 21> ComponentTable = MakeComponentTable();
 
 void FillProfileGrid()
 {

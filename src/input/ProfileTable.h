@@ -1,15 +1,7 @@
 // The pipeline profile: one row a node, from the upstream end to the downstream end.
 #pragma once
 
-#include "base/Arrays.h"
-
-#include <string>
-
 namespace velorix {
-
-// Node component names, padded with blanks to 20 characters; entry NodeDesc + 1 belongs to NodeDesc. The last
-// entries are blank.
-extern const Array1<std::string, 21> ComponentTable;
 
 // Profile arrays to grid. Counts the nodes: up to the first entry whose elevation and length are both 0 or
 // both marked unused, at least 2, and 499 when no entry ends the table.

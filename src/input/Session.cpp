@@ -4,8 +4,10 @@
 #include "base/Text.h"
 #include "input/InputScreen.h"
 #include "input/Progress.h"
+#include "model/NewProject.h"
 #include "model/ProjectFile.h"
 #include "model/WorkingSet.h"
+#include "platform/Platform.h"
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
 #include "screens/Results.h"
@@ -33,6 +35,15 @@ void ShowTitle()
     MDIProject.tmrWelcome.Enabled = false; // it would write over the title
     const bool Named = HasFile() && !wProject.empty();
     MDIProject.Caption = Named ? ProgramTitle + " (" + wProject + ")" : ProgramTitle;
+}
+
+void NewProjectDefaults()
+{
+    NewProject = 1;
+    SaveAs = 0;
+    frmLCC.lblFileName.Caption = NewProjectCaption;
+    StartNewRecord(System().Today());
+    LoadProject();
 }
 
 void ReadProjectRecord()

@@ -21,9 +21,9 @@ constexpr bool FieldsFillTheRecord()
         Sound = Sound && Offset == Next;
         Next += Bytes;
     };
-#define VELORIX_INT16(Name, Offset, Count) Take(Offset, 2 * (Count));
-#define VELORIX_SINGLE(Name, Offset, Count) Take(Offset, 4 * (Count));
-#define VELORIX_TEXT(Name, Offset, Width) Take(Offset, Width);
+#define VELORIX_INT16(Name, Offset, Count, ...) Take(Offset, 2 * (Count));
+#define VELORIX_SINGLE(Name, Offset, Count, ...) Take(Offset, 4 * (Count));
+#define VELORIX_TEXT(Name, Offset, Width, ...) Take(Offset, Width);
     VELORIX_RECORD_FIELDS(VELORIX_INT16, VELORIX_SINGLE, VELORIX_TEXT)
 #undef VELORIX_INT16
 #undef VELORIX_SINGLE
@@ -102,18 +102,16 @@ void Take(const char* At, Array1<T, Count>& Values)
 RecordImage ToImage(const ProjectFields& Record)
 {
     RecordImage Image{};
-#define VELORIX_FIELD(Name, Offset, Count) Put(Image.data() + (Offset), Record.Name);
-    VELORIX_RECORD_FIELDS(VELORIX_FIELD, VELORIX_FIELD, VELORIX_FIELD)
-#undef VELORIX_FIELD
+    ForEachField(Record,
+                 [&](const FieldRule& Rule, const auto& Field) { Put(Image.data() + Rule.Offset, Field); });
     return Image;
 }
 
 ProjectFields FromImage(const RecordImage& Image)
 {
     ProjectFields Record;
-#define VELORIX_FIELD(Name, Offset, Count) Take(Image.data() + (Offset), Record.Name);
-    VELORIX_RECORD_FIELDS(VELORIX_FIELD, VELORIX_FIELD, VELORIX_FIELD)
-#undef VELORIX_FIELD
+    ForEachField(Record,
+                 [&](const FieldRule& Rule, auto& Field) { Take(Image.data() + Rule.Offset, Field); });
     return Record;
 }
 

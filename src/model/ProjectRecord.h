@@ -3,7 +3,7 @@
 
 #include "base/Arrays.h"
 #include "base/Single.h"
-#include "model/RecordFields.h"
+#include "model/Fields.h"
 
 #include <array>
 #include <cstdint>
@@ -31,9 +31,9 @@ struct FixedText {
 template <typename T, int Count>
 using FieldOf = std::conditional_t<Count == 1, T, Array1<T, Count>>;
 
-#define VELORIX_INT16(Name, Offset, Count) FieldOf<std::int16_t, Count> Name{};
-#define VELORIX_SINGLE(Name, Offset, Count) FieldOf<Single, Count> Name{};
-#define VELORIX_TEXT(Name, Offset, Width) FixedText<Width> Name{};
+#define VELORIX_INT16(Name, Offset, Count, ...) FieldOf<std::int16_t, Count> Name{};
+#define VELORIX_SINGLE(Name, Offset, Count, ...) FieldOf<Single, Count> Name{};
+#define VELORIX_TEXT(Name, Offset, Width, ...) FixedText<Width> Name{};
 
 struct ProjectFields {
     VELORIX_RECORD_FIELDS(VELORIX_INT16, VELORIX_SINGLE, VELORIX_TEXT)
@@ -42,6 +42,15 @@ struct ProjectFields {
 #undef VELORIX_INT16
 #undef VELORIX_SINGLE
 #undef VELORIX_TEXT
+
+// Calls Visit(rule, field) for each field of the record, in its order.
+template <typename Record, typename Visitor>
+void ForEachField(Record& Of, Visitor&& Visit)
+{
+#define VELORIX_FIELD(Name, ...) Visit(Fields::Name, Of.Name);
+    VELORIX_RECORD_FIELDS(VELORIX_FIELD, VELORIX_FIELD, VELORIX_FIELD)
+#undef VELORIX_FIELD
+}
 
 extern ProjectFields ProjectRecord; // the open project as its file has it
 

@@ -7,13 +7,22 @@ namespace velorix {
 
 // wLife is the working copy of Life, and so on; texts are trimmed, in UTF-8. Numbers stand as they were
 // typed, in the unit of their own selector.
-#define VELORIX_INT16(Name, Offset, Count) extern FieldOf<std::int16_t, Count> w##Name;
-#define VELORIX_SINGLE(Name, Offset, Count) extern FieldOf<Single, Count> w##Name;
-#define VELORIX_TEXT(Name, Offset, Width) extern std::string w##Name;
+#define VELORIX_INT16(Name, Offset, Count, ...) extern FieldOf<std::int16_t, Count> w##Name;
+#define VELORIX_SINGLE(Name, Offset, Count, ...) extern FieldOf<Single, Count> w##Name;
+#define VELORIX_TEXT(Name, ...) extern std::string w##Name;
 VELORIX_RECORD_FIELDS(VELORIX_INT16, VELORIX_SINGLE, VELORIX_TEXT)
 #undef VELORIX_INT16
 #undef VELORIX_SINGLE
 #undef VELORIX_TEXT
+
+// Calls Visit(rule, field of the record, working copy) for each field.
+template <typename Visitor>
+void ForEachWorkingField(Visitor&& Visit)
+{
+#define VELORIX_FIELD(Name, ...) Visit(Fields::Name, ProjectRecord.Name, w##Name);
+    VELORIX_RECORD_FIELDS(VELORIX_FIELD, VELORIX_FIELD, VELORIX_FIELD)
+#undef VELORIX_FIELD
+}
 
 // What the flags of the working set mean. A foreign file may hold any number in them.
 inline bool IsPumping()
@@ -36,8 +45,7 @@ extern int NodeCount; // nodes of the open project, rows 1 to NodeCount of the p
 void CopyRecordToWorkingSet();
 
 // Copies the working set to the record, texts trimmed, cut and padded. What only a pumping system uses stays
-// in the record as it was when the working set holds a gravity system, but for PumpEfficiency, which is
-// copied, and EnergyEscalation, which becomes 0.
+// in the record as it was when the working set holds a gravity system.
 void CopyWorkingSetToRecord();
 
 void ResetWorkingSet();

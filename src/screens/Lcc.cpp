@@ -4,34 +4,6 @@
 namespace velorix {
 namespace {
 
-void SetUnits(ComboBox& Selector, const std::vector<std::string>& Units, const std::string& Hint)
-{
-    Selector.List = Units;
-    Selector.ToolTip = Hint;
-}
-
-void SetUnitSelectors(LccScreen& Screen)
-{
-    for (ComboBox* Each : {&Screen.comPFlowrateUnits, &Screen.comGFlowrateUnits,
-                           &Screen.comVaryingDemandUnits, &Screen.comPumpVaryingDemandUnits})
-        SetUnits(*Each, FlowUnitList, "Select the demand units");
-    SetUnits(Screen.comPumpOperatingFlowrateUnits, OperatingFlowUnitList,
-             "Select the operating flow rate units");
-    for (ComboBox* Each :
-         {&Screen.comTRWLUnits, &Screen.comBRWLUnits, &Screen.comPPRWLUnits, &Screen.comPERWLUnits})
-        SetUnits(*Each, DistanceUnitList, "Select the water level units");
-    SetUnits(Screen.comKsNewUnits, FineLengthUnitList, "Select the roughness units of a new pipe");
-    SetUnits(Screen.comKsOldUnits, FineLengthUnitList, "Select the roughness units of an old pipe");
-    SetUnits(Screen.comLiningThicknessUnits, FineLengthUnitList, "Select the lining thickness units");
-    SetUnits(Screen.comDiameterUnits, FineLengthUnitList, "Select the pipe diameter units");
-    SetUnits(Screen.comElevationUnits, DistanceUnitList, "Select the elevation units");
-    SetUnits(Screen.comLengthUnits, DistanceUnitList, "Select the accumulated length units");
-    SetUnits(Screen.comWallThicknessUnits, FineLengthUnitList, "Select the wall thickness units");
-    SetUnits(Screen.comWaterSalesUnits, TariffUnitList, "Select the water tariff units");
-    SetUnits(Screen.comHeadUnits, HeadUnitList, "Select the pump head units");
-    SetUnits(Screen.comFlowUnits, PumpFlowUnitList, "Select the pump flow rate units");
-}
-
 void SetPumpPoints(LccScreen& Screen)
 {
     for (int Point = 0; Point < 6; ++Point) {
@@ -61,10 +33,19 @@ void SetGrid(Grid& Table, std::vector<int> Widths)
 
 } // namespace
 
+ScrollBar BarOf(const FieldRule& Field, int LargeStep, const std::string& Hint)
+{
+    return ScrollBar(Field.Allowed.Least, Field.Allowed.Most, LargeStep, Hint);
+}
+
+ComboBox SelectorOf(const FieldRule& Field, const std::string& Hint)
+{
+    return ComboBox(NamesOf(Field.Allowed.Units), Hint);
+}
+
 LccScreen::LccScreen()
     : Screen("frmLCC", "  LIFE CYCLE COSTING ANALYSIS INPUT DATA")
 {
-    SetUnitSelectors(*this);
     SetPumpPoints(*this);
     SetHours(lblSummerHour);
     SetHours(lblWinterHour);

@@ -3,13 +3,14 @@
 
 #include "base/CodePage.h"
 #include "base/Text.h"
+#include "input/KeyFilters.h"
 #include "input/ProfileTable.h"
 #include "input/Session.h"
+#include "model/Components.h"
 #include "platform/Keys.h"
 #include "platform/Platform.h"
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
-#include "shell/KeyFilters.h"
 
 #include <algorithm>
 #include <array>
@@ -236,7 +237,6 @@ void EntryChosen(const CellEditing& Editing)
 
 std::vector<std::string> ComponentEntries()
 {
-    constexpr int NamedComponents = 10;
     return {ComponentTable.begin(), ComponentTable.begin() + NamedComponents};
 }
 

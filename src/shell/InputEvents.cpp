@@ -1,10 +1,10 @@
 // What the controls of the input screen do.
 #include "shell/InputEvents.h"
 
-#include "input/CommitFields.h"
 #include "input/CostTables.h"
 #include "input/FileCommands.h"
 #include "input/HourPattern.h"
+#include "input/InputFields.h"
 #include "input/InputScreen.h"
 #include "input/ProfileTable.h"
 #include "input/Session.h"
@@ -15,7 +15,6 @@
 #include "shell/GridEditor.h"
 #include "shell/Help.h"
 #include "shell/Hints.h"
-#include "shell/KeyFilters.h"
 #include "shell/Shell.h"
 
 namespace velorix {
@@ -43,7 +42,7 @@ void DiameterUnitsChosen()
     MarkChanged();
     const int Chosen = frmLCC.comDiameterUnits.ListIndex;
     if (Chosen < 0 || Chosen == wDiameterUnits) return;
-    ReadUnit(frmLCC.comDiameterUnits, wDiameterUnits);
+    TakeUnit(frmLCC.comDiameterUnits, wDiameterUnits);
     FillProfileGrid();
     SettleGridEditor(frmLCC.msgProfile);
 }
@@ -52,77 +51,29 @@ void DiameterUnitsChosen()
 void PumpDemandUnitsChosen()
 {
     MarkChanged();
-    ReadUnit(frmLCC.comPumpVaryingDemandUnits, wDemandUnits);
+    TakeUnit(frmLCC.comPumpVaryingDemandUnits, wDemandUnits);
     frmLCC.comVaryingDemandUnits.ListIndex = frmLCC.comPumpVaryingDemandUnits.ListIndex.Get();
 }
 
-// txtGFlowrate takes any key.
-void ConnectNumberKeys()
+void ConnectKeys()
 {
-    for (TextBox* Each : {&frmLCC.txtPFlowrate,
-                          &frmLCC.txtPumpOperatingFlowrate,
-                          &frmLCC.txtPumpEfficiency,
-                          &frmLCC.txtTRWL,
-                          &frmLCC.txtBRWL,
-                          &frmLCC.txtPPRWL,
-                          &frmLCC.txtPERWL,
-                          &frmLCC.txtKsNew,
-                          &frmLCC.txtKsOld,
-                          &frmLCC.txtKsOldYears,
-                          &frmLCC.txtLiningThickness,
-                          &frmLCC.txtSPeak,
-                          &frmLCC.txtSStandard,
-                          &frmLCC.txtSOffpeak,
-                          &frmLCC.txtWPeak,
-                          &frmLCC.txtWStandard,
-                          &frmLCC.txtWOffpeak,
-                          &frmLCC.txtEscalation,
-                          &frmLCC.txtDiscountRate,
-                          &frmLCC.txtEnergyEscalation,
-                          &frmLCC.txtMechanical,
-                          &frmLCC.txtElectrical,
-                          &frmLCC.txtSupervision,
-                          &frmLCC.txtWaterSales,
-                          &frmLCC.txtWaterIncrease})
-        Each->KeyPress = KeepNumberKey;
-    for (auto* Column : {&frmLCC.txtH, &frmLCC.txtQ, &frmLCC.txtEfficiency})
-        for (TextBox& Each : *Column) Each.KeyPress = KeepNumberKey;
-}
-
-std::string PlainCaption(int Value)
-{
-    return std::to_string(Value);
+    for (const InputField& Each : InputFields)
+        if (Each.Filter)
+            Each.Box->KeyPress = [&Each](int& Key) {
+                if (!Each.Filter->Takes(Key)) Key = 0;
+            };
 }
 
 // A bar shows its value and stores it at once.
-void ConnectBar(ScrollBar& Bar, Label& Reading, std::int16_t& Stored, std::string (*Caption)(int),
-                void (*Then)() = nullptr)
-{
-    Bar.Change = [&Bar, &Reading, &Stored, Caption, Then] {
-        MarkChanged();
-        Reading.Caption = Caption(Bar.Value);
-        const bool Moved = Stored != Bar.Value; // not when the load step shows what is stored
-        Stored = static_cast<std::int16_t>(Bar.Value.Get());
-        if (Moved && Then) Then();
-    };
-}
-
-void RefillDemand()
-{
-    FillDemandGrid(frmLCC.msgDemand);
-    SettleGridEditor(frmLCC.msgDemand);
-}
-
 void ConnectBars()
 {
-    ConnectBar(frmLCC.hscLife, frmLCC.lblLife, wLife, PlainCaption, RefillDemand);
-    ConnectBar(frmLCC.hscBaseYear, frmLCC.lblBaseYear, wBaseYear, PlainCaption);
-    ConnectBar(frmLCC.hscSupplyStart, frmLCC.lblSupplyStart, wSupplyStart, PlainCaption, RefillDemand);
-    ConnectBar(frmLCC.fsbSummer, frmLCC.lblSummer, wSummer, PlainCaption);
-    ConnectBar(frmLCC.fsbPumpingHours, frmLCC.lblPumpingHours, wPumpingHours, PlainCaption);
-    ConnectBar(frmLCC.hscMPipeline, frmLCC.lblMPipeline, wMPipeline, PercentCaption);
-    ConnectBar(frmLCC.hscMMechanical, frmLCC.lblMMechanical, wMMechanical, PercentCaption);
-    ConnectBar(frmLCC.hscMElectrical, frmLCC.lblMElectrical, wMElectrical, PercentCaption);
+    for (const InputField& Each : InputFields)
+        if (Each.Bar)
+            Each.Bar->Change = [&Each] {
+                MarkChanged();
+                Each.Moved();
+                if (Each.Refilled) SettleGridEditor(*Each.Refilled);
+            };
 }
 
 void ConnectOption(OptionButton& Option, void (*ShowOption)())
@@ -224,7 +175,7 @@ void ConnectInputScreen()
     ConnectEdits();
     frmLCC.comDiameterUnits.Change = DiameterUnitsChosen;
     frmLCC.comPumpVaryingDemandUnits.Change = PumpDemandUnitsChosen;
-    ConnectNumberKeys();
+    ConnectKeys();
     ConnectBars();
     ConnectOptions();
     ConnectHours();

@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSvgRenderer>
@@ -171,6 +172,21 @@ TEST_F(LayoutsTest, EveryControlOfTheMainWindowHasAWidgetWithAName)
     for (const Screen* Each : std::initializer_list<const Screen*>{&MDIProject, &frmLCC, &frmResults})
         ExpectAllThere(*Each, *Main);
     EXPECT_EQ(FocusTarget(frmLCC.txtProject)->accessibleName(), "Project name"); // as its caption
+}
+
+// What the page calls a field stands in the field's own hint, so no two stand in each other's place.
+TEST_F(LayoutsTest, EveryFieldOfTheInputScreenStandsBesideItsOwnName)
+{
+    const QStringList Others = {"of", "ks"};
+    for (const Control* Each : frmLCC.Controls) {
+        const bool Typed = dynamic_cast<const TextBox*>(Each) || dynamic_cast<const ScrollBar*>(Each);
+        if (!Typed || Each == &frmLCC.txtKsOldYears) continue; // "Reached after", in a row with the old pipe
+        const QString Hint = QString::fromStdString(Each->ToolTip).toLower();
+        const QString Name = FocusTarget(*Each)->accessibleName().toLower();
+        for (const QString& Word : Name.split(QRegularExpression("\\W+"), Qt::SkipEmptyParts))
+            EXPECT_TRUE(Others.contains(Word) || Hint.contains(Word))
+                << Name.toStdString() << ": " << Each->ToolTip;
+    }
 }
 
 TEST_F(LayoutsTest, TheInputScreenFitsWhateverIsChosen)

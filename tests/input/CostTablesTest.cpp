@@ -1,4 +1,4 @@
-// The small tables of the input screen, and the lists of its unit selectors.
+// The small tables of the input screen, and the headings of all its tables.
 #include "input/CostTables.h"
 #include "ProjectTest.h"
 
@@ -25,38 +25,58 @@ TEST_F(CostTablesTest, DemandIsReadForTheLifeAndClearedBeyond)
     EXPECT_EQ(wDemand[4], 0.0);
 }
 
-TEST_F(CostTablesTest, EntriesStandInTheirRowsUnderCurrencyAndUnits)
+TEST_F(CostTablesTest, WhatATableHasNotIsZero)
 {
-    for (int Entry = 1; Entry <= 14; ++Entry) wLaying[Entry] = Entry + 0.5;
-    FillLayingGrid();
-    EXPECT_EQ(frmLCC.msgLaying.Text(8, 1), "8.5");
-    EXPECT_EQ(frmLCC.msgLaying.Text(11, 1), "9.5"); // the conditions, below a heading
-    EXPECT_EQ(frmLCC.msgLaying.Text(15, 1), "13.5");
-    ReadLayingGrid();
-    EXPECT_EQ(wLaying[14], 0.0);
-    EXPECT_EQ(frmLCC.msgOperational.Text(8, 1), "130000");
+    wLaying[14] = wExpenses[5] = 3.0;
     frmLCC.msgOtherOperational.SetText(5, 1, "");
-    wExpenses[5] = 3.0;
+    ReadLayingGrid();
     ReadExpensesGrid();
+    EXPECT_EQ(wLaying[14], 0.0);
     EXPECT_EQ(wExpenses[5], 0.0);
-
-    wCurrency = wUnits = 1;
-    FillCostHeadings();
-    EXPECT_EQ(frmLCC.msgLaying.Text(0, 1), "Cost ($/ft³)");
-    EXPECT_EQ(frmLCC.msgLaying.Text(14, 0), "Required cover (ft)");
-    EXPECT_EQ(frmLCC.msgOperational.Text(0, 1), "Annual package ($)");
 }
 
-// The place of an entry is what files hold.
-TEST_F(CostTablesTest, UnitsHaveTheirPlaces)
+// The first column of each table and its first row, in the order of reading.
+TEST_F(CostTablesTest, TablesHaveTheirHeadings)
 {
-    EXPECT_EQ(FlowUnitList[3], "l/s");
-    EXPECT_EQ(FlowUnitList[4], "ft³/s");
-    EXPECT_EQ(FlowUnitList[9], "gal/s (EUR)");
-    EXPECT_EQ(TariffUnitList[1], "/Ml");
-    std::vector<std::string> Operating = FlowUnitList; // but for the units by the day
-    for (const int Daily : {12, 8, 0}) Operating.erase(Operating.begin() + Daily);
-    EXPECT_EQ(OperatingFlowUnitList, Operating);
+    const auto Heads = [](const Grid& Table, bool Down) {
+        std::vector<std::string> Texts;
+        for (int Place = 0; Place < (Down ? Table.Rows() : Table.Cols()); ++Place)
+            Texts.push_back(Down ? Table.Text(Place, 0) : Table.Text(0, Place));
+        return Texts;
+    };
+    using Texts = std::vector<std::string>;
+    for (const bool US : {false, true}) {
+        wCurrency = wUnits = US ? 1 : 0;
+        FillCostHeadings();
+        const std::string Sign = US ? "$" : "R";
+        const std::string Length = US ? "ft" : "m";
+        EXPECT_EQ(Heads(frmLCC.msgProfile, false),
+                  (Texts{"Node nr", "Elevation", "Accumulated length", "Pipe diameter", "Wall thickness",
+                         "Pipe cost/metre", "Secondary loss ", "Description"}));
+        EXPECT_EQ(Heads(frmLCC.msgDemand, false), (Texts{"Year", "Demand"}));
+        EXPECT_EQ(Heads(frmLCC.msgLaying, false),
+                  (Texts{"Description", "Cost (" + Sign + "/" + Length + "³)"}));
+        EXPECT_EQ(frmLCC.msgLaying.Text(10, 1), "Percentage expected");
+        EXPECT_EQ(
+            Heads(frmLCC.msgLaying, true),
+            (Texts{"Description", "Laying (including joining)", "Excavation", "Rock excavation",
+                   "Bedding import", "Bedding trench", "Blanket import", "Blanket trench", "Backfilling",
+                   "Anticipated laying conditions", "Description", "Rock", "Bedding import", "Blanket import",
+                   "Required cover (" + Length + ")", "Excavation lower than pipe invert (" + Length + ")"}));
+        EXPECT_EQ(Heads(frmLCC.msgOperational, false),
+                  (Texts{"Staff", "Annual package (" + Sign + ")", "Percentage of time (%)"}));
+        EXPECT_EQ(Heads(frmLCC.msgOperational, true),
+                  (Texts{"Staff", "Manager", "Engineer", "Technologist", "Technician", "Foreman", "Labourers",
+                         "Administration", "Financial"}));
+        EXPECT_EQ(Heads(frmLCC.msgOtherOperational, false),
+                  (Texts{"Description of expenses", "Annual amount (" + Sign + ")"}));
+        EXPECT_EQ(
+            Heads(frmLCC.msgOtherOperational, true),
+            (Texts{"Description of expenses", "Transport", "Fuel", "Electricity", "Training", "Housing"}));
+    }
+    wSystemType = 1;
+    NewProjectDefaults();
+    EXPECT_EQ(Heads(frmLCC.msgPumpDemand, false), (Texts{"Year", "Demand"}));
 }
 
 } // namespace

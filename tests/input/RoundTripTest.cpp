@@ -1,116 +1,205 @@
-// A whole project from the screen to its file and back.
+// A whole project from the screen to its file and back: which control stores which field.
 #include "ProjectTest.h"
+#include "base/NumberText.h"
 #include "input/CostTables.h"
 #include "input/FileCommands.h"
-#include "input/ProfileTable.h"
+#include "model/Components.h"
+#include "model/EveryEntry.h"
 #include "model/ProjectFile.h"
 
-#include <algorithm>
+#include <functional>
+#include <map>
 
 namespace velorix {
 namespace {
 
 using RoundTripTest = ProjectTest;
 
-// Whether a project of this kind stores what the control holds. The controls of one kind stand together.
-bool IsStored(const Control* Each)
+enum Kind { Gravity, Pumping, Both };
+
+// A value on the screen: how it is typed, how it shows, and the entry of the record that it belongs to.
+struct Place {
+    Kind System;
+    std::string Entry; // "KsNew 1"
+    std::function<void(int)> Type;
+    std::function<std::string()> Shown;
+};
+
+constexpr int Life = 7;
+constexpr int Nodes = 5;
+
+// A value of its own into the control, and never the one of a new project.
+void Type(Control& Shown, int Number)
 {
-    const auto Among = [Each](const Control& First, const Control& Last) {
-        const auto Place = [](const Control* Sought) {
-            return std::find(frmLCC.Controls.begin(), frmLCC.Controls.end(), Sought);
-        };
-        return Place(Each) >= Place(&First) && Place(Each) <= Place(&Last);
-    };
-    if (!Each->Visible) return false; // the floating editors
-    if (Each == &frmLCC.comVaryingDemandUnits) return true;
-    if (Each == &frmLCC.comPumpVaryingDemandUnits) return false; // shows the unit of the other
-    if (IsPumping()) return !Among(frmLCC.fraGravityOption, frmLCC.comBRWLUnits);
-    return !Among(frmLCC.fraPumpOption, frmLCC.sscOK) && !Among(frmLCC.fraSummer, frmLCC.lblPumpingHours);
+    constexpr std::array<Color, 3> Classes = {PeakColor, StandardColor, OffpeakColor};
+    if (auto* Box = dynamic_cast<TextBox*>(&Shown)) Box->Text = std::to_string(Number) + ".25";
+    if (auto* Selector = dynamic_cast<ComboBox*>(&Shown))
+        Selector->ListIndex = 1 + Number % (static_cast<int>(Selector->List.Get().size()) - 1);
+    if (auto* Bar = dynamic_cast<ScrollBar*>(&Shown))
+        Bar->Value = Bar->Min + Number % (Bar->Max - Bar->Min + 1);
+    if (auto* Option = dynamic_cast<OptionButton*>(&Shown)) Option->Value = true;
+    if (auto* Picker = dynamic_cast<DatePicker*>(&Shown)) Picker->Value = Date{2011, 11, 9};
+    if (auto* Hour = dynamic_cast<Label*>(&Shown))
+        Hour->BackColor = Classes.at(static_cast<std::size_t>(Number * Number % 7 % 3));
 }
 
-void TypeIntoGrid(Grid& Table, int Base)
+std::string ValueOf(const Control& Shown)
 {
-    for (int Row = Table.FixedRows; Row < Table.Rows(); ++Row)
-        for (int Col = Table.FixedCols; Col < Table.Cols(); ++Col)
-            if (&Table != &frmLCC.msgLaying || (Row != 9 && Row != 10)) // headings in the middle
-                Table.SetText(Row, Col, std::to_string(Base + 10 * Row + Col) + ".5");
+    if (const auto* Box = dynamic_cast<const TextBox*>(&Shown)) return Box->Text;
+    if (const auto* Selector = dynamic_cast<const ComboBox*>(&Shown))
+        return std::to_string(Selector->ListIndex);
+    if (const auto* Bar = dynamic_cast<const ScrollBar*>(&Shown)) return std::to_string(Bar->Value);
+    if (const auto* Option = dynamic_cast<const OptionButton*>(&Shown)) return Option->Value ? "1" : "0";
+    if (const auto* Picker = dynamic_cast<const DatePicker*>(&Shown)) return ShortDate(Picker->Value);
+    const Color Class = dynamic_cast<const Label&>(Shown).BackColor;
+    return Class == PeakColor ? "2" : Class == StandardColor ? "1" : Class == OffpeakColor ? "0" : "?";
 }
 
-// A value of its own into every control, so that the two selectors over one field differ.
+std::string TextOf(Single Value)
+{
+    return GeneralText(Value);
+}
+
+std::string TextOf(std::int16_t Value)
+{
+    return std::to_string(Value);
+}
+
+class Places : public std::vector<Place> {
+public:
+    void Add(Kind System, Control& Shown, const std::string& Field, int Entry = 1)
+    {
+        push_back({System, Field + " " + std::to_string(Entry), [&](int Number) { Type(Shown, Number); },
+                   [&] { return ValueOf(Shown); }});
+    }
+
+    // A column of a grid, from FirstRow on, and the field's entries from First on.
+    void AddCells(Kind System, Grid& Table, int Col, int FirstRow, int Count, const std::string& Field,
+                  int First = 1)
+    {
+        for (int Row = FirstRow; Row < FirstRow + Count; ++Row)
+            push_back({System, Field + " " + std::to_string(First + Row - FirstRow),
+                       [&Table, Row, Col](int Number) {
+                           Table.SetText(Row, Col,
+                                         Col == 0 ? std::to_string(Row) : std::to_string(Number) + ".5");
+                       },
+                       [&Table, Row, Col] { return Table.Text(Row, Col); }});
+    }
+
+    void AddComponent(int Row)
+    {
+        push_back({Both, "NodeDesc " + std::to_string(Row),
+                   [Row](int) { frmLCC.msgProfile.SetText(Row, 7, ComponentTable[Row + 2]); },
+                   [Row] { return std::to_string(ComponentIndex(frmLCC.msgProfile.Text(Row, 7))); }});
+    }
+};
+
+// Of the two selectors over DemandUnits the one of the gravity frame counts.
+Places AllPlaces()
+{
+    LccScreen& S = frmLCC;
+    using Pairs = std::vector<std::pair<Control*, std::string>>;
+    // clang-format off
+#define BOX(Field) {&S.txt##Field, #Field}
+#define UNITS(Field) {&S.com##Field##Units, #Field "Units"}
+#define BAR(Field) {&S.hsc##Field, #Field}
+    const Pairs OfBoth = {
+        BOX(Project), BOX(Designer), {&S.dtpDate, "Date"}, BOX(Description), BAR(Life), BAR(BaseYear),
+        BAR(SupplyStart), {&S.comVaryingDemandUnits, "DemandUnits"}, {&S.optMortar, "LiningType"},
+        BOX(LiningThickness), UNITS(LiningThickness), BOX(KsNew), UNITS(KsNew), BOX(KsOld), UNITS(KsOld),
+        BOX(KsOldYears), UNITS(Diameter), UNITS(Elevation), UNITS(Length), UNITS(WallThickness),
+        BOX(Escalation), BOX(DiscountRate), BOX(Mechanical), BOX(Electrical), BOX(Supervision),
+        BAR(MPipeline), BAR(MMechanical), BAR(MElectrical), BOX(WaterSales), UNITS(WaterSales),
+        BOX(WaterIncrease)};
+    const Pairs OfGravity = {
+        {&S.optGCalculatedFlowrate, "VaryingDemand"}, {&S.txtGFlowrate, "Flowrate"},
+        {&S.comGFlowrateUnits, "FlowrateUnits"}, BOX(TRWL), UNITS(TRWL), BOX(BRWL), UNITS(BRWL)};
+    const Pairs OfPumping = {
+        {&S.optPumpVarying, "VaryingDemand"}, {&S.txtPFlowrate, "Flowrate"},
+        {&S.comPFlowrateUnits, "FlowrateUnits"}, {&S.txtPPRWL, "TRWL"}, {&S.comPPRWLUnits, "TRWLUnits"},
+        {&S.txtPERWL, "BRWL"}, {&S.comPERWLUnits, "BRWLUnits"}, {&S.optPumpDetails, "PumpDetails"},
+        BOX(PumpOperatingFlowrate), UNITS(PumpOperatingFlowrate), BOX(PumpEfficiency), UNITS(Head),
+        UNITS(Flow), BOX(Pumptype), BOX(PumpDescription), {&S.fsbSummer, "Summer"},
+        {&S.fsbPumpingHours, "PumpingHours"}, BOX(SPeak), BOX(SStandard), BOX(SOffpeak), BOX(WPeak),
+        BOX(WStandard), BOX(WOffpeak), BOX(EnergyEscalation)};
+#undef BOX
+#undef UNITS
+#undef BAR
+    // clang-format on
+    Places All;
+    for (const auto& [Shown, Field] : OfBoth) All.Add(Both, *Shown, Field);
+    for (const auto& [Shown, Field] : OfGravity) All.Add(Gravity, *Shown, Field);
+    for (const auto& [Shown, Field] : OfPumping) All.Add(Pumping, *Shown, Field);
+    for (int Point = 0; Point < 6; ++Point) {
+        All.Add(Pumping, S.txtH[Point], "PumpCurve", 3 * Point + 1);
+        All.Add(Pumping, S.txtQ[Point], "PumpCurve", 3 * Point + 2);
+        All.Add(Pumping, S.txtEfficiency[Point], "PumpCurve", 3 * Point + 3);
+    }
+    for (int Hour = 0; Hour < 24; ++Hour) {
+        All.Add(Pumping, S.lblSummerHour[Hour], "SummerHour", Hour + 1);
+        All.Add(Pumping, S.lblWinterHour[Hour], "WinterHour", Hour + 1);
+    }
+    All.AddCells(Gravity, S.msgDemand, 1, 1, Life, "Demand");
+    All.AddCells(Pumping, S.msgPumpDemand, 1, 1, Life, "Demand");
+    int Col = 0;
+    for (const char* Field :
+         {"NodeNr", "Elevation", "AccLength", "Diameter", "WallThickness", "PipeCost", "SecondaryLoss"})
+        All.AddCells(Both, S.msgProfile, Col++, 1, Nodes, Field);
+    for (int Row = 1; Row <= Nodes; ++Row) All.AddComponent(Row);
+    All.AddCells(Both, S.msgLaying, 1, 1, 8, "Laying");
+    All.AddCells(Both, S.msgLaying, 1, 11, 5, "Laying", 9);
+    All.AddCells(Both, S.msgOperational, 1, 1, 8, "StaffPackage");
+    All.AddCells(Both, S.msgOperational, 2, 1, 8, "StaffTime");
+    All.AddCells(Both, S.msgOtherOperational, 1, 1, 5, "Expenses");
+    return All;
+}
+
 void TypeEverything()
 {
-    for (OptionButton* Each :
-         {&frmLCC.optGCalculatedFlowrate, &frmLCC.optPumpVarying, &frmLCC.optPumpDetails, &frmLCC.optMortar})
-        Each->Value = true;
-    wLife = 7;
+    wLife = Life;
     FillDemandGrid(frmLCC.msgDemand);
     FillDemandGrid(frmLCC.msgPumpDemand);
-    frmLCC.msgProfile.SetRows(6);
+    frmLCC.msgProfile.SetRows(Nodes + 1);
     int Number = 0;
-    for (Control* Each : frmLCC.Controls) {
-        ++Number;
-        if (auto* Box = dynamic_cast<TextBox*>(Each))
-            Box->Text = std::to_string(Number) + ".25";
-        else if (auto* Selector = dynamic_cast<ComboBox*>(Each); Selector && Selector != &frmLCC.comNode)
-            Selector->ListIndex = 1 + (IsStored(Selector) ? Number : Number + 1) %
-                                          (static_cast<int>(Selector->List.Get().size()) - 1);
-        else if (auto* Bar = dynamic_cast<ScrollBar*>(Each))
-            Bar->Value = Bar->Min + Number % (Bar->Max - Bar->Min + 1);
-        else if (auto* Table = dynamic_cast<Grid*>(Each))
-            TypeIntoGrid(*Table, 1000 * Number);
-    }
-    frmLCC.hscLife.Value = 7;
-    frmLCC.dtpDate.Value = Date{2011, 11, 9};
-    for (int Row = 1; Row < 6; ++Row) {
-        frmLCC.msgProfile.SetText(Row, 0, std::to_string(Row));
-        frmLCC.msgProfile.SetText(Row, 7, ComponentTable[Row + 2]);
-    }
-    const std::array<Color, 3> Classes = {PeakColor, StandardColor, OffpeakColor};
-    for (std::size_t Hour = 0; Hour < 24; ++Hour) {
-        frmLCC.lblSummerHour[static_cast<int>(Hour)].BackColor = Classes.at(Hour % 3);
-        frmLCC.lblWinterHour[static_cast<int>(Hour)].BackColor = Classes.at(Hour / 8);
-    }
+    for (const Place& Each : AllPlaces()) Each.Type(++Number);
+    frmLCC.hscLife.Value = Life;
 }
 
-std::string ShownBy(const Control& Each)
-{
-    if (const auto* Box = dynamic_cast<const TextBox*>(&Each)) return Box->Text;
-    if (const auto* Selector = dynamic_cast<const ComboBox*>(&Each)) return Selector->Text();
-    if (const auto* Bar = dynamic_cast<const ScrollBar*>(&Each)) return std::to_string(Bar->Value);
-    if (const auto* Option = dynamic_cast<const OptionButton*>(&Each)) return Option->Value ? "set" : "";
-    if (const auto* Picker = dynamic_cast<const DatePicker*>(&Each)) return ShortDate(Picker->Value);
-    std::string Cells;
-    if (const auto* Table = dynamic_cast<const Grid*>(&Each))
-        for (int Row = 0; Row < Table->Rows(); ++Row)
-            for (int Col = 0; Col < Table->Cols(); ++Col) Cells += Table->Text(Row, Col) + "|";
-    return Cells;
-}
+using Values = std::map<std::string, std::string>; // by entry
 
-// What the user sees of the project, control by control.
-std::vector<std::string> ShownProject()
+Values ShownValues()
 {
-    std::vector<std::string> Shown;
-    for (const Control* Each : frmLCC.Controls)
-        if (const std::string Value = ShownBy(*Each); IsStored(Each) && !Value.empty())
-            Shown.push_back(Each->ToolTip + ": " + Value);
-    for (int Hour = 0; IsPumping() && Hour < 24; ++Hour)
-        for (const auto* Season : {&frmLCC.lblSummerHour, &frmLCC.lblWinterHour}) {
-            const Color Class = (*Season)[Hour].BackColor;
-            Shown.push_back(Class == PeakColor ? "peak" : Class == StandardColor ? "standard" : "off-peak");
-        }
+    Values Shown;
+    for (const Place& Each : AllPlaces())
+        if (Each.System == Both || (Each.System == Pumping) == IsPumping()) Shown[Each.Entry] = Each.Shown();
     return Shown;
 }
 
-TEST_F(RoundTripTest, EveryFieldComesBackAsTyped)
+// What the file holds of those values.
+Values StoredValues(const Values& Sought)
+{
+    Values Stored;
+    const ProjectFields Record = ReadProjectFile(FileName);
+    ForEachField(Record, [&](const FieldRule& Rule, const auto& Field) {
+        ForEachEntry(Field, [&](int Entry, const auto& Value) {
+            const std::string Name = Rule.Name + (" " + std::to_string(Entry));
+            if (Sought.count(Name)) Stored[Name] = TextOf(Value);
+        });
+    });
+    return Stored;
+}
+
+TEST_F(RoundTripTest, EveryControlStoresItsFieldAndShowsItAgain)
 {
     for (const int SystemType : {0, 1}) {
         const std::filesystem::path File = Folder / (std::to_string(SystemType) + ".vlx");
         StartNew(SystemType);
         TypeEverything();
-        const std::vector<std::string> Typed = ShownProject();
+        const Values Typed = ShownValues();
         Windows.Files = {File};
         SaveCommand(); // no file yet, so the dialog asks for one
-        EXPECT_EQ(ShownProject(), Typed);
+        EXPECT_EQ(StoredValues(Typed), Typed);
+        EXPECT_EQ(ShownValues(), Typed);
 
         ResetProjectRecord();
         ResetWorkingSet();
@@ -118,11 +207,12 @@ TEST_F(RoundTripTest, EveryFieldComesBackAsTyped)
         UnloadScreens();
         StartNew(1 - SystemType);
         OpenProjectFile(File);
-        EXPECT_EQ(ShownProject(), Typed);
+        EXPECT_EQ(ShownValues(), Typed);
         EXPECT_EQ(MDIProject.lblSystem.Caption.Get(), IsPumping() ? "Pumping system" : "Gravity system");
         EXPECT_EQ(frmLCC.sstInput.TabVisible.Get()[2], IsPumping());
         EXPECT_EQ(frmLCC.fraPumpcurve.Visible, IsPumping());
         EXPECT_EQ(frmLCC.fraPumpVaryingDemand.Visible, IsPumping());
+        EXPECT_TRUE(!IsPumping() || frmLCC.comPumpVaryingDemandUnits.ListIndex == wDemandUnits);
         EXPECT_EQ(frmLCC.fraGravityOption.Visible, !IsPumping());
     }
     frmLCC.txtWOffpeak.Text = "0.123456789"; // more digits than are stored

@@ -9,41 +9,16 @@ namespace {
 
 using SessionTest = ProjectTest;
 
-// By the units of the record, but the currency of the working set, which the load then takes back.
-TEST_F(SessionTest, NewProjectFollowsTheUnitsAndTheCurrencyBeforeIt)
-{
-    struct Case {
-        int Units;
-        int Currency;
-        double WaterSales;
-    };
-    for (const Case& Each : {Case{0, 0, 2.0}, Case{0, 1, 0.5}, Case{1, 0, 0.5}, Case{1, 1, 0.05}}) {
-        ProjectRecord.Units = static_cast<std::int16_t>(Each.Units);
-        wCurrency = static_cast<std::int16_t>(Each.Currency);
-        StartNew(1);
-        EXPECT_EQ(wWaterSales, Single(Each.WaterSales));
-        EXPECT_EQ(wCurrency, 0);
-        const std::vector<int> Expected =
-            Each.Units == 1 ? std::vector{4, 4, 1, 2, 2, 3, 2} : std::vector{0, 3, 0, 0, 0, 0, 0};
-        EXPECT_EQ((std::vector<int>{wDemandUnits, wFlowrateUnits, wHeadUnits, wFlowUnits, wWaterSalesUnits,
-                                    wPumpOperatingFlowrateUnits, wLengthUnits}),
-                  Expected);
-    }
-}
-
-TEST_F(SessionTest, NewProjectKeepsWhatItDoesNotName)
+// Where units and currency come from: see the table of fields. The load takes the currency of the record
+// back.
+TEST_F(SessionTest, NewProjectIsLoadedWithItsDefaults)
 {
     ProjectRecord.Laying[3] = 140.0;
-    ProjectRecord.SummerHour[7] = 2;
-    ProjectRecord.WallThickness[9] = 6.0;
-    ProjectRecord.Demand[10] = 5.0;
-    ProjectRecord.Demand[11] = 6.0;
+    wCurrency = 1;
     StartNew(1);
+    EXPECT_EQ(wWaterSales, 0.5);
+    EXPECT_EQ(wCurrency, 0);
     EXPECT_EQ(wLaying[3], 140.0);
-    EXPECT_EQ(wSummerHour[7], 2);
-    EXPECT_EQ(wWallThickness[9], 6.0);
-    EXPECT_EQ(wDemand[10], 0.0);
-    EXPECT_EQ(wDemand[11], 6.0);
     EXPECT_EQ(frmLCC.txtEscalation.Text.Get(), "10");
     EXPECT_EQ(Saved, 1);
 }

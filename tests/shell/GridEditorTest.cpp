@@ -3,6 +3,7 @@
 
 #include "InputTest.h"
 #include "input/ProfileTable.h"
+#include "model/Components.h"
 
 #include <gmock/gmock.h>
 

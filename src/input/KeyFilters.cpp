@@ -1,5 +1,5 @@
 // The two number filters.
-#include "shell/KeyFilters.h"
+#include "input/KeyFilters.h"
 
 #include "platform/Keys.h"
 
@@ -13,11 +13,6 @@ bool IsNumberKey(int Key)
 bool IsCellNumberKey(int Key)
 {
     return IsNumberKey(Key) || Key == Keys::Escape || (Key >= Keys::Left && Key <= Keys::Down);
-}
-
-void KeepNumberKey(int& Key)
-{
-    if (!IsNumberKey(Key)) Key = 0;
 }
 
 } // namespace velorix

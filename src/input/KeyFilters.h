@@ -9,7 +9,10 @@ bool IsNumberKey(int Key);
 // The same, Escape and the codes of the arrow keys. As typed characters those four are "%", "&", "'" and "(".
 bool IsCellNumberKey(int Key);
 
-// Answers KeyPress of a text box that holds a number: drops any other key.
-void KeepNumberKey(int& Key);
+struct KeyFilter {
+    bool (*Takes)(int Key);
+};
+
+inline constexpr KeyFilter NumberKeys = {IsNumberKey};
 
 } // namespace velorix
