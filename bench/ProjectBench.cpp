@@ -1,36 +1,27 @@
 // A typical project as a whole: a pump curve, 30 rows, 30 years.
-#include "analysis/AnalyseProject.h"
-#include "analysis/Program.h"
 #include "analysis/SampleRecords.h"
+#include "cost/Figures.h"
 #include "cost/RateScanReference.h"
 #include "hydraulics/PlainReference.h"
-#include "input/Session.h"
-#include "model/WorkingSet.h"
-#include "platform/ScriptedPlatform.h"
 
 #include <benchmark/benchmark.h>
 
 namespace velorix {
 namespace {
 
-ScriptedPlatform Windows;
-
 void OpenTypicalProject()
 {
-    InstallPlatform(&Windows);
-    ResetProgram();
-    StartSession();
-    ProjectRecord = PumpCurveRecord(30);
-    ProjectRecord.Life = 30;
-    NewProject = 1;
-    LoadProject();
+    ProjectFields Record = PumpCurveRecord(30);
+    Record.Life = 30;
+    OpenRecord(Record);
 }
 
 void AnalyseTypicalProject(benchmark::State& State)
 {
     OpenTypicalProject();
-    for (auto _ : State) AnalyseProject();
-    if (Analysed != 1) State.SkipWithError("the analysis doesn't stand");
+    bool Stand = true;
+    for (auto _ : State) Stand = Stand && ComputeFigures();
+    if (!Stand) State.SkipWithError("the analysis doesn't stand");
 }
 BENCHMARK(AnalyseTypicalProject)->Unit(benchmark::kMillisecond);
 
@@ -49,7 +40,7 @@ bool SameAsStored(const plain::Curve& Points, int Year)
 void PlainCurvesAndRates(benchmark::State& State)
 {
     OpenTypicalProject();
-    AnalyseProject();
+    ComputeFigures();
     Array1<plain::Curve, MaxYears> Curves;
     for (auto _ : State) {
         for (int Year = 1; Year <= wLife; ++Year) Curves[Year] = plain::SystemCurve(Year);

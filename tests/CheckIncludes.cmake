@@ -6,10 +6,10 @@ cmake_minimum_required(VERSION 3.25)
 set(floors
   "base"
   "model"
-  "platform"
-  "screens"
   "hydraulics"
   "cost"
+  "platform"
+  "screens"
   "input"
   "results|reports|roughness|tools"
   "analysis"

@@ -3,13 +3,8 @@
 
 #include "base/Arithmetic.h"
 #include "base/Failure.h"
-#include "cost/AnnualCosts.h"
-#include "cost/CapitalCost.h"
-#include "cost/PresentValue.h"
-#include "cost/RateOfReturn.h"
-#include "hydraulics/DutyPoint.h"
-#include "hydraulics/Flows.h"
-#include "hydraulics/YearlySupply.h"
+#include "base/NumberText.h"
+#include "cost/Figures.h"
 #include "input/Session.h"
 #include "model/WorkingSet.h"
 #include "platform/Platform.h"
@@ -17,6 +12,7 @@
 #include "results/Headlines.h"
 #include "results/PlotState.h"
 #include "screens/Analyse.h"
+#include "screens/DutyPointScreen.h"
 #include "screens/Lcc.h"
 #include "screens/Results.h"
 
@@ -57,6 +53,19 @@ void HandOverToResults()
     ShowAnalysisProgress(100);
 }
 
+// Comes within the year: the dialog shows the curves as they stand.
+void TellOfMissingDutyPoint()
+{
+    Warn("The pump curve does not intersect the system curve for year " + std::to_string(AnalysisYear),
+         "Error");
+    System().ShowModal(frmDutyPoint);
+}
+
+void TellOfFailedFlows()
+{
+    Warn("Could not determine the hydraulic gradeline. Please check input data", "Velorix Error");
+}
+
 void TellOfHighPoint()
 {
     System().Show({.Text =
@@ -67,35 +76,38 @@ void TellOfHighPoint()
                    .Icon = MessageIcon::Information});
 }
 
+// The fee as it stands in its box, which may hold another text than the record.
+Single SupervisionOnScreen()
+{
+    return ParseSingle(frmLCC.txtSupervision.Text.Get());
+}
+
+void FollowFigures(Milestone Reached)
+{
+    switch (Reached) {
+    case Milestone::Inputs: LoadResultsHidden(); return ShowAnalysisProgress(55);
+    case Milestone::Supply: return ShowAnalysisProgress(60);
+    case Milestone::Hours: return ShowAnalysisProgress(65);
+    case Milestone::Income: return ShowAnalysisProgress(70);
+    }
+}
+
 void RunAnalysis()
 {
-    AnalysisAborted = 0;
-    NormaliseInputs();
-    ReadLayingRates();
-    LoadResultsHidden();
-    ShowAnalysisProgress(55);
-
-    HighPointAdjusted = 0;
-    SolveFlows();
-    if (AnalysisAborted == -1) return;
-
-    SupplyDemand();
-    ShowAnalysisProgress(60);
-    SplitPumpingHours();
-    ShowAnalysisProgress(65);
-    ComputeIncome();
-    ShowAnalysisProgress(70);
-    ComputeCapitalCost();
-    ComputeAnnualCosts();
-    ComputePresentValues();
-    ScanRateOfReturn();
-
+    const bool Stand = ComputeFigures(
+        {.Flows = TellingOfFlows(), .Reached = FollowFigures, .Supervision = SupervisionOnScreen});
+    if (!Stand) return;
     HandOverToResults();
     if (HighPointAdjusted == 1) TellOfHighPoint();
     Analysed = 1;
 }
 
 } // namespace
+
+FlowEvents TellingOfFlows()
+{
+    return {.DutyPointMissing = TellOfMissingDutyPoint, .Failed = TellOfFailedFlows};
+}
 
 void RefreshResults()
 {

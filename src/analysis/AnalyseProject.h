@@ -1,12 +1,18 @@
 // The whole analysis of the open project, from the working set to the results.
 #pragma once
 
+#include "hydraulics/Flows.h"
+
 namespace velorix {
 
 // Hydraulics, yearly supply, costs, present values, and the filling of the results screen, hidden. Sets
 // Analysed when results stand. A failure anywhere is told to the user and ends the analysis; what was
 // computed stays.
 void AnalyseProject();
+
+// What the user is told of a flow solution, and the dialog of a year without a duty point: for every caller
+// of SolveFlows that stands before a user.
+FlowEvents TellingOfFlows();
 
 // Fills the cost tables and the chainage lists of the results screen once more, as it opens.
 void RefreshResults();

@@ -2,13 +2,7 @@
 #include "analysis/Program.h"
 
 #include "base/Arithmetic.h"
-#include "cost/AnnualCosts.h"
-#include "cost/CapitalCost.h"
-#include "cost/PresentValue.h"
-#include "cost/RateOfReturn.h"
-#include "hydraulics/DutyPoint.h"
-#include "hydraulics/Flows.h"
-#include "hydraulics/YearlySupply.h"
+#include "cost/CostResults.h"
 #include "input/Session.h"
 #include "model/WorkingSet.h"
 #include "platform/Screen.h"
@@ -23,14 +17,7 @@ void ResetProgram()
     ResetProjectRecord();
     ResetWorkingSet();
     ResetSession();
-    ResetNormalise();
-    ResetFlows();
-    ResetDutyPoint();
-    ResetYearlySupply();
-    ResetCapitalCost();
-    ResetAnnualCosts();
-    ResetPresentValue();
-    ResetRateOfReturn();
+    ResetResults();
     ResetPlotState();
 }
 

@@ -170,6 +170,8 @@ void NewFile::Commit(Flush Wanted)
         if (Wanted == Flush::Yes) FlushFolder(FolderOf(Path));
     }
     Undo.clear();
+    Content.reset(); // and with them the locks
+    Before.reset();
 }
 
 void NewFile::Remember(std::uintmax_t Start, std::size_t Count)

@@ -35,6 +35,7 @@ public:
 
     // Flushed, the content is on the disk at the return, which takes milliseconds. Many files that can be
     // made again may do without: then they are whole unless the machine stops.
+    // Ends the work with this object.
     enum class Flush { Yes, No };
     void Commit(Flush Wanted = Flush::Yes);
 

@@ -1,13 +1,7 @@
 // The results by the names that the domain gives them.
 #include "batch/AnalysisResults.h"
 
-#include "cost/AnnualCosts.h"
-#include "cost/CapitalCost.h"
-#include "cost/PresentValue.h"
-#include "cost/RateOfReturn.h"
-#include "hydraulics/DutyPoint.h"
-#include "hydraulics/Flows.h"
-#include "hydraulics/YearlySupply.h"
+#include "cost/CostResults.h"
 #include "input/Session.h"
 #include "model/WorkingSet.h"
 
@@ -24,83 +18,68 @@ std::vector<Single> FirstEntries(const Array& Values, int Count)
     return {Values.begin(), Values.begin() + Held};
 }
 
-#define VELORIX_NAMED(Variable) #Variable, Variable
-#define VELORIX_YEARS(Variable) #Variable, FirstEntries(Variable, wLife)
-#define VELORIX_ROWS(Variable) #Variable, FirstEntries(Variable, NodeCount)
+// Sorts the quantities by their shape.
+class Collector {
+public:
+    explicit Collector(AnalysisResults& Target)
+        : Results(Target)
+    {
+    }
 
-// Points from the table's first row up to NodeCount, for each year.
-template <typename Table>
-NamedTable TableOf(const std::string& Name, const Table& Values)
-{
-    constexpr int First = Table::Column::FirstIndex;
-    NamedTable Result{Name, First, {}};
-    for (int Year = 1; Year <= wLife; ++Year)
-        Result.Years.push_back(FirstEntries(Values.Year(Year), NodeCount - First + 1));
-    return Result;
-}
+    template <typename Shape>
+    void operator()(const InnerInfo&, const Shape&)
+    {
+    }
+
+    void operator()(const ResultInfo& Of, std::int16_t Value) { Results.Counts.emplace_back(Of.Name, Value); }
+    void operator()(const ResultInfo& Of, const Single& Value)
+    {
+        Results.Scalars.emplace_back(Of.Name, Value);
+    }
+    void operator()(const ResultInfo& Of, const ByYear& Values)
+    {
+        Results.ByYear.push_back({Of.Name, FirstEntries(Values, wLife)});
+    }
+    void operator()(const ResultInfo& Of, const ByConstructionYear& Values)
+    {
+        Results.ByCalendarYear.push_back({Of.Name, FirstEntries(Values, ConstructionYears)});
+    }
+    void operator()(const ResultInfo& Of, const ByCostYear& Values)
+    {
+        Results.ByCalendarYear.push_back({Of.Name, FirstEntries(Values, ConstructionYears + wLife)});
+    }
+    void operator()(const ResultInfo& Of, const ByRow& Values)
+    {
+        Results.ByRow.push_back({Of.Name, FirstEntries(Values, NodeCount)});
+    }
+
+    // Points from the table's first row up to NodeCount, for each year.
+    template <int First>
+    void operator()(const ResultInfo& Of, const YearTable<Single, First, MaxRows, MaxYears>& Values)
+    {
+        NamedTable Table{Of.Name, First, {}};
+        for (int Year = 1; Year <= wLife; ++Year)
+            Table.Years.push_back(FirstEntries(Values.Year(Year), NodeCount - First + 1));
+        Results.ByYearAndRow.push_back(std::move(Table));
+    }
+
+private:
+    AnalysisResults& Results;
+    const int ConstructionYears = wSupplyStart - wBaseYear;
+};
 
 } // namespace
 
 AnalysisResults CollectResults(const std::vector<Message>& Shown)
 {
-    const int ConstructionYears = wSupplyStart - wBaseYear;
     AnalysisResults Results;
     Results.Messages = Shown;
-    Results.Counts = {{VELORIX_NAMED(Analysed)},         {VELORIX_NAMED(AnalysisAborted)},
-                      {VELORIX_NAMED(HydraulicsFailed)}, {VELORIX_NAMED(HighPointAdjusted)},
-                      {VELORIX_NAMED(NodeCount)},        {VELORIX_NAMED(ElevationFactor)}};
-    Results.Scalars = {{VELORIX_NAMED(UpstreamLevel)},
-                       {VELORIX_NAMED(DownstreamLevel)},
-                       {VELORIX_NAMED(LiningLoss)},
-                       {VELORIX_NAMED(KsNewM)},
-                       {VELORIX_NAMED(KsOldM)},
-                       {VELORIX_NAMED(DemandFactor)},
-                       {VELORIX_NAMED(WaterSalesFactor)},
-                       {VELORIX_NAMED(PipeSupplyCost)},
-                       {VELORIX_NAMED(LayingCost)},
-                       {VELORIX_NAMED(EscalationBase)},
-                       {VELORIX_NAMED(EscalationAmount)},
-                       {VELORIX_NAMED(ConsultingFees)},
-                       {VELORIX_NAMED(SupervisionCost)},
-                       {VELORIX_NAMED(TotalCapitalCost)},
-                       {VELORIX_NAMED(NpvCost)},
-                       {VELORIX_NAMED(NpvIncome)},
-                       {VELORIX_NAMED(Irr)}};
-    Results.ByYear = {{VELORIX_YEARS(Flow)},
-                      {VELORIX_YEARS(KsYear)},
-                      {VELORIX_YEARS(DemandFlow)},
-                      {VELORIX_YEARS(Shortage)},
-                      {VELORIX_YEARS(PumpingHours)},
-                      {VELORIX_YEARS(HoursOffpeakS)},
-                      {VELORIX_YEARS(HoursStandardS)},
-                      {VELORIX_YEARS(HoursPeakS)},
-                      {VELORIX_YEARS(HoursOffpeakW)},
-                      {VELORIX_YEARS(HoursStandardW)},
-                      {VELORIX_YEARS(HoursPeakW)},
-                      {VELORIX_YEARS(Efficiency)},
-                      {VELORIX_YEARS(PumpHead)},
-                      {VELORIX_YEARS(PumpFlow)},
-                      {VELORIX_YEARS(PumpEfficiencyByYear)},
-                      {VELORIX_YEARS(IncomeSeries)},
-                      {VELORIX_YEARS(MaintPipeline)},
-                      {VELORIX_YEARS(MaintMechanical)},
-                      {VELORIX_YEARS(MaintElectrical)},
-                      {VELORIX_YEARS(MaintTotal)},
-                      {VELORIX_YEARS(OperationalCost)},
-                      {VELORIX_YEARS(EnergyCost)}};
-    Results.ByCalendarYear = {{"CapitalSeries", FirstEntries(CapitalSeries, ConstructionYears)},
-                              {"CostSeries", FirstEntries(CostSeries, ConstructionYears + wLife)}};
-    Results.ByRow = {{VELORIX_ROWS(InternalDiameter)}, {VELORIX_ROWS(SectionLength)},
-                     {VELORIX_ROWS(ExcavationCost)},   {VELORIX_ROWS(BeddingCost)},
-                     {VELORIX_ROWS(BlanketCost)},      {VELORIX_ROWS(BackfillCost)},
-                     {VELORIX_ROWS(PipeLayingCost)}};
-    Results.ByYearAndRow = {TableOf("Lambda", Lambda), TableOf("FrictionLoss", FrictionLoss),
-                            TableOf("SecondaryHeadLoss", SecondaryHeadLoss), TableOf("Gradeline", Gradeline)};
+    ForEachResult(Collector(Results));
+
+    // Two counts that the engine doesn't own, at the places where readers of the output know them.
+    Results.Counts.insert(Results.Counts.begin(), {"Analysed", Analysed});
+    Results.Counts.insert(Results.Counts.end() - 1, {"NodeCount", NodeCount});
     return Results;
 }
-
-#undef VELORIX_NAMED
-#undef VELORIX_YEARS
-#undef VELORIX_ROWS
 
 } // namespace velorix

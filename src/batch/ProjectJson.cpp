@@ -9,7 +9,6 @@
 #include "input/Session.h"
 #include "model/WorkingSet.h"
 
-#include <algorithm>
 #include <array>
 #include <functional>
 #include <limits>

@@ -2,24 +2,12 @@
 #include "cost/AnnualCosts.h"
 
 #include "base/Arithmetic.h"
-#include "cost/CapitalCost.h"
-#include "hydraulics/DutyPoint.h"
-#include "hydraulics/Flows.h"
-#include "hydraulics/YearlySupply.h"
+#include "cost/CostResults.h"
 #include "model/WorkingSet.h"
 
 #include <cmath>
 
 namespace velorix {
-
-ByYear IncomeSeries;
-ByYear MaintPipeline;
-ByYear MaintMechanical;
-ByYear MaintElectrical;
-ByYear MaintTotal;
-ByYear OperationalCost;
-ByYear EnergyCostWork;
-ByYear EnergyCost;
 
 namespace {
 
@@ -108,13 +96,6 @@ void ComputeAnnualCosts()
         else
             EnergyCost[y] = 0;
     }
-}
-
-void ResetAnnualCosts()
-{
-    for (ByYear* Series : {&IncomeSeries, &MaintPipeline, &MaintMechanical, &MaintElectrical, &MaintTotal,
-                           &OperationalCost, &EnergyCostWork, &EnergyCost})
-        Series->Fill(0);
 }
 
 } // namespace velorix

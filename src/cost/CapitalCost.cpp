@@ -2,10 +2,9 @@
 #include "cost/CapitalCost.h"
 
 #include "base/Arithmetic.h"
-#include "base/NumberText.h"
+#include "cost/CostResults.h"
 #include "hydraulics/Formulas.h"
 #include "model/WorkingSet.h"
-#include "screens/Lcc.h"
 
 #include <cmath>
 #include <iterator>
@@ -13,47 +12,14 @@
 
 namespace velorix {
 
-Single RateLaying;
-Single RateExcavation;
-Single RateRockExcavation;
-Single RateBeddingImport;
-Single RateBeddingTrench;
-Single RateBlanketImport;
-Single RateBlanketTrench;
-Single RateBackfilling;
-Single PercentRock;
-Single PercentBeddingImport;
-Single PercentBlanketImport;
-Single Cover;
-Single BelowInvert;
-
-Single PipeSupplyCost;
-ByRow ExcavationCost;
-ByRow BeddingCost;
-ByRow BlanketCost;
-ByRow BackfillCost;
-ByRow PipeLayingCost;
-Single LayingCost;
-
-Single EscalationBase;
-Single EscalationAmount;
-Single ConsultingFees;
-Single SupervisionCost;
-Single TotalCapitalCost;
-ByYear CapitalSeries;
-
 namespace {
 
 constexpr double BlanketOverPipe = 0.1; // m of blanket above the pipe, which backfill then needn't fill
 constexpr int MonthsAYear = 12;
 
-// The named rates in the order of wLaying.
-Single* const LayingRates[] = {
-    &RateLaying,        &RateExcavation,       &RateRockExcavation,   &RateBeddingImport,
-    &RateBeddingTrench, &RateBlanketImport,    &RateBlanketTrench,    &RateBackfilling,
-    &PercentRock,       &PercentBeddingImport, &PercentBlanketImport, &Cover,
-    &BelowInvert,
-};
+#define VELORIX_ADDRESS(Shape, Name, Unit) &Name,
+Single* const LayingRates[] = {VELORIX_LAYING_RATES(VELORIX_ADDRESS)};
+#undef VELORIX_ADDRESS
 
 // One bracket of a fee scale: up to and including Limit the fee is Base plus Share of what exceeds From.
 struct FeeBracket {
@@ -180,7 +146,7 @@ double MechanicalElectricalFee(double Y)
     return FeeOf(MechanicalElectricalBrackets, Y);
 }
 
-void ComputeCapitalCost()
+void ComputeConstructionCost()
 {
     ClearArithmeticFlags();
     PricePipeline();
@@ -194,23 +160,18 @@ void ComputeCapitalCost()
     const Single X = WithEscalation(PipelineCost);
     const Single Y = WithEscalation(wMechanical + wElectrical);
     ConsultingFees = Checked(CivilFee(X) + MechanicalElectricalFee(Y));
-    SupervisionCost = ParseSingle(frmLCC.txtSupervision.Text.Get());
+}
+
+void ComputeTotalCapitalCost(Single Supervision)
+{
+    ClearArithmeticFlags();
+    SupervisionCost = Supervision;
     TotalCapitalCost =
         Checked((EscalationAmount + EscalationBase + ConsultingFees + SupervisionCost) * TaxFactor);
 
+    const int Years = wSupplyStart - wBaseYear;
     CapitalSeries.Fill(0);
     for (int t = 1; t <= Years; ++t) CapitalSeries[t] = Checked(TotalCapitalCost / Years);
-}
-
-void ResetCapitalCost()
-{
-    for (Single* Rate : LayingRates) *Rate = 0;
-    for (Single* Scalar : {&PipeSupplyCost, &LayingCost, &EscalationBase, &EscalationAmount, &ConsultingFees,
-                           &SupervisionCost, &TotalCapitalCost})
-        *Scalar = 0;
-    for (ByRow* Costs : {&ExcavationCost, &BeddingCost, &BlanketCost, &BackfillCost, &PipeLayingCost})
-        Costs->Fill(0);
-    CapitalSeries.Fill(0);
 }
 
 } // namespace velorix

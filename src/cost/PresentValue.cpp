@@ -2,17 +2,12 @@
 #include "cost/PresentValue.h"
 
 #include "base/Arithmetic.h"
-#include "cost/AnnualCosts.h"
-#include "cost/CapitalCost.h"
+#include "cost/CostResults.h"
 #include "model/WorkingSet.h"
 
 #include <cmath>
 
 namespace velorix {
-
-Single NpvCost;
-Single NpvIncome;
-Array1<Single, MaxCostYears> CostSeries;
 
 namespace {
 
@@ -60,13 +55,6 @@ void ComputePresentValues()
     DiscountCosts(d, n);
     DiscountIncome(d, n);
     FillCostSeries(n);
-}
-
-void ResetPresentValue()
-{
-    NpvCost = 0;
-    NpvIncome = 0;
-    CostSeries.Fill(0);
 }
 
 } // namespace velorix

@@ -3,17 +3,12 @@
 #include "cost/RateOfReturn.h"
 
 #include "base/Arithmetic.h"
-#include "cost/AnnualCosts.h"
-#include "cost/CapitalCost.h"
+#include "cost/CostResults.h"
 #include "model/WorkingSet.h"
 
 #include <cmath>
 
 namespace velorix {
-
-Single Irr;
-BoundedArray<Single, 0, 200000> IrrRate;
-BoundedArray<double, 0, 200000> IrrDifference;
 
 namespace {
 
@@ -127,13 +122,6 @@ void ScanRateOfReturn()
     int k = 0;
     for (; k + BlockSize <= LastRate + 1; k += BlockSize) Scan.Try<BlockSize>(k);
     for (; k <= LastRate; ++k) Scan.Try<1>(k);
-}
-
-void ResetRateOfReturn()
-{
-    Irr = 0;
-    IrrRate.Fill(0);
-    IrrDifference.Fill(0);
 }
 
 } // namespace velorix

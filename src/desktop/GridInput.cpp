@@ -5,11 +5,14 @@
 #include "platform/Keys.h"
 #include "platform/Platform.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QContextMenuEvent>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -23,13 +26,8 @@ constexpr int OtherButton = 4; // opens nothing, and still ends an editing
 // Up and Down choose in the list; these go on in the grid.
 bool LeavesList(const QKeyEvent& Key)
 {
-    switch (SpecialKey(Key)) {
-    case Keys::Enter:
-    case Keys::Escape:
-    case Keys::Left:
-    case Keys::Right: return true;
-    default: return false;
-    }
+    const int Code = SpecialKey(Key);
+    return Code == Keys::Enter || Code == Keys::Escape || Code == Keys::Left || Code == Keys::Right;
 }
 
 bool AsksForMenu(const QKeyEvent& Key)
@@ -37,43 +35,98 @@ bool AsksForMenu(const QKeyEvent& Key)
     return Key.key() == Qt::Key_Menu || (Key.key() == Qt::Key_F10 && Key.modifiers() == Qt::ShiftModifier);
 }
 
+// Home, End, the arrows and the page keys, with which the toolkit moves the current cell.
+bool Moves(const QKeyEvent& Key)
+{
+    return Key.key() >= Qt::Key_Home && Key.key() <= Qt::Key_PageDown &&
+           !(Key.modifiers() & (Qt::AltModifier | Qt::MetaModifier));
+}
+
 } // namespace
+
+bool GridView::eventFilter(QObject* Watched, QEvent* Event)
+{
+    if (Watched == Editor || Watched == List) {
+        if (Event->type() == QEvent::KeyPress) {
+            HeldKey = SpecialKey(*static_cast<QKeyEvent*>(Event));
+            BringUpCurrent();
+        }
+        return EditorEvent(*static_cast<QWidget*>(Watched), *Event);
+    }
+    if (Watched == viewport()) return QTableView::eventFilter(Watched, Event);
+
+    // The headers and their corner.
+    if (Event->type() == QEvent::MouseButtonPress) {
+        const bool Left = static_cast<QMouseEvent*>(Event)->button() == Qt::LeftButton;
+        Guarded([&] { Record.MouseDown(Left ? LeftButton : OtherButton); });
+    }
+    if (Watched != HeadCorner || Event->type() != QEvent::Paint)
+        return QTableView::eventFilter(Watched, Event);
+    DrawHeading(*HeadCorner, Model.Heading(0));
+    return true;
+}
 
 void GridView::keyPressEvent(QKeyEvent* Key)
 {
     if (Editor && Editor->hasFocus()) return; // what the editor has no use for isn't meant for the grid
+    if (SettlePending) Settle();
+    if (PressCommand(*Key)) return;
     if (List && List->hasFocus()) {
         if (!LeavesList(*Key)) return Key->ignore();
         setFocus();
         if (Key->key() == Qt::Key_Escape) return;
     }
-
-    if (Key->matches(QKeySequence::Copy))
-        System().SetClipboardText(SelectedText().toStdString());
-    else if (Key->matches(QKeySequence::SelectAll)) {
-        const Place First{Record.FixedRows, Record.FixedCols};
-        if (!IsData(First)) return;
-        Guarded([&] { Record.Select(First.Row, First.Col); });
-        ExtendTo({Record.Rows() - 1, Record.Cols() - 1});
-    } else if (AsksForMenu(*Key)) {
-        BringUpCurrent();
-        OpenMenu(viewport()->mapToGlobal(RectOf(Record.Row(), Record.Col()).bottomLeft()));
-    } else if (!Extend(*Key))
-        PressKey(*Key);
+    PressKey(*Key);
 }
 
-// The handler first, then what a grid does by itself, then the typed character.
+bool GridView::PressCommand(const QKeyEvent& Key)
+{
+    if (Key.matches(QKeySequence::Copy))
+        System().SetClipboardText(Record.SelectedText());
+    else if (Key.matches(QKeySequence::Paste))
+        Guarded([this] { Record.Paste(); });
+    else if (Key.matches(QKeySequence::Undo))
+        Guarded([this] { Record.Undo(); });
+    else if (Key.matches(QKeySequence::SelectAll))
+        SelectAllCells();
+    else if (AsksForMenu(Key)) {
+        BringUpCurrent();
+        OpenMenu(viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()));
+    } else
+        return false;
+    return true;
+}
+
+// The handler first, then what a table does by itself, then the typed character.
 void GridView::PressKey(QKeyEvent& Key)
 {
     const int Special = SpecialKey(Key);
     HeldKey = Special;
     if (!PressDown(Record.KeyDown, Special)) return;
-    bool Moved = false;
-    Guarded([&] { Moved = Special != 0 && Record.Navigate(Special); });
-    if (Moved) return Settle();
+    if (Moves(Key)) return Move(Key);
     const std::vector<int> Typed = TypedKeys(Key);
     Press(Record.KeyPress, Typed);
     if (Typed.empty() || Special == Keys::Escape) Key.ignore();
+}
+
+// With Shift the selection's far corner moves and the current cell stays.
+void GridView::Move(QKeyEvent& Key)
+{
+    if (!(Key.modifiers() & Qt::ShiftModifier)) {
+        ExtendTo(Current());
+        return QTableView::keyPressEvent(&Key);
+    }
+    if (!Model.IsData(Current())) return;
+    const CellRange Chosen = Record.Selected();
+    QModelIndex Far = Model.IndexOf(Chosen.FirstRow == Record.Row() ? Chosen.LastRow : Chosen.FirstRow,
+                                    Chosen.FirstCol == Record.Col() ? Chosen.LastCol : Chosen.FirstCol);
+    {
+        const QScopedValueRollback<bool> Guard(Following, true);
+        selectionModel()->setCurrentIndex(Far, QItemSelectionModel::NoUpdate);
+        QTableView::keyPressEvent(&Key);
+        Far = currentIndex();
+    }
+    ExtendTo(Far);
 }
 
 void GridView::keyReleaseEvent(QKeyEvent* Key)
@@ -85,31 +138,38 @@ void GridView::keyReleaseEvent(QKeyEvent* Key)
     PressDown(Record.KeyUp, Special);
 }
 
-// Shift with an arrow: the selection grows from the current cell.
-bool GridView::Extend(const QKeyEvent& Key)
+void GridView::GoTo(const QModelIndex& Cell)
 {
-    if (Key.modifiers() != Qt::ShiftModifier || !IsData(Current())) return false;
-    Place Corner = Extent;
-    switch (Key.key()) {
-    case Qt::Key_Left: --Corner.Col; break;
-    case Qt::Key_Right: ++Corner.Col; break;
-    case Qt::Key_Up: --Corner.Row; break;
-    case Qt::Key_Down: ++Corner.Row; break;
-    case Qt::Key_Home: Corner.Col = 0; break;
-    case Qt::Key_End: Corner.Col = Record.Cols(); break;
-    default: return false;
-    }
-    ExtendTo(Corner);
-    return true;
+    Guarded([&] { Record.Select(Model.RowOf(Cell), Model.ColOf(Cell)); });
 }
 
-void GridView::ExtendTo(Place Corner)
+void GridView::ExtendTo(const QModelIndex& Corner)
 {
-    if (!IsData(Current())) return;
-    Extent = {std::clamp(Corner.Row, Record.FixedRows, Record.Rows() - 1),
-              std::clamp(Corner.Col, Record.FixedCols, Record.Cols() - 1)};
-    Reveal(Extent.Row, Extent.Col);
-    viewport()->update();
+    if (!Model.IsData(Corner) || !Model.IsData(Current())) return;
+    Record.SelectTo(Model.RowOf(Corner), Model.ColOf(Corner));
+    scrollTo(Corner);
+}
+
+void GridView::SelectAllCells()
+{
+    if (SettlePending) Settle();
+    const QModelIndex First = Model.IndexOf(Record.FixedRows, Record.FixedCols);
+    if (!Model.IsData(First)) return;
+    GoTo(First);
+    ExtendTo(Model.IndexOf(Record.Rows() - 1, Record.Cols() - 1));
+}
+
+// Whole rows or columns, from the one on which the selection has begun; its first cell becomes current.
+void GridView::SelectHeads(const QHeaderView* Header, int Section)
+{
+    if (SettlePending) Settle();
+    const bool Cols = Header->orientation() == Qt::Horizontal;
+    const QModelIndex First = Cols ? Model.IndexOf(Record.FixedRows, HeadAnchor + Model.HeadCols())
+                                   : Model.IndexOf(HeadAnchor + Model.HeadRows(), Record.FixedCols);
+    if (!Model.IsData(First)) return;
+    GoTo(First);
+    ExtendTo(Cols ? Model.IndexOf(Record.Rows() - 1, Section + Model.HeadCols())
+                  : Model.IndexOf(Section + Model.HeadRows(), Record.Cols() - 1));
 }
 
 void GridView::OpenMenu(QPoint OnScreen)
@@ -120,32 +180,46 @@ void GridView::OpenMenu(QPoint OnScreen)
 
 void GridView::mousePressEvent(QMouseEvent* Press)
 {
+    if (SettlePending) Settle();
     const bool Left = Press->button() == Qt::LeftButton;
     const bool Right = Press->button() == Qt::RightButton;
-    Settle();
-    const Place Cell = CellAt(Press->position().toPoint());
-    if (IsData(Cell) && Left && Press->modifiers() & Qt::ShiftModifier) {
+    const QModelIndex Cell = indexAt(Press->position().toPoint());
+    const bool OnData = Model.IsData(Cell);
+    if (OnData && Left && Press->modifiers() & Qt::ShiftModifier) {
         ExtendTo(Cell);
-    } else if (IsData(Cell) && (Left || Right)) {
-        Guarded([&] { Record.Select(Cell.Row, Cell.Col); });
-        Extent = Current();
+    } else if (OnData && (Left || Right)) {
+        GoTo(Cell);
+        ExtendTo(Current());
     }
-    if (Right && IsData(Cell))
+    if (Right && OnData)
         OpenMenu(Press->globalPosition().toPoint());
     else
         Guarded([&] { Record.MouseDown(Left ? LeftButton : OtherButton); });
-    Settle();
 }
 
 void GridView::mouseMoveEvent(QMouseEvent* Move)
 {
-    if (Move->buttons() & Qt::LeftButton && IsData(Current()))
-        ExtendTo(DataCellNear(Move->position().toPoint()));
+    if (Move->buttons() & Qt::LeftButton) ExtendTo(DataCellNear(Move->position().toPoint()));
+}
+
+// The press has selected already.
+void GridView::mouseReleaseEvent(QMouseEvent*) {}
+
+QModelIndex GridView::DataCellNear(QPoint Position) const
+{
+    const auto Near = [](int Section, int At, int Least, int Count) {
+        if (Section < 0) Section = At < 0 ? Least : Count - 1; // beside the table
+        return std::max(Section, Least);
+    };
+    return Model.index(
+        Near(rowAt(Position.y()), Position.y(), 0, Model.rowCount()),
+        Near(columnAt(Position.x()), Position.x(), Record.FixedCols - Model.HeadCols(), Model.columnCount()));
 }
 
 void GridView::mouseDoubleClickEvent(QMouseEvent* Press)
 {
-    if (Press->button() == Qt::LeftButton && CellAt(Press->position().toPoint()) == Current())
+    const QModelIndex Cell = indexAt(Press->position().toPoint());
+    if (Press->button() == Qt::LeftButton && Cell.isValid() && Cell == currentIndex())
         Guarded([this] { Record.DblClick(); });
 }
 
@@ -155,16 +229,10 @@ void GridView::contextMenuEvent(QContextMenuEvent* Event)
     Event->accept();
 }
 
-void GridView::focusInEvent(QFocusEvent*)
+void GridView::focusOutEvent(QFocusEvent* Focus)
 {
-    TellCursor();
-    viewport()->update();
-}
-
-void GridView::focusOutEvent(QFocusEvent*)
-{
+    QTableView::focusOutEvent(Focus);
     HeldKey = 0; // it comes up elsewhere
-    viewport()->update();
 }
 
 } // namespace velorix

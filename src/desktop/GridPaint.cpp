@@ -1,116 +1,161 @@
-// How a grid looks.
+// Painting of headings and cells.
+#include "desktop/GridPaint.h"
+
 #include "desktop/GridView.h"
 #include "desktop/Painting.h"
 #include "desktop/Style.h"
 
-#include <QLineEdit>
-#include <QPaintEvent>
+#include <QHeaderView>
+#include <QHelpEvent>
 #include <QPainter>
-
-#include <algorithm>
+#include <QStyledItemDelegate>
+#include <QToolTip>
 
 namespace velorix {
 namespace {
 
-QColor BackOf(const GridCell& Cell, bool Fixed, const QPalette& Palette)
+constexpr int Centred = Qt::AlignCenter | Qt::TextWordWrap;
+
+// A border at the right and below, the surface, and the text in the painter's font and pen: on several lines
+// when the flags say so, else shortened where it doesn't fit.
+void DrawCell(QPainter& Painter, const QRect& Place, const QColor& Back, int Flags, const QString& Text)
 {
-    if (!IsPaletteColor(Cell.BackColor)) return ToQColor(Cell.BackColor);
-    return Palette.color(Fixed || Cell.BackColor == ButtonColor ? QPalette::Button : QPalette::Base);
+    const QRect Inside = Place.adjusted(0, 0, -1, -1);
+    const QRect Room = Inside.adjusted(CellPadding, 0, -CellPadding, 0);
+    Painter.fillRect(Place, Colors().Border);
+    Painter.fillRect(Inside, Back);
+    Painter.drawText(Room, Flags,
+                     Flags & Qt::TextWordWrap
+                         ? Text
+                         : Painter.fontMetrics().elidedText(Text, Qt::ElideRight, Room.width()));
 }
 
-QColor InkOf(const GridCell& Cell, bool Fixed, const QPalette& Palette)
+// Numbers at the right, texts at the left. What a cell that can be edited won't be read as, with commas or
+// blanks in it, is a text.
+int AlignmentOf(const QString& Text, bool Editable)
 {
-    const bool Told = !IsPaletteColor(Cell.BackColor);
-    if (Told && Palette.currentColorGroup() != QPalette::Disabled) return Qt::black;
-    return Palette.color(Fixed ? QPalette::ButtonText : QPalette::Text);
-}
-
-// Headings in the middle, numbers at the right, texts at the left. What a cell that can be edited won't be
-// read as, with commas or blanks in it, is a text.
-Qt::Alignment AlignmentOf(const QString& Text, bool Heading, bool Editable)
-{
-    if (Heading) return Qt::AlignCenter;
     return (IsNumberText(Text, !Editable) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+}
+
+class Header : public QHeaderView {
+public:
+    Header(Qt::Orientation Direction, const GridModel& Shown, QWidget* View)
+        : QHeaderView(Direction, View)
+        , Model(Shown)
+    {
+        constexpr int LeastWidth = 40;
+        setSectionsClickable(true);
+        setMinimumSectionSize(Direction == Qt::Horizontal ? LeastWidth : 1);
+        if (Direction == Qt::Vertical) setSectionResizeMode(Fixed);
+    }
+
+protected:
+    // Equal headings side by side show as one where the cells do.
+    void paintSection(QPainter* Painter, const QRect& Place, int Section) const override
+    {
+        const QString Text = Model.headerData(Section, orientation(), Qt::DisplayRole).toString();
+        QRect Whole = Place;
+        if (orientation() == Qt::Horizontal) {
+            const QRect Span = Model.Span(Model.HeadRows() - 1, Section + Model.HeadCols());
+            const int Last = Span.right() - Model.HeadCols();
+            Whole.setLeft(sectionViewportPosition(Span.left() - Model.HeadCols()));
+            Whole.setWidth(sectionViewportPosition(Last) + sectionSize(Last) - Whole.left());
+        }
+        Painter->setPen(palette().color(QPalette::ButtonText));
+        DrawCell(*Painter, Whole, palette().color(QPalette::Button),
+                 orientation() == Qt::Horizontal ? Centred : AlignmentOf(Text, true), Text);
+    }
+
+private:
+    const GridModel& Model;
+};
+
+class Cells : public QStyledItemDelegate {
+public:
+    explicit Cells(GridView& Shown)
+        : QStyledItemDelegate(&Shown)
+        , View(Shown)
+    {
+    }
+
+    void paint(QPainter* Painter, const QStyleOptionViewItem& Option,
+               const QModelIndex& Index) const override;
+
+    // A text that doesn't fit its cell shows in full as a tip.
+    bool helpEvent(QHelpEvent* Help, QAbstractItemView* Asked, const QStyleOptionViewItem& Option,
+                   const QModelIndex& Index) override
+    {
+        const QString Text = Index.data().toString();
+        const int Room = Option.rect.width() - 2 * CellPadding;
+        const bool Fits = View.fontMetrics().horizontalAdvance(Text) <= Room;
+        QToolTip::showText(Help->globalPos(), Fits ? View.toolTip() : Text, Asked->viewport());
+        return true;
+    }
+
+private:
+    GridView& View;
+};
+
+void Cells::paint(QPainter* Painter, const QStyleOptionViewItem& Option, const QModelIndex& Index) const
+{
+    const GridModel& Model = View.Cells();
+    const GridCell* const Cell = Model.CellOf(Index);
+    if (!Cell) return;
+    const int Row = Model.RowOf(Index);
+    const int Col = Model.ColOf(Index);
+    const QPalette& Palette = View.palette();
+    const bool Heading = View.Table().IsHeadingRow(Row);
+    const bool Told = !IsPaletteColor(Cell->BackColor) && View.isEnabled();
+    const bool Fixed = !Model.IsData(Index);
+    const bool OnButton = Heading || Fixed;
+
+    Painter->save();
+    Painter->setFont(Heading ? HeadingFont(View.font()) : View.font());
+    Painter->setPen(Told ? QColor(Qt::black)
+                         : Palette.color(OnButton ? QPalette::ButtonText : QPalette::Text));
+    const QString Text = Index.data().toString();
+    const int Lines = Model.Span(Row, Col).height() > 1 ? Qt::TextWordWrap : 0;
+    DrawCell(*Painter, Option.rect,
+             Told ? ToQColor(Cell->BackColor) : Palette.color(OnButton ? QPalette::Button : QPalette::Base),
+             Heading ? Centred : AlignmentOf(Text, View.EditorView()) | Lines, Text);
+
+    const QRect Inside = Option.rect.adjusted(0, 0, -1, -1);
+    const bool Current = Option.rect == View.visualRect(View.currentIndex());
+    if (View.isEnabled() && !Fixed && !Current && View.Table().Selected().Holds(Row, Col)) {
+        constexpr int Veil = 70; // of 255
+        QColor Tint = Palette.color(QPalette::Highlight);
+        Tint.setAlpha(Veil);
+        Painter->fillRect(Inside, Tint);
+    }
+    if (View.isEnabled() && Current)
+        DrawFrame(*Painter, Inside, View.HasCursor() ? Palette.color(QPalette::Highlight) : Colors().Muted);
+    Painter->restore();
 }
 
 } // namespace
 
-void GridView::paintEvent(QPaintEvent* Paint)
+QFont HeadingFont(const QFont& Font)
 {
-    Measure(); // a size that has just changed
-    QPainter Painter(viewport());
-    Painter.fillRect(Paint->rect(), palette().color(QPalette::Base));
-
-    const QSize Fixed = Metrics.FixedSize();
-    const QRect All = viewport()->rect();
-    const QRect Data = DataPane();
-    const Place First = CellAt(Data.topLeft());
-    PaintPane(Painter, Data, First);
-    PaintPane(Painter, {All.left(), Data.top(), Fixed.width(), Data.height()}, {First.Row, 0});
-    PaintPane(Painter, {Data.left(), All.top(), Data.width(), Fixed.height()}, {0, First.Col});
-    PaintPane(Painter, {All.topLeft(), Fixed}, {0, 0});
-    Painter.setClipping(false);
-    PaintCursor(Painter);
+    QFont Bold = Font;
+    Bold.setBold(true);
+    return Bold;
 }
 
-// The cells of one of the four panes, from the first that shows.
-void GridView::PaintPane(QPainter& Painter, const QRect& Pane, Place First)
+void DrawHeading(QWidget& Place, const QString& Text)
 {
-    if (Pane.isEmpty()) return;
-    Painter.setClipRect(Pane);
-    const int RowEnd =
-        Pane.top() < Metrics.FixedSize().height() ? std::min(Record.FixedRows, Record.Rows()) : Record.Rows();
-    const int ColEnd =
-        Pane.left() < Metrics.FixedSize().width() ? std::min(Record.FixedCols, Record.Cols()) : Record.Cols();
-    for (int Row = First.Row; Row < RowEnd && ViewY(Row) <= Pane.bottom(); ++Row)
-        for (int Col = First.Col; Col < ColEnd && ViewX(Col) <= Pane.right(); ++Col) {
-            PaintCell(Painter, Row, Col);
-            Col = MergedCols(Record, Row, Col).Last;
-        }
+    QPainter Painter(&Place);
+    Painter.setPen(Place.palette().color(QPalette::ButtonText));
+    DrawCell(Painter, Place.rect(), Place.palette().color(QPalette::Button), Centred, Text);
 }
 
-void GridView::PaintCell(QPainter& Painter, int Row, int Col)
+QHeaderView* PaintedHeader(Qt::Orientation Direction, const GridModel& Model, QWidget* View)
 {
-    const ColSpan Span = MergedCols(Record, Row, Col);
-    const GridCell& Cell = Record.Cell(Row, Span.First);
-    const bool Fixed = IsFixedCell(Record, Row, Span.First);
-    const bool Heading = Row < Record.FixedRows || Span.First != Span.Last;
-    const QRect Rect = RectOf(Row, Col);
-    const QRect Inside = Rect.adjusted(0, 0, -1, -1);
-
-    Painter.fillRect(Rect, Colors().Border);
-    Painter.fillRect(Inside, BackOf(Cell, Fixed, palette()));
-    if (SelectsSeveral() && !Fixed && IsSelected(Row, Col)) {
-        constexpr int Veil = 70; // of 255
-        QColor Tint = palette().color(QPalette::Highlight);
-        Tint.setAlpha(Veil);
-        Painter.fillRect(Inside, Tint);
-    }
-
-    const QString Text = QString::fromStdString(Cell.Text).trimmed();
-    if (Text.isEmpty()) return;
-    QFont Letters = font();
-    Letters.setBold(Cell.Bold);
-    Painter.setFont(Letters);
-    Painter.setPen(InkOf(Cell, Fixed, palette()));
-    const QRect Room = Inside.adjusted(CellPadding, 0, -CellPadding, 0);
-    if (Heading)
-        Painter.drawText(Room, Qt::AlignCenter | Qt::TextWordWrap, Text);
-    else
-        Painter.drawText(Room, AlignmentOf(Text, Heading, Editor) | Qt::TextSingleLine,
-                         Painter.fontMetrics().elidedText(Text, Qt::ElideRight, Room.width()));
+    return new Header(Direction, Model, View);
 }
 
-// Around the current cell; without one around the grid, so that the focus always shows.
-void GridView::PaintCursor(QPainter& Painter)
+QAbstractItemDelegate* PaintedCells(GridView& View)
 {
-    const bool Active = hasFocus() || (Editor && Editor->hasFocus());
-    const QColor Ink = Active ? palette().color(QPalette::Highlight) : Colors().Muted;
-    if (IsData(Current())) {
-        Painter.setClipRect(DataPane());
-        DrawFrame(Painter, RectOf(Record.Row(), Record.Col()).adjusted(0, 0, -1, -1), Ink);
-    } else if (Active)
-        DrawFrame(Painter, viewport()->rect().adjusted(0, 0, -1, -1), Ink);
+    return new Cells(View);
 }
 
 } // namespace velorix

@@ -1,21 +1,21 @@
-// The grid's place, scrolling and selection, and the editors over it.
+// The grid's headers, sizes and selection, and the editors over it.
 #include "desktop/GridView.h"
 
 #include "desktop/Binding.h"
-#include "desktop/GridAccess.h"
-#include "desktop/KeyEvents.h"
 #include "desktop/Painting.h"
 #include "desktop/Views.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QFocusEvent>
-#include <QHelpEvent>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
+#include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QToolTip>
 
 #include <algorithm>
+#include <numeric>
 
 namespace velorix {
 namespace {
@@ -28,18 +28,20 @@ constexpr const char* EditorSheet =
 
 GridView::GridView(Grid& Shown, TextBox* EditorRecord, ComboBox* ListRecord)
     : Record(Shown)
+    , Model(Shown, nullptr)
     , Editor(EditorRecord ? View(*EditorRecord) : nullptr)
     , List(ListRecord ? View(*ListRecord) : nullptr)
 {
-    setFocusPolicy(Qt::StrongFocus);
-    viewport()->setMouseTracking(true);
-    for (QWidget* Each : std::initializer_list<QWidget*>{Editor, List}) {
-        if (!Each) continue;
-        const bool Hidden = Each->isHidden();
-        Each->setParent(viewport());
-        Each->setVisible(!Hidden);
-        Each->installEventFilter(this);
-    }
+    setItemDelegate(PaintedCells(*this));
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setShowGrid(false); // the cells paint their own borders
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
+    TakeHeaders();
+    setModel(&Model);
+    if (Editor) TakeEditor(Editor);
+    if (List) TakeEditor(List);
     if (Editor) {
         Editor->setFocusPolicy(Qt::ClickFocus); // Tab leaves the grid, it doesn't enter its editor
         Editor->setStyleSheet(EditorSheet);
@@ -48,17 +50,51 @@ GridView::GridView(Grid& Shown, TextBox* EditorRecord, ComboBox* ListRecord)
     const QPointer<GridView> Alive(this);
     Record.CellView = [Alive](int Row, int Col) {
         if (!Alive) return;
-        if (IsFixedCell(Alive->Record, Row, Col)) Alive->Measured = false;
+        if (Alive->Record.IsFixed(Row, Col)) Alive->HeadingsChanged = true;
         Alive->SettleSoon();
     };
     Record.ShapeView = [Alive] {
-        if (!Alive) return;
-        Alive->Extent = Alive->Current();
-        Alive->SettleSoon();
+        if (Alive && Alive->Model.Fits()) Alive->ShowSelection();
+        if (Alive) Alive->SettleSoon();
     };
-    Extent = Current();
-    ServeGridAccess();
+    Settle();
     Attach(Record, this);
+}
+
+// The first column's heading stands in the corner, which the toolkit leaves blank.
+void GridView::TakeHeaders()
+{
+    setHorizontalHeader(PaintedHeader(Qt::Horizontal, Model, this));
+    setVerticalHeader(PaintedHeader(Qt::Vertical, Model, this));
+    HeadCorner = findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly);
+    HeadCorner->disconnect(this);
+    connect(HeadCorner, &QAbstractButton::pressed, this, &GridView::SelectAllCells);
+    HeadCorner->installEventFilter(this);
+    for (QHeaderView* Header : {horizontalHeader(), verticalHeader()}) {
+        // The toolkit would select without the record's knowledge.
+        disconnect(Header, SIGNAL(sectionPressed(int)), this, nullptr);
+        disconnect(Header, SIGNAL(sectionEntered(int)), this, nullptr);
+        connect(Header, &QHeaderView::sectionPressed, this, [this, Header](int Section) {
+            if (!(QGuiApplication::keyboardModifiers() & Qt::ShiftModifier)) HeadAnchor = Section;
+            SelectHeads(Header, Section);
+        });
+        connect(Header, &QHeaderView::sectionEntered, this,
+                [this, Header](int Section) { SelectHeads(Header, Section); });
+        Header->viewport()->installEventFilter(this);
+    }
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
+        if (Sizing) return;
+        SizedByHand = true;
+        SizeHeadings();
+    });
+}
+
+void GridView::TakeEditor(QWidget* Over)
+{
+    const bool Hidden = Over->isHidden();
+    Over->setParent(viewport());
+    Over->setVisible(!Hidden);
+    Over->installEventFilter(this);
 }
 
 void GridView::SettleSoon()
@@ -72,184 +108,163 @@ void GridView::SettleSoon()
 void GridView::Settle()
 {
     SettlePending = false;
-    Measure();
-    SetScrollRanges();
-    if (isVisible() && !(Revealed == Current())) {
-        Revealed = Current();
-        if (IsData(Revealed)) Reveal(Revealed.Row, Revealed.Col);
-        TellCursor();
-    }
-    if (ToldRows != Record.Rows()) AnnounceRows(*this);
-    ToldRows = Record.Rows();
-    PlaceEditors();
-    viewport()->update();
+    const bool Reshaped = !Model.Fits();
+    if (Reshaped)
+        Model.Reset();
+    else
+        Model.Refresh();
+    if (Reshaped || HeadingsChanged) Measure();
+    clearSpans();
+    for (int Row = Model.HeadRows(); Record.MergeEqualCells && Row < Record.Rows(); ++Row)
+        for (int Col = 0; Col < Record.Cols(); ++Col) {
+            const QRect Span = Model.Span(Row, Col);
+            if (Span.topLeft() == QPoint(Col, Row) && Span.size() != QSize(1, 1))
+                setSpan(Row - Model.HeadRows(), Col, Span.height(), Span.width());
+        }
+    ShowSelection();
 }
 
+// The columns are as wide as told, or wider where the longest word of the heading or a row's name needs it.
 void GridView::Measure()
 {
-    if (Measured && Metrics.Fits(Record)) return;
-    Measured = true;
-    const QSize Room = maximumViewportSize();
-    Metrics.Measure(Record, font(), logicalDpiX(), Room.width());
-    if (Metrics.Size().height() > Room.height())
-        Metrics.Measure(Record, font(), logicalDpiX(),
-                        Room.width() - verticalScrollBar()->sizeHint().width());
+    constexpr int OneWordALine = 1;
+    HeadingsChanged = false;
+    const QFontMetrics Letters(HeadingFont(font()));
+    LeastWidths.clear();
+    for (int Col = 0; Col < Record.Cols(); ++Col) {
+        int Needed =
+            Letters.boundingRect({0, 0, OneWordALine, 0}, Qt::TextWordWrap, Model.Heading(Col)).width();
+        for (int Row = Model.HeadRows(); Col < Record.FixedCols && Row < Record.Rows(); ++Row)
+            Needed =
+                std::max(Needed, Letters.horizontalAdvance(QString::fromStdString(Record.Text(Row, Col))));
+        LeastWidths.push_back(std::max(Pixels(Record.ColWidth.at(static_cast<std::size_t>(Col))),
+                                       Needed + 2 * CellPadding + 1));
+    }
+    verticalHeader()->setVisible(Model.HeadCols() > 0);
+    verticalHeader()->setFixedWidth(WidthOf(0, Model.HeadCols()));
+    verticalHeader()->setDefaultSectionSize(
+        std::max(Pixels(Record.DataRowHeight), Letters.height() + CellPadding));
+    SpreadColumns();
+}
+
+int GridView::WidthOf(int FirstCol, int ColEnd) const
+{
+    return std::accumulate(LeastWidths.begin() + FirstCol, LeastWidths.begin() + ColEnd, 0);
+}
+
+// The columns that aren't fixed share what is left of the room, in proportion to their least widths, until
+// the user has sized one.
+void GridView::SpreadColumns()
+{
+    const QScopedValueRollback<bool> Guard(Sizing, true);
+    const int Heads = Model.HeadCols();
+    const int First = std::clamp(Record.FixedCols, Heads, Record.Cols());
+    const int Room = viewport()->width() - WidthOf(Heads, First);
+    const double Stretch = std::max(1.0, Room / std::max(1.0, double(WidthOf(First, Record.Cols()))));
+    for (int Col = Heads; !SizedByHand && Col < Record.Cols(); ++Col) {
+        const auto Left = [&](int Each) { return qRound(WidthOf(First, Each) * Stretch); };
+        setColumnWidth(Col - Heads, Col < First ? WidthOf(Col, Col + 1) : Left(Col + 1) - Left(Col));
+    }
+    SizeHeadings();
+}
+
+// As high as the told height, or as the heading with the most lines.
+void GridView::SizeHeadings()
+{
+    constexpr int AnyHeight = 10000;
+    const QFontMetrics Letters(HeadingFont(font()));
+    int Height = Pixels(Record.HeaderHeight + (Model.HeadRows() - 1) * Record.DataRowHeight);
+    for (int Col = Model.HeadCols(); Col < Record.Cols(); ++Col) {
+        const QRect Span = Model.Span(Model.HeadRows() - 1, Col);
+        int Room = -2 * CellPadding - 1;
+        for (int Each = Span.left(); Each <= Span.right(); ++Each)
+            Room += columnWidth(Each - Model.HeadCols());
+        const QRect Lines = Letters.boundingRect({0, 0, Room, AnyHeight}, Qt::AlignCenter | Qt::TextWordWrap,
+                                                 Model.Heading(Col));
+        Height = std::max(Height, Lines.height() + CellPadding);
+    }
+    horizontalHeader()->setFixedHeight(Height);
     updateGeometry(); // the layout reckons with rows and headings
 }
 
-// A bar that shows takes room of the other direction.
-void GridView::SetScrollRanges()
+int GridView::Pixels(int Twips) const
 {
-    const QSize Room = maximumViewportSize();
-    const int Bar = verticalScrollBar()->sizeHint().width();
-    const int Height = Metrics.Size().height();
-    bool Vertical = Height > Room.height();
-    const bool Horizontal = Metrics.NaturalWidth() > Room.width() - (Vertical ? Bar : 0);
-    Vertical = Vertical || (Horizontal && Height > Room.height() - Bar);
-    const QSize View = Room - QSize(Vertical ? Bar : 0, Horizontal ? Bar : 0);
-
-    verticalScrollBar()->setRange(0, std::max(0, Height - View.height()));
-    horizontalScrollBar()->setRange(0, std::max(0, Metrics.NaturalWidth() - View.width()));
-    verticalScrollBar()->setPageStep(std::max(1, View.height() - Metrics.FixedSize().height()));
-    horizontalScrollBar()->setPageStep(std::max(1, View.width() - Metrics.FixedSize().width()));
-    verticalScrollBar()->setSingleStep(Metrics.DataRowHeight());
-    horizontalScrollBar()->setSingleStep(Metrics.DataRowHeight());
+    constexpr int TwipsAnInch = 1440;
+    return Twips * logicalDpiX() / TwipsAnInch;
 }
 
-void GridView::Reveal(int Row, int Col)
+// The toolkit's current cell is the record's, and so is its selection.
+void GridView::ShowSelection()
 {
-    const QRect Pane = DataPane();
-    const QRect Cell = RectOf(Row, Col);
-    const auto Shift = [](QScrollBar& Bar, int First, int Last, int PaneFirst, int PaneLast) {
-        if (First < PaneFirst)
-            Bar.setValue(Bar.value() - (PaneFirst - First));
-        else if (Last > PaneLast)
-            Bar.setValue(Bar.value() + std::min(Last - PaneLast, First - PaneFirst));
-    };
-    Shift(*verticalScrollBar(), Cell.top(), Cell.bottom(), Pane.top(), Pane.bottom());
-    Shift(*horizontalScrollBar(), Cell.left(), Cell.right(), Pane.left(), Pane.right());
-}
-
-// The current cell may have been scrolled away.
-void GridView::BringUpCurrent()
-{
-    if (IsData(Current())) Reveal(Record.Row(), Record.Col());
+    const QScopedValueRollback<bool> Guard(Following, true);
+    const CellRange Chosen = Record.Selected();
+    selectionModel()->select(QItemSelection(Model.IndexOf(Chosen.FirstRow, Chosen.FirstCol),
+                                            Model.IndexOf(Chosen.LastRow, Chosen.LastCol)),
+                             QItemSelectionModel::ClearAndSelect);
+    selectionModel()->setCurrentIndex(Model.IsData(Current()) ? Current() : QModelIndex(),
+                                      QItemSelectionModel::NoUpdate);
+    viewport()->update();
     PlaceEditors();
 }
 
-void GridView::PlaceEditors()
+// The user has moved.
+void GridView::currentChanged(const QModelIndex& Now, const QModelIndex& Before)
 {
-    if (!IsData(Current())) return;
-    if (Editor && !Editor->isHidden()) {
-        Editor->setAlignment((IsNumberText(Editor->text(), false) ? Qt::AlignRight : Qt::AlignLeft) |
-                             Qt::AlignVCenter);
-        LayOver(*Editor);
-    }
-    if (List && !List->isHidden()) {
-        List->setPlaceholderText(QString::fromStdString(Record.Text(Record.Row(), Record.Col())).trimmed());
-        LayOver(*List);
-    }
-}
-
-// Exactly over the current cell; what is scrolled below the headings doesn't show.
-void GridView::LayOver(QWidget& View)
-{
-    const QRect Cell = RectOf(Record.Row(), Record.Col());
-    const QRect Seen = Cell & DataPane();
-    View.setGeometry(Cell);
-    if (Seen == Cell)
-        View.clearMask();
-    else if (!Seen.isEmpty())
-        View.setMask(Seen.translated(-Cell.topLeft()));
-    else
-        View.move(-2 * Cell.width(), -2 * Cell.height());
-}
-
-int GridView::ViewX(int Col) const
-{
-    return Metrics.Left(Col) - (Col < Record.FixedCols ? 0 : horizontalScrollBar()->value());
-}
-
-int GridView::ViewY(int Row) const
-{
-    return Metrics.Top(Row) - (Row < Record.FixedRows ? 0 : verticalScrollBar()->value());
-}
-
-QRect GridView::RectOf(int Row, int Col) const
-{
-    const ColSpan Span = MergedCols(Record, Row, Col);
-    const int Right = ViewX(Span.Last) + Metrics.Left(Span.Last + 1) - Metrics.Left(Span.Last);
-    const int Height = Metrics.Top(Row + 1) - Metrics.Top(Row);
-    return {QPoint(ViewX(Span.First), ViewY(Row)), QSize(Right - ViewX(Span.First), Height)};
+    QTableView::currentChanged(Now, Before);
+    if (!Following && Model.IsData(Now)) GoTo(Now);
 }
 
 QRect GridView::CellRect(int Row, int Col)
 {
     Settle();
-    return RectOf(Row, Col);
+    return visualRect(Model.IndexOf(Row, Col));
 }
 
-QRect GridView::DataPane() const
+bool GridView::HasCursor() const
 {
-    const QSize Fixed = Metrics.FixedSize();
-    return viewport()->rect().adjusted(Fixed.width(), Fixed.height(), 0, 0);
+    return hasFocus() || (Editor && Editor->hasFocus());
 }
 
-GridView::Place GridView::CellAt(QPoint Position) const
+// The current cell may have been scrolled away.
+void GridView::BringUpCurrent()
 {
-    const QSize Fixed = Metrics.FixedSize();
-    const int X = Position.x() + (Position.x() < Fixed.width() ? 0 : horizontalScrollBar()->value());
-    const int Y = Position.y() + (Position.y() < Fixed.height() ? 0 : verticalScrollBar()->value());
-    return {Metrics.RowAt(Y), Metrics.ColAt(X)};
+    scrollTo(currentIndex());
+    PlaceEditors();
 }
 
-GridView::Place GridView::DataCellNear(QPoint Position) const
+void GridView::PlaceEditors()
 {
-    const Place Cell = CellAt(Position);
-    return {std::clamp(Cell.Row, Record.FixedRows, Record.Rows() - 1),
-            std::clamp(Cell.Col, Record.FixedCols, Record.Cols() - 1)};
-}
-
-bool GridView::IsData(Place Cell) const
-{
-    return Cell.Row < Record.Rows() && Cell.Col < Record.Cols() && !IsFixedCell(Record, Cell.Row, Cell.Col);
-}
-
-bool GridView::IsSelected(int Row, int Col) const
-{
-    const auto [FirstRow, LastRow] = std::minmax({Record.Row(), Extent.Row});
-    const auto [FirstCol, LastCol] = std::minmax({Record.Col(), Extent.Col});
-    return Row >= FirstRow && Row <= LastRow && Col >= FirstCol && Col <= LastCol;
-}
-
-QString GridView::SelectedText() const
-{
-    if (!IsData(Current())) return {};
-    const auto [FirstRow, LastRow] = std::minmax({Record.Row(), Extent.Row});
-    const auto [FirstCol, LastCol] = std::minmax({Record.Col(), Extent.Col});
-    QStringList Lines;
-    for (int Row = FirstRow; Row <= LastRow; ++Row) {
-        QStringList Cells;
-        for (int Col = FirstCol; Col <= LastCol; ++Col)
-            Cells += QString::fromStdString(Record.Text(Row, Col)).trimmed();
-        Lines += Cells.join('\t');
+    if (!currentIndex().isValid()) return;
+    const QRect Cell = visualRect(currentIndex());
+    if (Editor && !Editor->isHidden()) {
+        Editor->setAlignment((IsNumberText(Editor->text(), false) ? Qt::AlignRight : Qt::AlignLeft) |
+                             Qt::AlignVCenter);
+        Editor->setGeometry(Cell);
     }
-    return Lines.join('\n');
+    if (List && !List->isHidden()) {
+        List->setPlaceholderText(currentIndex().data().toString());
+        List->setGeometry(Cell);
+    }
 }
 
-void GridView::TellCursor()
+void GridView::updateEditorGeometries()
 {
-    if (hasFocus()) AnnounceCell(*this);
+    QTableView::updateEditorGeometries();
+    PlaceEditors();
+}
+
+void GridView::scrollContentsBy(int X, int Y)
+{
+    QTableView::scrollContentsBy(X, Y);
+    PlaceEditors();
 }
 
 QSize GridView::SizeFor(int DataRows) const
 {
-    GridMetrics Natural;
-    Natural.Measure(Record, font(), logicalDpiX(), 0);
-    const int Rows = std::min(Record.Rows() - Record.FixedRows, DataRows);
-    const int Height = Natural.FixedSize().height() + Rows * Natural.DataRowHeight();
-    const int Frame = 2 * frameWidth();
-    return {Natural.NaturalWidth() + verticalScrollBar()->sizeHint().width() + Frame, Height + Frame};
+    const int Rows = std::min(Model.rowCount(), DataRows);
+    return QSize(WidthOf(0, Record.Cols()) + verticalScrollBar()->sizeHint().width(),
+                 horizontalHeader()->minimumHeight() + Rows * verticalHeader()->defaultSectionSize()) +
+           QSize(2, 2) * frameWidth();
 }
 
 QSize GridView::sizeHint() const
@@ -267,51 +282,39 @@ QSize GridView::minimumSizeHint() const
 
 void GridView::resizeEvent(QResizeEvent* Resize)
 {
-    QAbstractScrollArea::resizeEvent(Resize);
-    Measured = false;
-    SettleSoon();
+    QTableView::resizeEvent(Resize);
+    if (!LeastWidths.empty()) SpreadColumns(); // not while the view is being put together
 }
 
 void GridView::showEvent(QShowEvent* Show)
 {
-    QAbstractScrollArea::showEvent(Show);
-    SettleSoon();
+    QTableView::showEvent(Show);
+    Settle();
+    BringUpCurrent();
 }
 
 void GridView::changeEvent(QEvent* Change)
 {
-    QAbstractScrollArea::changeEvent(Change);
+    QTableView::changeEvent(Change);
     if (Change->type() != QEvent::FontChange && Change->type() != QEvent::StyleChange) return;
-    Measured = false;
+    HeadingsChanged = true;
     SettleSoon();
 }
 
-void GridView::scrollContentsBy(int, int)
-{
-    PlaceEditors();
-    viewport()->update();
-}
-
 // The editors tell when they come, go, and have the focus.
-bool GridView::eventFilter(QObject* Watched, QEvent* Event)
+bool GridView::EditorEvent(QWidget& Over, QEvent& Event)
 {
-    if (Watched != Editor && Watched != List) return QAbstractScrollArea::eventFilter(Watched, Event);
-    auto* const Over = static_cast<QWidget*>(Watched);
-    switch (Event->type()) {
+    switch (Event.type()) {
     case QEvent::Show:
         Settle();
         BringUpCurrent();
         break;
     case QEvent::Hide:
         // The focus must not wander off with it, nor come back to it with the window.
-        if (Over->isHidden() && window()->focusWidget() == Over) setFocus();
-        break;
-    case QEvent::KeyPress:
-        HeldKey = SpecialKey(*static_cast<QKeyEvent*>(Event));
-        BringUpCurrent();
+        if (Over.isHidden() && window()->focusWidget() == &Over) setFocus();
         break;
     case QEvent::FocusIn:
-        if (Over == List && static_cast<QFocusEvent*>(Event)->reason() == Qt::OtherFocusReason) {
+        if (&Over == List && static_cast<QFocusEvent&>(Event).reason() == Qt::OtherFocusReason) {
             BringUpCurrent();
             QMetaObject::invokeMethod(List, &QComboBox::showPopup, Qt::QueuedConnection);
         }
@@ -320,22 +323,6 @@ bool GridView::eventFilter(QObject* Watched, QEvent* Event)
     default: break;
     }
     return false;
-}
-
-// A text that doesn't fit its cell shows in full as a tip.
-bool GridView::viewportEvent(QEvent* Event)
-{
-    if (Event->type() != QEvent::ToolTip) return QAbstractScrollArea::viewportEvent(Event);
-    const auto* const Help = static_cast<QHelpEvent*>(Event);
-    const Place Cell = CellAt(Help->pos());
-    QString Tip = toolTip();
-    if (IsData(Cell)) {
-        const QString Text = QString::fromStdString(Record.Text(Cell.Row, Cell.Col)).trimmed();
-        const int Room = RectOf(Cell.Row, Cell.Col).width() - 2 * CellPadding;
-        if (fontMetrics().horizontalAdvance(Text) > Room) Tip = Text;
-    }
-    QToolTip::showText(Help->globalPos(), Tip, viewport());
-    return true;
 }
 
 GridView* View(Grid& Record, TextBox& Editor, ComboBox* List)

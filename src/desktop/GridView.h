@@ -1,113 +1,107 @@
-// The view of a grid: it paints the cells, moves the current cell, and lays the editors over it.
+// The view of a grid: the toolkit's table on the grid's record, with the grid's editors laid over the current
+// cell. The record says which cell is current and what is selected; the view follows.
 #pragma once
 
-#include "desktop/GridMetrics.h"
+#include "desktop/GridModel.h"
+#include "desktop/GridPaint.h"
 
-#include <QAbstractScrollArea>
+#include <QTableView>
 
+#include <vector>
+
+class QAbstractButton;
 class QComboBox;
 class QKeyEvent;
 class QLineEdit;
-class QPainter;
 
 namespace velorix {
 
-class GridView : public QAbstractScrollArea {
+class GridView : public QTableView {
 public:
     GridView(Grid& Shown, TextBox* Editor, ComboBox* List);
 
     Grid& Table() const { return Record; }
+    const GridModel& Cells() const { return Model; }
 
-    struct Place {
-        int Row;
-        int Col;
-        bool operator==(const Place&) const = default;
-    };
-
-    // The cell at a position of the viewport; one past the last row or column where there is none.
-    Place CellAt(QPoint Position) const;
-
-    // The cell's place in the viewport, as the view is scrolled now. Cells that show as one share it.
+    // A cell's place in the viewport, as the view is scrolled now; empty for one in a header. Cells that show
+    // as one share it.
     QRect CellRect(int Row, int Col);
 
     // The view of the text box that lies over the current cell; nullptr when the grid has none.
     QLineEdit* EditorView() const { return Editor; }
     QComboBox* ListView() const { return List; }
 
+    // True while keys go to the current cell or to its editor.
+    bool HasCursor() const;
+
     // Where a menu over the grid opens: at the last press of the right button, or of the menu key.
     QPoint MenuPlace() const { return PopupPlace; }
-
-    // The selected cells, as a rule the current one alone: tab-separated, a line for each row.
-    QString SelectedText() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    // The grid scrolls until the cell is in sight.
-    void Reveal(int Row, int Col);
-
 protected:
     bool eventFilter(QObject* Watched, QEvent* Event) override;
-    bool viewportEvent(QEvent* Event) override;
-    void paintEvent(QPaintEvent* Paint) override;
+    void currentChanged(const QModelIndex& Now, const QModelIndex& Before) override;
+    void updateEditorGeometries() override;
+    void scrollContentsBy(int X, int Y) override;
     void resizeEvent(QResizeEvent* Resize) override;
     void showEvent(QShowEvent* Show) override;
     void changeEvent(QEvent* Change) override;
-    void scrollContentsBy(int X, int Y) override;
     void keyPressEvent(QKeyEvent* Key) override;
     void keyReleaseEvent(QKeyEvent* Key) override;
     void mousePressEvent(QMouseEvent* Press) override;
     void mouseMoveEvent(QMouseEvent* Move) override;
+    void mouseReleaseEvent(QMouseEvent* Release) override;
     void mouseDoubleClickEvent(QMouseEvent* Press) override;
     void contextMenuEvent(QContextMenuEvent* Event) override;
-    void focusInEvent(QFocusEvent* Focus) override;
     void focusOutEvent(QFocusEvent* Focus) override;
 
 private:
-    // Everything in its place again, after code has changed the grid: at once, or when the event has ended.
+    void TakeHeaders();
+    void TakeEditor(QWidget* Over);
+
+    // Everything as the record has it, after code has changed the grid: at once, or when the event has ended.
     void Settle();
     void SettleSoon();
     void Measure();
-    void SetScrollRanges();
-    void PlaceEditors();
-    void BringUpCurrent();
-    void LayOver(QWidget& View);
-
+    void SpreadColumns();
+    void SizeHeadings();
+    int WidthOf(int FirstCol, int ColEnd) const;
+    int Pixels(int Twips) const;
     QSize SizeFor(int DataRows) const;
+    void ShowSelection();
 
-    // In the viewport, as it is scrolled now.
-    int ViewX(int Col) const;
-    int ViewY(int Row) const;
-    QRect RectOf(int Row, int Col) const;
-    QRect DataPane() const;
-    Place DataCellNear(QPoint Position) const;
+    bool EditorEvent(QWidget& Over, QEvent& Event);
+    void BringUpCurrent();
+    void PlaceEditors();
 
-    Place Current() const { return {Record.Row(), Record.Col()}; }
-    bool IsData(Place Cell) const;
-    bool IsSelected(int Row, int Col) const;
-    bool SelectsSeveral() const { return !(Extent == Current()); }
+    QModelIndex Current() const { return Model.IndexOf(Record.Row(), Record.Col()); }
+    QModelIndex DataCellNear(QPoint Position) const;
+    void GoTo(const QModelIndex& Cell);
+    void ExtendTo(const QModelIndex& Corner);
+    void SelectHeads(const QHeaderView* Header, int Section);
+    void SelectAllCells();
 
-    void PaintPane(QPainter& Painter, const QRect& Pane, Place First);
-    void PaintCell(QPainter& Painter, int Row, int Col);
-    void PaintCursor(QPainter& Painter);
-
+    bool PressCommand(const QKeyEvent& Key);
     void PressKey(QKeyEvent& Key);
-    bool Extend(const QKeyEvent& Key);
-    void ExtendTo(Place Corner);
+    void Move(QKeyEvent& Key);
     void OpenMenu(QPoint OnScreen);
-    void TellCursor();
 
     Grid& Record;
+    GridModel Model;
     QLineEdit* const Editor;
     QComboBox* const List;
-    GridMetrics Metrics;
-    bool Measured = false;
+    QAbstractButton* HeadCorner = nullptr; // where the headers meet
+    std::vector<int> LeastWidths;          // of the grid's columns, without what they are stretched by
     bool SettlePending = false;
-    Place Revealed{-1, -1}; // the current cell that was last brought into sight
-    Place Extent{0, 0};     // the corner of the selection that lies opposite to the current cell
-    int ToldRows = 0;       // the number of rows that assistive tools know of
-    int HeldKey = 0;        // the special key that went down over the grid or its editor
-    QPoint PopupPlace;      // on the screen
+    bool HeadingsChanged = true;
+    bool Following = false;   // the view is on its way to the record's selection
+    bool Sizing = false;      // the columns are taking their widths
+    bool SizedByHand = false; // from then on they keep them
+    int HeadAnchor = 0;       // the section on which a selection of whole rows or columns has begun
+    int HeldKey = 0;          // the special key that went down over the grid or its editor
+    QPoint PopupPlace;        // on the screen
 };
 
 } // namespace velorix

@@ -2,30 +2,13 @@
 #include "hydraulics/DutyPoint.h"
 
 #include "base/Arithmetic.h"
-#include "hydraulics/Formulas.h"
+#include "hydraulics/HydraulicResults.h"
 #include "hydraulics/SystemCurve.h"
 #include "model/WorkingSet.h"
-#include "platform/Platform.h"
-#include "screens/DutyPointScreen.h"
 
 #include <cmath>
 
 namespace velorix {
-
-Single OperatingFlow;
-Array1<Single, CurvePoints> SystemHead;
-std::int16_t AnalysisYear = 0;
-SystemCurves SystemHeadByYear;
-SystemCurves SystemFlowByYear;
-Single DutyHead;
-Single DutyFlow;
-Single DutyEfficiencyPoint;
-Single DutyEfficiency;
-ByYear Efficiency;
-ByYear PumpHead;
-ByYear PumpFlow;
-ByYear PumpEfficiencyByYear;
-std::int16_t AnalysisAborted = 0;
 
 namespace {
 
@@ -103,35 +86,14 @@ bool PickPoint(const PumpCurvePoints& Pump, int Segment)
     return false;
 }
 
-void ReportNoDutyPoint()
-{
-    Warn("The pump curve does not intersect the system curve for year " + std::to_string(AnalysisYear),
-         "Error");
-    System().ShowModal(frmDutyPoint);
-    AnalysisAborted = -1;
-    ClearArithmeticFlags(); // the screens' own arithmetic is no part of the analysis
-}
-
 } // namespace
 
-void FindDutyPoint()
+bool FindDutyPoint()
 {
     StoreSystemCurve();
     const PumpCurvePoints Pump = PumpCurveInMetres();
     const int Segment = CrossedSegment(Pump);
-    if (Segment == 0 || !PickPoint(Pump, Segment)) ReportNoDutyPoint();
-}
-
-void ResetDutyPoint()
-{
-    for (Single* Scalar : {&OperatingFlow, &DutyHead, &DutyFlow, &DutyEfficiencyPoint, &DutyEfficiency})
-        *Scalar = 0;
-    for (ByYear* Yearly : {&Efficiency, &PumpHead, &PumpFlow, &PumpEfficiencyByYear}) Yearly->Fill(0);
-    SystemHead.Fill(0);
-    SystemHeadByYear.Fill(0);
-    SystemFlowByYear.Fill(0);
-    AnalysisYear = 0;
-    AnalysisAborted = 0;
+    return Segment != 0 && PickPoint(Pump, Segment);
 }
 
 } // namespace velorix

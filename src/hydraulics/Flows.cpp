@@ -6,21 +6,12 @@
 #include "hydraulics/DutyPoint.h"
 #include "hydraulics/Formulas.h"
 #include "hydraulics/GravityFlow.h"
+#include "hydraulics/PumpingHeads.h"
 #include "model/WorkingSet.h"
-#include "platform/Platform.h"
 
 #include <algorithm>
 
 namespace velorix {
-
-ByYear KsYear;
-ByRowAndYear Lambda;
-ByRowAndYear FrictionLoss;
-ByRowAndYear SecondaryHeadLoss;
-YearTable<Single, 0, MaxRows, MaxYears> Gradeline;
-ByYear Flow;
-std::int16_t HighPointAdjusted = 0;
-std::int16_t HydraulicsFailed = 0;
 
 namespace {
 
@@ -62,23 +53,11 @@ void StoreGravityGradeline(int Year)
     }
 }
 
-// Runs back from the downstream reservoir, and is lifted until no row lies more than a metre of head below
-// ground. Point i is the head at row i, point 0 the ground at the pump station.
+// Point 0 is the ground at the pump station.
 void StorePumpingGradeline(int Year)
 {
-    Gradeline(NodeCount, Year) = DownstreamLevel;
     Gradeline(0, Year) = wElevation[1];
-    for (int j = NodeCount - 1; j >= 1; --j)
-        Gradeline(j, Year) =
-            Checked(Gradeline(j + 1, Year) + FrictionLoss(j, Year) + SecondaryHeadLoss(j, Year));
-
-    Single Lowest = -1;
-    for (int j = 1; j <= NodeCount; ++j) {
-        const Single Pressure = Checked(Gradeline(j, Year) - wElevation[j]);
-        if (Ordered(Pressure) < Lowest) Lowest = Pressure;
-    }
-    if (Lowest >= -1) return;
-    for (int j = 1; j <= NodeCount; ++j) Gradeline(j, Year) = Checked(Gradeline(j, Year) - (Lowest + 1));
+    StorePumpingHeads(FrictionLoss.Year(Year), SecondaryHeadLoss.Year(Year), Gradeline.Year(Year));
 }
 
 void StorePumpingLosses(int Year)
@@ -97,14 +76,19 @@ void SolveGravity()
     }
 }
 
-void SolvePumpCurve()
+// The year without a duty point goes on with the flow that stands, and the loop ends in the next one.
+void SolvePumpCurve(const FlowEvents& Events)
 {
     for (int y = 1; y <= wLife; ++y) {
         StoreFrictionFactors(y);
         AnalysisYear = static_cast<std::int16_t>(y);
         if (AnalysisAborted != 0) return;
 
-        FindDutyPoint();
+        if (!FindDutyPoint()) {
+            if (Events.DutyPointMissing) Events.DutyPointMissing();
+            AnalysisAborted = -1;
+            ClearArithmeticFlags(); // what the event worked out is no part of the analysis
+        }
         Flow[y] = OperatingFlow;
         Efficiency[y] = DutyEfficiency;
         StorePumpingLosses(y);
@@ -124,7 +108,7 @@ void SolveGivenFlow()
     }
 }
 
-void SolveAllYears()
+void SolveAllYears(const FlowEvents& Events)
 {
     StoreRoughness();
     if (!IsPumping())
@@ -132,33 +116,21 @@ void SolveAllYears()
     else if (wPumpDetails == 0)
         SolveGivenFlow();
     else
-        SolvePumpCurve();
+        SolvePumpCurve(Events);
 }
 
 } // namespace
 
-void SolveFlows()
+void SolveFlows(const FlowEvents& Events)
 {
     HydraulicsFailed = 0;
     ClearArithmeticFlags();
     try {
-        SolveAllYears();
+        SolveAllYears(Events);
     } catch (const Failure&) {
         HydraulicsFailed = 1;
-        Warn("Could not determine the hydraulic gradeline. Please check input data", "Velorix Error");
+        if (Events.Failed) Events.Failed();
     }
-}
-
-void ResetFlows()
-{
-    KsYear.Fill(0);
-    Lambda.Fill(0);
-    FrictionLoss.Fill(0);
-    SecondaryHeadLoss.Fill(0);
-    Gradeline.Fill(0);
-    Flow.Fill(0);
-    HighPointAdjusted = 0;
-    HydraulicsFailed = 0;
 }
 
 } // namespace velorix

@@ -3,9 +3,9 @@
 
 #include "base/Arithmetic.h"
 #include "base/Arrays.h"
-#include "hydraulics/Flows.h"
 #include "hydraulics/Formulas.h"
 #include "hydraulics/HighPoint.h"
+#include "hydraulics/Normalise.h"
 #include "model/WorkingSet.h"
 
 #include <cmath>

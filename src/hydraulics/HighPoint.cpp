@@ -4,9 +4,9 @@
 #include "hydraulics/HighPoint.h"
 
 #include "base/Arithmetic.h"
-#include "hydraulics/Flows.h"
 #include "hydraulics/Formulas.h"
 #include "hydraulics/Kernels.h"
+#include "hydraulics/Normalise.h"
 #include "hydraulics/PressureRange.h"
 #include "model/WorkingSet.h"
 

@@ -1,7 +1,6 @@
 // Loss coefficients of a year.
 #include "hydraulics/LossCoefficients.h"
 
-#include "hydraulics/Flows.h"
 #include "hydraulics/Formulas.h"
 #include "model/WorkingSet.h"
 

@@ -1,7 +1,7 @@
 // A year's losses as coefficients of the squared flow, which need no division for each flow.
 #pragma once
 
-#include "hydraulics/Normalise.h"
+#include "hydraulics/HydraulicResults.h"
 
 #include <array>
 

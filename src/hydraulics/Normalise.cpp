@@ -10,21 +10,6 @@
 
 namespace velorix {
 
-Single UpstreamLevel;
-Single DownstreamLevel;
-std::int16_t ElevationFactor = 0;
-ByRow InternalDiameter;
-Single LiningLoss;
-ByRow SectionLength;
-Single KsNewM;
-Single KsOldM;
-Single DemandFactor;
-ByYear DemandFlow;
-Single HeadFactor;
-Single FlowFactor;
-Single OperatingFlowFactor;
-Single WaterSalesFactor;
-
 namespace {
 
 // A unit index outside its list leaves the target as it was, here and in Store.
@@ -137,17 +122,6 @@ void NormaliseInputs()
 double StaticHead(int Section)
 {
     return UpstreamLevel - ElevationFactor * wElevation[Section + 1];
-}
-
-void ResetNormalise()
-{
-    for (Single* Scalar : {&UpstreamLevel, &DownstreamLevel, &LiningLoss, &KsNewM, &KsOldM, &DemandFactor,
-                           &HeadFactor, &FlowFactor, &OperatingFlowFactor, &WaterSalesFactor})
-        *Scalar = 0;
-    ElevationFactor = 0;
-    InternalDiameter.Fill(0);
-    SectionLength.Fill(0);
-    DemandFlow.Fill(0);
 }
 
 } // namespace velorix

@@ -1,8 +1,8 @@
 // Interval arithmetic on the plain formulas.
 #include "hydraulics/PressureRange.h"
 
-#include "hydraulics/Flows.h"
 #include "hydraulics/Formulas.h"
+#include "hydraulics/Normalise.h"
 #include "model/WorkingSet.h"
 
 #include <algorithm>

@@ -2,10 +2,9 @@
 #include "hydraulics/SystemCurve.h"
 
 #include "base/Arithmetic.h"
-#include "hydraulics/DutyPoint.h"
-#include "hydraulics/Flows.h"
 #include "hydraulics/Formulas.h"
 #include "hydraulics/Kernels.h"
+#include "hydraulics/PumpingHeads.h"
 #include "model/WorkingSet.h"
 
 #include <algorithm>
@@ -22,17 +21,6 @@ double GridFlow(int Point)
     return (First + (Last - First) * Point / CurvePoints) * FlowFactor;
 }
 
-// Lowest row's pressure head, but -1 at the most.
-Single LowestPressure(const ByRow& Head)
-{
-    Single Lowest = -1;
-    for (int j = 1; j <= NodeCount; ++j) {
-        const Single Pressure = Checked(Head[j] - wElevation[j]);
-        if (Ordered(Pressure) < Lowest) Lowest = Pressure;
-    }
-    return Lowest;
-}
-
 // System head at the flow Q (m), each quantity stored where its step ends.
 Single PlainSystemHead(Single Q)
 {
@@ -43,13 +31,8 @@ Single PlainSystemHead(Single Q)
         Secondary[i] = Checked(SecondaryHead(Q, D, wSecondaryLoss[i]));
     }
 
-    ByRow Head;
-    Head[NodeCount] = DownstreamLevel;
-    for (int j = NodeCount - 1; j >= 1; --j) Head[j] = Checked(Head[j + 1] + Friction[j] + Secondary[j]);
-
-    const Single Lowest = LowestPressure(Head);
-    if (Lowest < -1)
-        for (int j = 1; j <= NodeCount; ++j) Head[j] = Checked(Head[j] - (Lowest + 1));
+    HeadList Head;
+    StorePumpingHeads(Friction, Secondary, Head);
     return Checked(Head[1] - UpstreamLevel);
 }
 

@@ -2,19 +2,10 @@
 #include "hydraulics/YearlySupply.h"
 
 #include "base/Arithmetic.h"
-#include "hydraulics/DutyPoint.h"
-#include "hydraulics/Flows.h"
-#include "hydraulics/Formulas.h"
+#include "hydraulics/HydraulicResults.h"
 #include "model/WorkingSet.h"
 
 namespace velorix {
-
-ByYear Shortage;
-ByYear PumpingHours;
-Single CntOffpeakS, CntStandardS, CntPeakS;
-Single CntOffpeakW, CntStandardW, CntPeakW;
-ByYear HoursOffpeakS, HoursStandardS, HoursPeakS;
-ByYear HoursOffpeakW, HoursStandardW, HoursPeakW;
 
 namespace {
 
@@ -116,15 +107,6 @@ void SplitPumpingHours()
         HoursStandardW[y] = RunningW.Standard;
         HoursPeakW[y] = RunningW.Peak;
     }
-}
-
-void ResetYearlySupply()
-{
-    for (ByYear* Yearly : {&Shortage, &PumpingHours, &HoursOffpeakS, &HoursStandardS, &HoursPeakS,
-                           &HoursOffpeakW, &HoursStandardW, &HoursPeakW})
-        Yearly->Fill(0);
-    for (Single* Count : {&CntOffpeakS, &CntStandardS, &CntPeakS, &CntOffpeakW, &CntStandardW, &CntPeakW})
-        *Count = 0;
 }
 
 } // namespace velorix

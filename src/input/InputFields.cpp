@@ -112,8 +112,7 @@ InputField Table(Use When, void (*Fill)(), int Place, void (*Read)(), OptionButt
     return {.When = When, .Show = Fill, .Asked = {Place, {}, Under, Read}};
 }
 
-InputField Own(
-    Use When, void (*Show)(), void (*Take)() = [] {})
+InputField Own(Use When, void (*Show)(), void (*Take)() = nullptr)
 {
     return {.When = When, .Show = Show, .Take = Take};
 }

@@ -35,17 +35,6 @@ Array1<Single, 500>& ColumnArray(int Col)
     }
 }
 
-// The node count that the arrays spell.
-int CountNodes()
-{
-    for (int Row = 1; Row <= wElevation.LastIndex; ++Row) {
-        const bool Zero = wElevation[Row] == 0.0 && wAccLength[Row] == 0.0;
-        const bool Unused = wElevation[Row] == UnusedNode && wAccLength[Row] == UnusedNode;
-        if (Zero || Unused) return std::max(Row - 1, LeastNodes);
-    }
-    return wElevation.LastIndex - 1;
-}
-
 void CopyCells(int From, int To, int FirstCol, int LastCol)
 {
     for (int Col = FirstCol; Col <= LastCol; ++Col)

@@ -3,6 +3,8 @@
 
 #include "base/Text.h"
 
+#include <algorithm>
+
 namespace velorix {
 
 #define VELORIX_INT16(Name, Offset, Count, ...) FieldOf<std::int16_t, Count> w##Name{};
@@ -60,6 +62,24 @@ void CopyWorkingSetToRecord()
     ForEachWorkingField([](const FieldRule& Rule, auto& Stored, const auto& Working) {
         if (IsStored(Rule)) Copy(Working, Stored);
     });
+}
+
+int CountNodes()
+{
+    constexpr int LeastNodes = 2;
+    for (int Row = 1; Row <= wElevation.LastIndex; ++Row) {
+        const bool Zero = wElevation[Row] == 0.0 && wAccLength[Row] == 0.0;
+        const bool Unused = wElevation[Row] == UnusedNode && wAccLength[Row] == UnusedNode;
+        if (Zero || Unused) return std::max(Row - 1, LeastNodes);
+    }
+    return wElevation.LastIndex - 1;
+}
+
+void OpenRecord(const ProjectFields& Record)
+{
+    ProjectRecord = Record;
+    CopyRecordToWorkingSet();
+    NodeCount = CountNodes();
 }
 
 void ResetWorkingSet()

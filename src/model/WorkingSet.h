@@ -48,6 +48,13 @@ void CopyRecordToWorkingSet();
 // in the record as it was when the working set holds a gravity system.
 void CopyWorkingSetToRecord();
 
+// The number of nodes that the profile arrays of the working set spell: up to the first row of zeros or of
+// UnusedNode, 2 at the least.
+int CountNodes();
+
+// Makes the record the open project: ProjectRecord, working set and NodeCount.
+void OpenRecord(const ProjectFields& Record);
+
 void ResetWorkingSet();
 
 } // namespace velorix

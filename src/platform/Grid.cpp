@@ -2,7 +2,7 @@
 #include "platform/Grid.h"
 
 #include "base/Failure.h"
-#include "platform/Keys.h"
+#include "base/Text.h"
 
 #include <algorithm>
 
@@ -14,9 +14,12 @@ Grid::Grid(int DesignRows, int DesignCols, std::string Hint)
     , ColCount(DesignCols)
 {
     SetRows(DesignRows);
-    Keep(ColWidth, HeaderHeight, DataRowHeight, FixedRows, FixedCols, MergeEqualCells, Cells, CurrentRow,
-         CurrentCol);
-    DesignIsBack = [this] { ShapeView(); };
+    Keep(ColWidth, HeaderHeight, DataRowHeight, FixedRows, FixedCols, HeadingRows, MergeEqualCells, MergeCols,
+         Cells, CurrentRow, CurrentCol, ExtentRow, ExtentCol);
+    DesignIsBack = [this] {
+        History.clear();
+        ShapeView();
+    };
 }
 
 GridCell& Grid::At(int Row, int Col)
@@ -36,7 +39,8 @@ void Grid::SetRows(int Count)
     if (Count < 0) throw SubscriptFailure(Count, 0, 32767);
     if (Count == Rows()) return;
     Cells.resize(static_cast<std::size_t>(Count), std::vector<GridCell>(static_cast<std::size_t>(ColCount)));
-    CurrentRow = std::clamp(CurrentRow, 0, std::max(0, Count - 1));
+    PutCurrent(std::clamp(CurrentRow, 0, std::max(0, Count - 1)), CurrentCol);
+    History.clear();
     ShapeView();
 }
 
@@ -54,12 +58,6 @@ void Grid::SetBackColor(int Row, int Col, Color BackColor)
     CellView(Row, Col);
 }
 
-void Grid::SetBold(int Row, int Col, bool Bold)
-{
-    At(Row, Col).Bold = Bold;
-    CellView(Row, Col);
-}
-
 int Grid::RowHeight(int Row) const
 {
     return Row == 0 ? HeaderHeight : DataRowHeight;
@@ -70,31 +68,50 @@ void Grid::Select(int Row, int Col)
     if (Row == CurrentRow && Col == CurrentCol) return;
     At(Row, Col);
     LeaveCell();
-    CurrentRow = Row;
-    CurrentCol = Col;
+    PutCurrent(Row, Col);
     ShapeView();
     EnterCell();
 }
 
-bool Grid::Navigate(int Key)
+void Grid::PutCurrent(int Row, int Col)
 {
-    constexpr int Page = 10;
-    int NewRow = CurrentRow;
-    int NewCol = CurrentCol;
-    switch (Key) {
-    case Keys::Left: --NewCol; break;
-    case Keys::Right: ++NewCol; break;
-    case Keys::Up: --NewRow; break;
-    case Keys::Down: ++NewRow; break;
-    case Keys::PageUp: NewRow -= Page; break;
-    case Keys::PageDown: NewRow += Page; break;
-    case Keys::Home: NewCol = 0; break;
-    case Keys::End: NewCol = ColCount; break;
-    default: return false;
-    }
-    if (Rows() <= FixedRows || ColCount <= FixedCols) return true;
-    Select(std::clamp(NewRow, FixedRows, Rows() - 1), std::clamp(NewCol, FixedCols, ColCount - 1));
-    return true;
+    CurrentRow = ExtentRow = Row;
+    CurrentCol = ExtentCol = Col;
+}
+
+bool Grid::IsHeadingRow(int Row) const
+{
+    return std::find(HeadingRows.begin(), HeadingRows.end(), Row) != HeadingRows.end();
+}
+
+void Grid::SelectTo(int Row, int Col)
+{
+    At(Row, Col);
+    ExtentRow = Row;
+    ExtentCol = Col;
+    ShapeView();
+}
+
+CellRange Grid::Selected() const
+{
+    const auto [FirstRow, LastRow] = std::minmax({CurrentRow, ExtentRow});
+    const auto [FirstCol, LastCol] = std::minmax({CurrentCol, ExtentCol});
+    return {FirstRow, FirstCol, LastRow, LastCol};
+}
+
+std::string Grid::SelectedText() const
+{
+    CellRange Range = Selected();
+    if (Range.LastRow >= Rows() || IsFixed(Range.FirstRow, Range.FirstCol)) return {};
+    const bool WholeCols = Range.FirstRow == FixedRows && Range.LastRow == Rows() - 1;
+    const bool WholeRows = Range.FirstCol == FixedCols && Range.LastCol == ColCount - 1;
+    if (!Paste && WholeCols) Range.FirstRow = 0;
+    if (!Paste && WholeCols && WholeRows) Range.FirstCol = 0;
+    std::string Lines;
+    for (int Row = Range.FirstRow; Row <= Range.LastRow; ++Row)
+        for (int Col = Range.FirstCol; Col <= Range.LastCol; ++Col)
+            Lines.append(Trimmed(Text(Row, Col))) += Col < Range.LastCol ? '\t' : '\n';
+    return Lines;
 }
 
 } // namespace velorix

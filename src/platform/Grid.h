@@ -11,8 +11,27 @@ namespace velorix {
 struct GridCell {
     std::string Text;
     Color BackColor = WindowColor;
-    bool Bold = false;
     bool operator==(const GridCell&) const = default;
+};
+
+// A cell's place and what it held or is to hold.
+struct CellText {
+    int Row;
+    int Col;
+    std::string Text;
+};
+
+// Neighbouring cells, both ends included.
+struct CellRange {
+    int FirstRow;
+    int FirstCol;
+    int LastRow;
+    int LastCol;
+
+    bool Holds(int Row, int Col) const
+    {
+        return Row >= FirstRow && Row <= LastRow && Col >= FirstCol && Col <= LastCol;
+    }
 };
 
 // Rows and columns count from 0, the fixed ones included. A cell outside the grid throws SubscriptFailure.
@@ -30,7 +49,6 @@ struct Grid : Control {
     void SetText(int Row, int Col, std::string Text);
     const GridCell& Cell(int Row, int Col) const { return At(Row, Col); }
     void SetBackColor(int Row, int Col, Color BackColor);
-    void SetBold(int Row, int Col, bool Bold);
 
     int RowHeight(int Row) const;
     int HeaderHeight = 0;  // row 0
@@ -39,7 +57,9 @@ struct Grid : Control {
 
     int FixedRows = 1;
     int FixedCols = 0;
+    std::vector<int> HeadingRows; // rows below the fixed ones that hold headings and can't be edited
     bool MergeEqualCells = false; // neighbouring equal cells of a row show as one
+    std::vector<int> MergeCols;   // columns in which those of neighbouring rows do so too
 
     int Row() const { return CurrentRow; }
     int Col() const { return CurrentCol; }
@@ -48,9 +68,16 @@ struct Grid : Control {
     // when the cell is current already.
     void Select(int Row, int Col);
 
-    // What a grid does by itself with a pressed key (platform/Keys.h): arrows, Home, End and the page keys
-    // move the current cell inside the cells that aren't fixed. False for any other key.
-    bool Navigate(int Key);
+    bool IsFixed(int Row, int Col) const { return Row < FixedRows || Col < FixedCols; }
+    bool IsHeadingRow(int Row) const;
+
+    // The selection: the current cell alone until SelectTo reaches from it to another cell.
+    void SelectTo(int Row, int Col);
+    CellRange Selected() const;
+
+    // The selected cells as spreadsheets take them: a tab between two cells, a line end behind each row. A
+    // grid that takes no paste puts the headings of whole columns before them.
+    std::string SelectedText() const;
 
     Handler EnterCell;
     Handler LeaveCell;
@@ -59,11 +86,17 @@ struct Grid : Control {
     KeyHandler KeyUp;
     Event<int> MouseDown; // the button: 1 left, 2 right on a data cell, 4 any other press
     Handler DblClick;     // with the left button, on the current cell
+    Handler Paste;        // the keys of these two commands
+    Handler Undo;
 
     Event<int, int> CellView; // tells the attached view that a cell has changed
-    Handler ShapeView;        // tells it that rows or the current cell have, or all at once
+    Handler ShapeView;        // tells it that rows, the current cell or the selection have, or all at once
+
+    // What undoing brings back, newest last; kept by the domain. It goes with any change of the rows.
+    std::vector<std::vector<CellText>> History;
 
 private:
+    void PutCurrent(int Row, int Col);
     GridCell& At(int Row, int Col);
     const GridCell& At(int Row, int Col) const;
 
@@ -71,6 +104,8 @@ private:
     std::vector<std::vector<GridCell>> Cells;
     int CurrentRow = 0;
     int CurrentCol = 0;
+    int ExtentRow = 0; // the corner of the selection that lies opposite to the current cell
+    int ExtentCol = 0;
 };
 
 } // namespace velorix

@@ -2,8 +2,8 @@
 #include "results/CostTable.h"
 
 #include "base/Format.h"
-#include "cost/AnnualCosts.h"
 #include "cost/CapitalCost.h"
+#include "cost/CostResults.h"
 #include "input/InputScreen.h"
 #include "model/WorkingSet.h"
 #include "screens/Results.h"

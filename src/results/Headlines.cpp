@@ -2,8 +2,7 @@
 #include "results/Headlines.h"
 
 #include "base/Format.h"
-#include "cost/PresentValue.h"
-#include "cost/RateOfReturn.h"
+#include "cost/CostResults.h"
 #include "input/InputScreen.h"
 #include "model/WorkingSet.h"
 #include "screens/Results.h"

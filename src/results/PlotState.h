@@ -1,7 +1,7 @@
 // What the profile and gradeline plots show: the profile as they hold it, the year and the range.
 #pragma once
 
-#include "hydraulics/Normalise.h"
+#include "hydraulics/HydraulicResults.h"
 
 namespace velorix {
 

@@ -56,8 +56,7 @@ LccScreen::LccScreen()
     SetGrid(msgOperational, {1600, 1900, 1900});
     SetGrid(msgOtherOperational, {2500, 1900});
     msgLaying.MergeEqualCells = true;
-    for (int Heading : {9, 10})
-        for (int Col : {0, 1}) msgLaying.SetBold(Heading, Col, true);
+    msgLaying.HeadingRows = {9, 10};
 
     constexpr int LongestCell = 40;
     for (TextBox* Each :

@@ -16,6 +16,7 @@ ResultsScreen::ResultsScreen()
     msgAnnualCost.ColWidth = {2350, 1250, 1850};
     msgAnnualCost.DataRowHeight = msgAnnualCost.HeaderHeight = 350;
     msgAnnualCost.MergeEqualCells = true;
+    msgAnnualCost.MergeCols = {0, 1};
     DesignEnds();
 }
 

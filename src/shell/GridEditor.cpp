@@ -11,6 +11,7 @@
 #include "platform/Platform.h"
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
+#include "shell/GridPaste.h"
 
 #include <algorithm>
 #include <array>
@@ -42,21 +43,24 @@ bool Contains(const std::vector<int>& Numbers, int Number)
     return std::find(Numbers.begin(), Numbers.end(), Number) != Numbers.end();
 }
 
-bool OnDataCell(const Grid& Table)
+bool OnHeading(const Grid& Table)
 {
-    return Table.Row() >= Table.FixedRows && Table.Col() >= Table.FixedCols;
+    return Table.IsFixed(Table.Row(), Table.Col());
+}
+
+CellKind KindAtCursor(const CellEditing& Editing)
+{
+    return KindOf(Editing, Editing.Table.Row(), Editing.Table.Col());
 }
 
 bool OnListCell(const CellEditing& Editing)
 {
-    return Editing.List && OnDataCell(Editing.Table) && Editing.Table.Col() == Editing.ListCol;
+    return KindAtCursor(Editing) == CellKind::Choice;
 }
 
 bool OnEditableCell(const CellEditing& Editing)
 {
-    const Grid& Table = Editing.Table;
-    return OnDataCell(Table) && Contains(Editing.EditableCols, Table.Col()) &&
-           !Contains(Editing.ClosedRows, Table.Row());
+    return KindAtCursor(Editing) == CellKind::Number;
 }
 
 const std::string& CurrentText(const Grid& Table)
@@ -64,12 +68,10 @@ const std::string& CurrentText(const Grid& Table)
     return Table.Text(Table.Row(), Table.Col());
 }
 
-// Everything that the user does to a cell ends here.
-void Write(Grid& Table, std::string Text)
+// What is typed into a cell or chosen for it ends here.
+void Write(const CellEditing& Editing, std::string Text)
 {
-    if (Text == CurrentText(Table)) return;
-    MarkChanged();
-    Table.SetText(Table.Row(), Table.Col(), std::move(Text));
+    ChangeCells(Editing, {{Editing.Table.Row(), Editing.Table.Col(), std::move(Text)}});
 }
 
 // The list shows the cell's own entry, or none when the cell holds another text.
@@ -120,12 +122,24 @@ void OpenEditor(const CellEditing& Editing)
 // Writes the editor's text into the cell and closes the editor.
 void Commit(const CellEditing& Editing)
 {
-    Write(Editing.Table, Editing.Editor.Text);
+    Write(Editing, Editing.Editor.Text);
     Editing.Editor.Visible = false;
+}
+
+// A command that may change the current cell among others.
+void Run(const CellEditing& Editing, void (*Command)(const CellEditing&))
+{
+    Editing.Editor.Visible = false;
+    Command(Editing);
+    if (OnListCell(Editing)) FillList(Editing);
 }
 
 void KeyDownInGrid(const CellEditing& Editing, int& Key)
 {
+    if (Key == Keys::Delete) {
+        Key = 0;
+        return Run(Editing, EraseCells);
+    }
     if (Key != Keys::F2 || !OnEditableCell(Editing)) return;
     if (!Contains(Editing.FilteredInGrid, Editing.Table.Col())) return;
     Key = 0;
@@ -154,7 +168,7 @@ void KeyPressInGrid(const CellEditing& Editing, int& Key)
     const auto Code = static_cast<char32_t>(Typed);
     if (!OnEditableCell(Editing) || !InCodePage(Code)) return;
     if (Contains(Editing.FilteredInGrid, Table.Col()) && !IsCellNumberKey(Typed)) return;
-    Write(Table, Erases ? WithoutLastCharacter(CurrentText(Table)) : Utf8Of(Code));
+    Write(Editing, Erases ? WithoutLastCharacter(CurrentText(Table)) : Utf8Of(Code));
     OpenEditor(Editing);
 }
 
@@ -163,7 +177,7 @@ void MouseDownInGrid(const CellEditing& Editing, int Button)
 {
     constexpr int RightButton = 2;
     Editing.Editor.Visible = false;
-    if (Button == RightButton && Editing.Menu && OnDataCell(Editing.Table)) Editing.Menu->Visible = true;
+    if (Button == RightButton && Editing.Menu && !OnHeading(Editing.Table)) Editing.Menu->Visible = true;
 }
 
 // What else is typed reaches the cell by the editor's Change.
@@ -223,7 +237,7 @@ void KeyDownInEditor(const CellEditing& Editing, int& Key)
 // editor is left.
 void EditorChanged(const CellEditing& Editing)
 {
-    if (Editing.Editor.Visible) Write(Editing.Table, Editing.Editor.Text);
+    if (Editing.Editor.Visible) Write(Editing, Editing.Editor.Text);
 }
 
 // Filled anew, the list shows what the cell then holds.
@@ -231,7 +245,7 @@ void EntryChosen(const CellEditing& Editing)
 {
     const ComboBox& List = *Editing.List;
     if (List.ListIndex < 0 || !OnListCell(Editing)) return;
-    Write(Editing.Table, List.Text());
+    Write(Editing, List.Text());
     FillList(Editing);
 }
 
@@ -261,8 +275,7 @@ const std::array<CellEditing, 6> InputGrids = {{
      .Editor = frmLCC.txtLaying,
      .EditableCols = {1},
      .FilteredInGrid = {1},
-     .FilteredInEditor = {1},
-     .ClosedRows = {9, 10}},
+     .FilteredInEditor = {1}},
     {.Table = frmLCC.msgOperational,
      .Editor = frmLCC.txtCellOperational,
      .EditableCols = {1, 2},
@@ -288,7 +301,7 @@ const std::array<CellEditing, 6> InputGrids = {{
 void Settle(const CellEditing& Editing)
 {
     Editing.Editor.Visible = false;
-    if (OnDataCell(Editing.Table)) TakeCurrentCell(Editing);
+    if (!OnHeading(Editing.Table)) TakeCurrentCell(Editing);
 }
 
 void SettleAll()
@@ -296,13 +309,26 @@ void SettleAll()
     for (const CellEditing& Each : InputGrids) Settle(Each);
 }
 
+void AllFilled()
+{
+    for (const CellEditing& Each : InputGrids) Each.Table.History.clear();
+    SettleAll();
+}
+
 } // namespace
+
+CellKind KindOf(const CellEditing& Editing, int Row, int Col)
+{
+    if (Editing.Table.IsFixed(Row, Col) || Editing.Table.IsHeadingRow(Row)) return CellKind::Closed;
+    if (Editing.List && Col == Editing.ListCol) return CellKind::Choice;
+    return Contains(Editing.EditableCols, Col) ? CellKind::Number : CellKind::Closed;
+}
 
 void ConnectGridEditor(const CellEditing& Editing)
 {
     Grid& Table = Editing.Table;
     Table.EnterCell = {};
-    if (!OnDataCell(Table)) Table.Select(Table.FixedRows, Table.FixedCols); // before anyone listens
+    if (OnHeading(Table)) Table.Select(Table.FixedRows, Table.FixedCols); // before anyone listens
 
     Table.EnterCell = [&Editing] {
         MarkChanged();
@@ -317,6 +343,8 @@ void ConnectGridEditor(const CellEditing& Editing)
     };
     Table.MouseDown = [&Editing](int Button) { MouseDownInGrid(Editing, Button); };
     Table.DblClick = [&Editing] { DoubleClickInGrid(Editing); };
+    Table.Paste = [&Editing] { Run(Editing, PasteCells); };
+    Table.Undo = [&Editing] { Run(Editing, UndoCells); };
 
     Editing.Editor.KeyDown = [&Editing](int& Key) { KeyDownInEditor(Editing, Key); };
     Editing.Editor.KeyPress = [&Editing](int& Key) { KeyPressInEditor(Editing, Key); };
@@ -327,7 +355,7 @@ void ConnectGridEditor(const CellEditing& Editing)
 void ConnectGridEditors()
 {
     for (const CellEditing& Each : InputGrids) ConnectGridEditor(Each);
-    ProjectLoaded = SettleAll;
+    ProjectLoaded = AllFilled;
     frmLCC.Shown = SettleAll;
 }
 
@@ -335,6 +363,12 @@ void SettleGridEditor(const Grid& Table)
 {
     for (const CellEditing& Each : InputGrids)
         if (&Each.Table == &Table) Settle(Each);
+}
+
+void GridFilled(Grid& Table)
+{
+    Table.History.clear();
+    SettleGridEditor(Table);
 }
 
 void ChangeProfileRows(void (*Operation)())

@@ -20,7 +20,6 @@ struct CellEditing {
     std::vector<int> EditableCols;
     std::vector<int> FilteredInGrid;   // columns in which the grid takes number keys only
     std::vector<int> FilteredInEditor; // and those in which the editor does
-    std::vector<int> ClosedRows = {};  // data rows that can't be edited
 
     // A list lies over the cells of one column instead of the editor.
     ComboBox* List = nullptr;
@@ -31,6 +30,10 @@ struct CellEditing {
     MenuItem* Menu = nullptr;           // made visible, to pop up, by a right press on a data cell
 };
 
+// What a cell takes: nothing, what is typed into the editor, an entry of the list.
+enum class CellKind { Closed, Number, Choice };
+CellKind KindOf(const CellEditing& Editing, int Row, int Col);
+
 // Answers the events of grid, editor and list. The grid's Tag holds the text to which Escape goes back: the
 // cell's at the moment it was entered. The description must outlive the controls' handlers.
 void ConnectGridEditor(const CellEditing& Editing);
@@ -39,9 +42,12 @@ void ConnectGridEditor(const CellEditing& Editing);
 // changes are edits of a cell, not of a field.
 void ConnectGridEditors();
 
-// To be called when code has filled a grid of the input screen: its editor closes and the current cell counts
-// as entered anew. Marks nothing as changed. The input screen does this by itself whenever it is shown.
+// The editor of a grid of the input screen closes and the current cell counts as entered anew. Marks nothing
+// as changed. The input screen does this by itself whenever it is shown.
 void SettleGridEditor(const Grid& Table);
+
+// The same, to be called when code has filled the grid: what was there before can't be brought back.
+void GridFilled(Grid& Table);
 
 // Runs a row operation of the profile table as an edit of the user.
 void ChangeProfileRows(void (*Operation)());

@@ -44,7 +44,7 @@ void DiameterUnitsChosen()
     if (Chosen < 0 || Chosen == wDiameterUnits) return;
     TakeUnit(frmLCC.comDiameterUnits, wDiameterUnits);
     FillProfileGrid();
-    SettleGridEditor(frmLCC.msgProfile);
+    GridFilled(frmLCC.msgProfile);
 }
 
 // The commit reads the selector of the gravity frame for both kinds of system.
@@ -72,7 +72,7 @@ void ConnectBars()
             Each.Bar->Change = [&Each] {
                 MarkChanged();
                 Each.Moved();
-                if (Each.Refilled) SettleGridEditor(*Each.Refilled);
+                if (Each.Refilled) GridFilled(*Each.Refilled);
             };
 }
 

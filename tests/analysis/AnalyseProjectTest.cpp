@@ -1,17 +1,23 @@
 // The course of an analysis: its steps, its ends, and what is left after each.
 #include "AnalysisTest.h"
-#include "cost/AnnualCosts.h"
-#include "cost/CapitalCost.h"
-#include "cost/PresentValue.h"
-#include "cost/RateOfReturn.h"
-#include "hydraulics/DutyPoint.h"
-#include "hydraulics/Flows.h"
+#include "cost/CostResults.h"
+#include "cost/Figures.h"
 #include "results/PlotState.h"
+
+#include <cstring>
+#include <map>
 
 namespace velorix {
 namespace {
 
 using AnalyseProjectTest = AnalysisTest;
+
+// A result as it lies in memory, every bit of it.
+template <typename Shape>
+std::string BytesOf(const Shape& Value)
+{
+    return {reinterpret_cast<const char*>(&Value), sizeof Value};
+}
 
 TEST_F(AnalyseProjectTest, GravityProjectStands)
 {
@@ -49,15 +55,23 @@ TEST_F(AnalyseProjectTest, CurvesThatDoNotCrossEndTheAnalysis)
     Analyse(Record);
     EXPECT_EQ(Analysed, 0);
     ASSERT_EQ(Windows.Messages.size(), 1U);
+    EXPECT_EQ(Windows.Messages[0].Text, "The pump curve does not intersect the system curve for year 1");
     EXPECT_EQ(Windows.Messages[0].Title, "Error");
     EXPECT_EQ(Windows.ModalScreens, std::vector<std::string>{"frmDutyPoint"});
     EXPECT_EQ(frmAnalyse.proBar.Value, 55);
     EXPECT_EQ(TotalCapitalCost, 0.0);
     Analyse(PumpCurveRecord());
     EXPECT_EQ(Analysed, 1);
-    frmLCC.txtSupervision.Text = "";
+
+    // The fee is read from the screen once the fees before it stand.
+    ResetResults();
+    SupervisionCost = 77.0;
+    frmLCC.txtSupervision.Text = "R 150000";
     AnalyseProject();
     EXPECT_EQ(Analysed, 0);
+    EXPECT_GT(ConsultingFees, 0.0);
+    EXPECT_EQ(SupervisionCost, 77.0);
+    EXPECT_EQ(TotalCapitalCost, 0.0);
 }
 
 // A gravity system goes on with zero flows, such as with more than 99 rows. A pumping system divides by one.
@@ -65,7 +79,7 @@ TEST_F(AnalyseProjectTest, FailedHydraulicsEndOnlyAPumpingAnalysis)
 {
     Analyse(GravityRecord(99));
     EXPECT_GT(Flow[1], 0.0);
-    ResetFlows();
+    ResetResults();
     Analyse(GravityRecord(100));
     EXPECT_EQ(Analysed, 1);
     EXPECT_EQ(Flow[1], 0.0);
@@ -108,15 +122,49 @@ TEST_F(AnalyseProjectTest, StaleStateStaysUntilTheProgramIsReset)
     EXPECT_EQ(Irr, FirstReturn);
     EXPECT_FALSE(frmResults.sscDutypoint.Visible); // but not what the results show
 
+    ForEachResult(
+        [](const ResultInfo&, auto& Value) { std::memset(static_cast<void*>(&Value), 1, sizeof Value); });
     ResetProgram();
     StartSession();
-    EXPECT_EQ(SystemHeadByYear(CurvePoints, 1), 0.0);
+    ForEachResult([](const ResultInfo& Of, const auto& Value) {
+        EXPECT_TRUE(BytesOf(Value) == std::string(sizeof Value, '\0')) << Of.Name;
+    });
     EXPECT_EQ(wPumpDetails, 0);
     EXPECT_EQ(frmLCC.txtProject.Text.Get(), "");
     EXPECT_EQ(frmAnalyse.proBar.Value, 0);
     Analyse(Record);
     EXPECT_EQ(SectionLength[10], 0.0);
     EXPECT_EQ(Irr, 0.0);
+}
+
+// The same figures without a screen, whatever the kind of system and however the hydraulics end.
+TEST_F(AnalyseProjectTest, TheEngineAloneGivesTheSameBits)
+{
+    ProjectFields GivenFlow = PumpCurveRecord(30);
+    GivenFlow.PumpDetails = 0;
+    GivenFlow.PumpOperatingFlowrate = 300.0;
+    ProjectFields HighPoint = GravityRecord();
+    HighPoint.Elevation[5] = 152.0;
+    ProjectFields NoDutyPoint = PumpCurveRecord();
+    NoDutyPoint.BRWL = 250.0;
+    for (const ProjectFields& Record :
+         {GravityRecord(), GravityRecord(100), HighPoint, PumpCurveRecord(), NoDutyPoint, GivenFlow}) {
+        std::map<std::string, std::string> Analysed;
+        ResetProgram();
+        StartSession();
+        Analyse(Record);
+        ForEachResult([&](const ResultInfo& Of, const auto& Value) { Analysed[Of.Name] = BytesOf(Value); });
+
+        ResetProgram();
+        Windows.Messages.clear();
+        OpenRecord(Record);
+        const bool Stand = ComputeFigures();
+        EXPECT_EQ(Stand, AnalysisAborted == 0);
+        ForEachResult([&](const ResultInfo& Of, const auto& Value) {
+            EXPECT_TRUE(BytesOf(Value) == Analysed[Of.Name]) << Of.Name;
+        });
+        EXPECT_TRUE(Windows.Messages.empty());
+    }
 }
 
 } // namespace

@@ -155,14 +155,6 @@ TEST_F(ProjectJsonTest, WholeNumbersHaveTheirRanges)
         {"HeadUnits", 0, 1}, {"FlowUnits", 0, 3}, {"PumpDetails", 0, 1}, {"Summer", 0, 12}, {"SummerHour", 0, 2},
         {"WinterHour", 0, 2}, {"PumpOperatingFlowrateUnits", 0, 9}, {"PumpingHours", 1, 24}};
     // clang-format on
-    std::size_t Found = 0;
-    ForEachField(ProjectRecord, [&]<typename T>(const FieldRule&, const T& Value) {
-        if constexpr (requires { Value.LastIndex; })
-            Found += std::is_same_v<typename T::value_type, std::int16_t>;
-        else
-            Found += std::is_same_v<T, std::int16_t>;
-    });
-    EXPECT_EQ(Found, std::size(Cases));
     for (const Case& Each : Cases) {
         const bool Listed = Each.Field.starts_with("Node") || Each.Field.ends_with("Hour");
         const auto Reason = [&](int Value) {

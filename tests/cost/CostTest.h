@@ -3,13 +3,10 @@
 
 #include "cost/AnnualCosts.h"
 #include "cost/CapitalCost.h"
+#include "cost/CostResults.h"
 #include "cost/PresentValue.h"
 #include "cost/RateOfReturn.h"
-#include "hydraulics/DutyPoint.h"
-#include "hydraulics/Flows.h"
-#include "hydraulics/YearlySupply.h"
 #include "model/WorkingSet.h"
-#include "screens/Lcc.h"
 
 #include <gtest/gtest.h>
 
@@ -20,15 +17,7 @@ protected:
     CostTest()
     {
         ResetWorkingSet();
-        ResetNormalise();
-        ResetFlows();
-        ResetDutyPoint();
-        ResetYearlySupply();
-        ResetCapitalCost();
-        ResetAnnualCosts();
-        ResetPresentValue();
-        ResetRateOfReturn();
-        frmLCC.txtSupervision.Text = std::string("0");
+        ResetResults();
     }
 
     static void BuildFor(int Years)

@@ -2,8 +2,7 @@
 // to.
 #pragma once
 
-#include "cost/AnnualCosts.h"
-#include "cost/CapitalCost.h"
+#include "cost/CostResults.h"
 #include "cost/RateOfReturn.h"
 #include "model/WorkingSet.h"
 

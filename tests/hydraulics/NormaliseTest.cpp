@@ -68,17 +68,13 @@ TEST_F(NormaliseTest, EachUnitHasItsFactor)
         {Fields::KsNewUnits, wKsNewUnits, [] { return KsNewM; }, FineLength},
         {Fields::KsOldUnits, wKsOldUnits, [] { return KsOldM; }, FineLength},
         {Fields::DiameterUnits, wDiameterUnits, [] { return InternalDiameter[1]; }, FineLength},
-        {Fields::LiningThicknessUnits, wLiningThicknessUnits, [] { return LiningLoss / 2; }, FineLength},
         {Fields::WallThicknessUnits, wWallThicknessUnits, [] { return -InternalDiameter[2] / 2; },
          FineLength}};
     sample::AddNode({0, 0, 1});
     sample::AddNode({0, 1, 0});
     wTRWL = wBRWL = wKsNew = wKsOld = wWallThickness[2] = 1;
     for (const Case& Each : Cases) {
-        // Only the lining takes a bore, and only the curve reads its factors.
-        const bool Lining = &Each.Index == &wLiningThicknessUnits;
-        wLiningType = Lining ? 1 : 0;
-        wLiningThickness = Lining ? 1 : 0;
+        // Only the curve reads its factors.
         wPumpDetails = &Each.Index == &wPumpOperatingFlowrateUnits ? 0 : 1;
         std::vector<std::string> Names;
         for (const auto& [Name, Factor] : Each.Expected) {

@@ -1,7 +1,6 @@
 // A project put together row by row, in metres and m3/s, for the tests and benchmarks of the hydraulics.
 #pragma once
 
-#include "hydraulics/DutyPoint.h"
 #include "hydraulics/Flows.h"
 #include "hydraulics/Normalise.h"
 #include "hydraulics/YearlySupply.h"
@@ -15,10 +14,7 @@ namespace velorix::sample {
 inline void Reset()
 {
     ResetWorkingSet();
-    ResetNormalise();
-    ResetFlows();
-    ResetDutyPoint();
-    ResetYearlySupply();
+    ResetHydraulics();
     wDiameterUnits = wWallThicknessUnits = wLiningThicknessUnits = wKsNewUnits = wKsOldUnits = 1;
     wFlowrateUnits = wDemandUnits = 2;
     wFlowUnits = wPumpOperatingFlowrateUnits = 1;

@@ -189,6 +189,11 @@ Values StoredValues(const Values& Sought)
     return Stored;
 }
 
+void ExpectSame(const Values& Found, const Values& Typed)
+{
+    for (const auto& [Entry, Value] : Typed) EXPECT_EQ(Found.at(Entry), Value) << Entry;
+}
+
 TEST_F(RoundTripTest, EveryControlStoresItsFieldAndShowsItAgain)
 {
     for (const int SystemType : {0, 1}) {
@@ -198,8 +203,8 @@ TEST_F(RoundTripTest, EveryControlStoresItsFieldAndShowsItAgain)
         const Values Typed = ShownValues();
         Windows.Files = {File};
         SaveCommand(); // no file yet, so the dialog asks for one
-        EXPECT_EQ(StoredValues(Typed), Typed);
-        EXPECT_EQ(ShownValues(), Typed);
+        ExpectSame(StoredValues(Typed), Typed);
+        ExpectSame(ShownValues(), Typed);
 
         ResetProjectRecord();
         ResetWorkingSet();
@@ -207,7 +212,7 @@ TEST_F(RoundTripTest, EveryControlStoresItsFieldAndShowsItAgain)
         UnloadScreens();
         StartNew(1 - SystemType);
         OpenProjectFile(File);
-        EXPECT_EQ(ShownValues(), Typed);
+        ExpectSame(ShownValues(), Typed);
         EXPECT_EQ(MDIProject.lblSystem.Caption.Get(), IsPumping() ? "Pumping system" : "Gravity system");
         EXPECT_EQ(frmLCC.sstInput.TabVisible.Get()[2], IsPumping());
         EXPECT_EQ(frmLCC.fraPumpcurve.Visible, IsPumping());

@@ -2,7 +2,6 @@
 #include "platform/Grid.h"
 
 #include "base/Failure.h"
-#include "platform/Keys.h"
 
 #include <gtest/gtest.h>
 
@@ -36,18 +35,34 @@ TEST(GridTest, OnlyWhatChangesIsTold)
     EXPECT_EQ(Heard, "leave 00 enter 21 5.00 told at 21 ");
 }
 
-TEST(GridTest, KeysMoveTheCurrentCellInsideTheCellsThatAreNotFixed)
+TEST(GridTest, TheSelectionReachesFromTheCurrentCellAndIsCopiedRowByRow)
 {
-    Grid Table(30, 3);
+    Grid Table(3, 3);
     Table.FixedCols = 1;
-    std::string Path;
-    for (const int Key : {Keys::Down, Keys::PageDown, Keys::Right, Keys::Up, Keys::Left, Keys::End,
-                          Keys::PageUp, Keys::Home, Keys::Up}) {
-        EXPECT_TRUE(Table.Navigate(Key));
-        Path += std::to_string(Table.Row()) + "," + std::to_string(Table.Col()) + " ";
-    }
-    EXPECT_EQ(Path, "1,1 11,1 11,2 10,2 10,1 10,2 1,2 1,1 1,1 ");
-    EXPECT_FALSE(Table.Navigate(Keys::F2));
+    EXPECT_EQ(Table.SelectedText(), ""); // on a heading
+    for (int Row = 0; Row < 3; ++Row)
+        for (int Col = 0; Col < 3; ++Col)
+            Table.SetText(Row, Col, " " + std::to_string(Row) + std::to_string(Col));
+    Table.Select(2, 2);
+    EXPECT_EQ(Table.SelectedText(), "22\n");
+    Table.SelectTo(2, 1);
+    EXPECT_EQ(Table.Col(), 2);
+    EXPECT_EQ(Table.SelectedText(), "21\t22\n");
+    EXPECT_THROW(Table.SelectTo(3, 1), SubscriptFailure);
+
+    // Whole columns have their headings, the whole table those of its rows too.
+    Table.Select(2, 1);
+    Table.SelectTo(1, 1);
+    EXPECT_EQ(Table.SelectedText(), "01\n11\n21\n");
+    Table.SelectTo(1, 2);
+    EXPECT_EQ(Table.SelectedText(), "00\t01\t02\n10\t11\t12\n20\t21\t22\n");
+    Table.Paste = [] {}; // what is copied from here can be pasted here
+    EXPECT_EQ(Table.SelectedText(), "11\t12\n21\t22\n");
+
+    Table.History.emplace_back();
+    Table.SetRows(2);
+    EXPECT_EQ(Table.SelectedText(), "11\n");
+    EXPECT_TRUE(Table.History.empty());
 }
 
 TEST(GridTest, RowsThatStayKeepTheirCellsAndTheDesignComesBack)
@@ -68,6 +83,7 @@ TEST(GridTest, RowsThatStayKeepTheirCellsAndTheDesignComesBack)
 
     Table.ColWidth[0] = 100;
     Table.MergeEqualCells = true;
+    Table.HeadingRows = {1};
     Table.HeaderHeight = Table.DataRowHeight = Table.FixedRows = Table.FixedCols = 2;
     Table.EnterCell = [] { ADD_FAILURE() << "an event"; };
     int Told = 0;
@@ -78,6 +94,7 @@ TEST(GridTest, RowsThatStayKeepTheirCellsAndTheDesignComesBack)
     EXPECT_EQ(Table.Text(2, 0), "last");
     EXPECT_EQ(Table.ColWidth[0], 900);
     EXPECT_FALSE(Table.MergeEqualCells);
+    EXPECT_FALSE(Table.IsHeadingRow(1));
     EXPECT_EQ(Table.HeaderHeight + Table.DataRowHeight + Table.FixedRows + Table.FixedCols, 1);
     EXPECT_EQ(Table.Row(), 0);
     EXPECT_EQ(Table.Col(), 0);

@@ -4,6 +4,7 @@
 #include "cost/CostTest.h"
 #include "results/Headlines.h"
 #include "results/PlotState.h"
+#include "screens/Lcc.h"
 #include "screens/Results.h"
 
 #include <limits>

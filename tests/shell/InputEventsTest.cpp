@@ -58,20 +58,18 @@ TEST_F(InputEventsTest, EveryEditMarksTheProjectAndAnHourDoesNot)
 TEST_F(InputEventsTest, NumberBoxesTakeDigitsAndThePoint)
 {
     LccScreen& S = frmLCC;
-    std::set<const Control*> Numbers = {&S.txtKsNew,         &S.txtKsOld,      &S.txtKsOldYears,
-                                        &S.txtTRWL,          &S.txtBRWL,       &S.txtPPRWL,
-                                        &S.txtPERWL,         &S.txtPFlowrate,  &S.txtPumpOperatingFlowrate,
-                                        &S.txtSPeak,         &S.txtSStandard,  &S.txtLiningThickness,
-                                        &S.txtSOffpeak,      &S.txtWPeak,      &S.txtWStandard,
-                                        &S.txtWOffpeak,      &S.txtEscalation, &S.txtEnergyEscalation,
-                                        &S.txtDiscountRate,  &S.txtWaterSales, &S.txtWaterIncrease,
-                                        &S.txtElectrical,    &S.txtMechanical, &S.txtSupervision,
-                                        &S.txtPumpEfficiency};
+    // clang-format off
+    std::set<const Control*> Numbers = {
+        &S.txtKsNew, &S.txtKsOld, &S.txtKsOldYears, &S.txtTRWL, &S.txtBRWL, &S.txtPPRWL, &S.txtPERWL,
+        &S.txtPFlowrate, &S.txtPumpOperatingFlowrate, &S.txtPumpEfficiency, &S.txtLiningThickness, &S.txtSPeak,
+        &S.txtSStandard, &S.txtSOffpeak, &S.txtWPeak, &S.txtWStandard, &S.txtWOffpeak, &S.txtEscalation,
+        &S.txtEnergyEscalation, &S.txtDiscountRate, &S.txtWaterSales, &S.txtWaterIncrease, &S.txtElectrical,
+        &S.txtMechanical, &S.txtSupervision};
+    const std::set<const Control*> Editors = {&S.txtCell, &S.txtLaying, &S.txtDemand, &S.txtPumpDemand,
+                                              &S.txtCellOperational, &S.txtCellOtherOperational};
+    // clang-format on
     for (const auto* Column : {&S.txtH, &S.txtQ, &S.txtEfficiency})
         for (const TextBox& Each : *Column) Numbers.insert(&Each);
-    const std::set<const Control*> Editors = {
-        &S.txtCell,       &S.txtLaying,          &S.txtDemand,
-        &S.txtPumpDemand, &S.txtCellOperational, &S.txtCellOtherOperational};
     std::string Typed; // all that the keyboard has
     for (char Each = 1; Each < 127; ++Each) Typed += Each;
     for (Control* Each : frmLCC.Controls) {

@@ -31,12 +31,13 @@ protected:
     }
 
     // Types the characters, one key after the other, wherever the focus is. Keys with a code of their own are
-    // drawn: the arrows, ⏎ Enter, ⌫ Backspace, ⎋ Escape, and ✎ for F2, which opens the editor.
+    // drawn: the arrows, ⏎ Enter, ⌫ Backspace, ⎋ Escape, ✂ Delete, and ✎ for F2, which opens the editor.
     void Type(const std::u32string& Text)
     {
         const std::map<char32_t, int> Drawn = {
-            {U'←', Keys::Left},  {U'↑', Keys::Up}, {U'→', Keys::Right},     {U'↓', Keys::Down},
-            {U'⏎', Keys::Enter}, {U'✎', Keys::F2}, {U'⌫', Keys::Backspace}, {U'⎋', Keys::Escape}};
+            {U'←', Keys::Left},      {U'↑', Keys::Up},     {U'→', Keys::Right},
+            {U'↓', Keys::Down},      {U'⏎', Keys::Enter},  {U'✎', Keys::F2},
+            {U'⌫', Keys::Backspace}, {U'⎋', Keys::Escape}, {U'✂', Keys::Delete}};
         for (const char32_t Each : Text) {
             const auto Key = Drawn.find(Each);
             if (Key == Drawn.end())
@@ -62,8 +63,16 @@ private:
     static void SendToGrid(Grid& Table, int Code, int Character)
     {
         Table.KeyDown(Code);
-        if (Code != 0) Table.Navigate(Code);
+        Move(Table, Code);
         if (Character != 0) Table.KeyPress(Character);
+    }
+
+    // What a table does by itself with an arrow.
+    static void Move(Grid& Table, int Arrow)
+    {
+        const int Row = Table.Row() + (Arrow == Keys::Down) - (Arrow == Keys::Up);
+        const int Col = Table.Col() + (Arrow == Keys::Right) - (Arrow == Keys::Left);
+        if (Row < Table.Rows() && Col < Table.Cols() && !Table.IsFixed(Row, Col)) Table.Select(Row, Col);
     }
 
     static void SendToBox(TextBox& Box, int Code, int Character)

@@ -1,0 +1,15 @@
+// The variables of the hydraulics.
+#include "hydraulics/HydraulicResults.h"
+
+namespace velorix {
+
+#define VELORIX_DEFINE(Shape, Name, Unit) Shape Name{};
+VELORIX_HYDRAULIC_RESULTS(VELORIX_DEFINE, VELORIX_DEFINE)
+#undef VELORIX_DEFINE
+
+void ResetHydraulics()
+{
+    ForEachHydraulicResult([](const ResultInfo&, auto& Value) { SetToZero(Value); });
+}
+
+} // namespace velorix

@@ -1,0 +1,16 @@
+// Heads along a pumping pipeline, worked from its end back to the pump.
+#pragma once
+
+#include "hydraulics/HydraulicResults.h"
+
+namespace velorix {
+
+using HeadList = ByPointAndYear::Column; // point i is the head at row i (m); point 0 is the caller's
+
+// From DownstreamLevel at the last row back to row 1, each section's losses on top. Where a row would lie
+// more than a metre of head below ground, the whole list is lifted until the lowest has a pressure head of -1
+// m. The losses of the last row take no part. Throws ArithmeticFailure; the heads before the one that failed
+// stand then.
+void StorePumpingHeads(const ByRow& Friction, const ByRow& Secondary, HeadList& Head);
+
+} // namespace velorix
