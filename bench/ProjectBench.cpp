@@ -20,7 +20,7 @@ void AnalyseTypicalProject(benchmark::State& State)
 {
     OpenTypicalProject();
     bool Stand = true;
-    for (auto _ : State) Stand = Stand && ComputeFigures();
+    for (auto _ : State) Stand = Stand && ComputeFigures(Tables::Filled);
     if (!Stand) State.SkipWithError("the analysis doesn't stand");
 }
 BENCHMARK(AnalyseTypicalProject)->Unit(benchmark::kMillisecond);
@@ -40,7 +40,7 @@ bool SameAsStored(const plain::Curve& Points, int Year)
 void PlainCurvesAndRates(benchmark::State& State)
 {
     OpenTypicalProject();
-    ComputeFigures();
+    ComputeFigures(Tables::Filled);
     Array1<plain::Curve, MaxYears> Curves;
     for (auto _ : State) {
         for (int Year = 1; Year <= wLife; ++Year) Curves[Year] = plain::SystemCurve(Year);

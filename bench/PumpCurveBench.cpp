@@ -30,7 +30,7 @@ void LoadLargestProject()
 void SolvePumpCurve(benchmark::State& State)
 {
     LoadLargestProject();
-    for (auto _ : State) SolveFlows();
+    for (auto _ : State) SolveFlows(Tables::Filled);
     if (HydraulicsFailed != 0 || AnalysisAborted != 0) State.SkipWithError("the project has no duty point");
 }
 BENCHMARK(SolvePumpCurve)->Unit(benchmark::kMillisecond);
@@ -39,7 +39,7 @@ BENCHMARK(SolvePumpCurve)->Unit(benchmark::kMillisecond);
 void PlainSystemCurves(benchmark::State& State)
 {
     LoadLargestProject();
-    SolveFlows();
+    SolveFlows(Tables::Filled);
     std::vector<plain::Curve> Curves(MaxYears);
     for (auto _ : State)
         for (int y = 1; y <= MaxYears; ++y) Curves[y - 1] = plain::SystemCurve(y);

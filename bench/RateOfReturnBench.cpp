@@ -20,6 +20,18 @@ void FastScan(benchmark::State& State)
 }
 BENCHMARK(FastScan)->Unit(benchmark::kMillisecond);
 
+void FoundFromBounds(benchmark::State& State)
+{
+    velorix::DescribeScheme(LongestLife, ConstructionYears);
+    for (auto _ : State) {
+        velorix::FindRateOfReturn();
+        benchmark::DoNotOptimize(velorix::Irr);
+    }
+    if (velorix::Irr.Bits() != velorix::PlainScan(0).Return.Bits())
+        State.SkipWithError("differs from the plain scan");
+}
+BENCHMARK(FoundFromBounds)->Unit(benchmark::kMicrosecond);
+
 void PlainScan(benchmark::State& State)
 {
     velorix::DescribeScheme(LongestLife, ConstructionYears);

@@ -69,7 +69,7 @@ void AnalysePressed()
     {
         const Running Dialog;
         PlotYear = 1;
-        AnalyseProject();
+        AnalyseProject(Tables::Filled);
     }
     // A disabled button gives the focus away, and Enter must not press Cancel now.
     if (frmAnalyse.IsLoaded()) System().SetFocus(frmAnalyse.sscAnalyse);

@@ -92,10 +92,10 @@ void FollowFigures(Milestone Reached)
     }
 }
 
-void RunAnalysis()
+void RunAnalysis(Tables Wanted)
 {
     const bool Stand = ComputeFigures(
-        {.Flows = TellingOfFlows(), .Reached = FollowFigures, .Supervision = SupervisionOnScreen});
+        Wanted, {.Flows = TellingOfFlows(), .Reached = FollowFigures, .Supervision = SupervisionOnScreen});
     if (!Stand) return;
     HandOverToResults();
     if (HighPointAdjusted == 1) TellOfHighPoint();
@@ -115,12 +115,12 @@ void RefreshResults()
     FillCombos();
 }
 
-void AnalyseProject()
+void AnalyseProject(Tables Wanted)
 {
     Analysed = 0;
     ClearArithmeticFlags();
     try {
-        RunAnalysis();
+        RunAnalysis(Wanted);
     } catch (const Failure&) {
         Warn("Could not determine the flow for each year.", "Velorix Error");
         return;

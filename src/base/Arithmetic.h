@@ -2,7 +2,9 @@
 #pragma once
 
 #include "base/Single.h"
+#include "base/StatusFlags.h"
 
+#include <cmath>
 #include <cstdint>
 
 namespace velorix {
@@ -17,13 +19,40 @@ bool ArithmeticFailed();
 // Throws ArithmeticFailure when ArithmeticFailed(), and clears the flags.
 void CheckArithmetic();
 
+[[noreturn]] void ThrowUnordered();
+
 // The value rounded to 32 bits, ready to be stored. Throws ArithmeticFailure when the value's expression, or
 // its rounding, failed, so that the target keeps what it held.
-Single Checked(double Value);
+inline Single Checked(double Value)
+{
+    auto Rounded = static_cast<float>(Value);
+    if (FailureFlagsAfter(Rounded) != 0) CheckArithmetic();
+    return Rounded;
+}
 
 // The value, about to be compared. A NaN has no order: comparing it is an invalid operation and throws
 // ArithmeticFailure, on every compiler and machine.
-double Ordered(double Value);
+inline double Ordered(double Value)
+{
+    if (std::isnan(Value)) ThrowUnordered();
+    return Value;
+}
+
+// Two ways to work the same steps. EachStep makes sure of every one as it is stored. AsBlock leaves that to
+// the caller, who has the steps worked into a place of its own, asks ArithmeticFailed() once, and when it did
+// has them worked again by EachStep into the results, up to the one that fails.
+struct EachStep {
+    static Single Stored(double Value) { return Checked(Value); }
+    static double Compared(double Value) { return Ordered(Value); }
+};
+struct AsBlock {
+    static Single Stored(double Value) { return Value; }
+    static double Compared(double Value)
+    {
+        if (std::isnan(Value)) std::feraiseexcept(FE_INVALID);
+        return Value;
+    }
+};
 
 // Nearest integer, halves to the even neighbour.
 double RoundEven(double Value);

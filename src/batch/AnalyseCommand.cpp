@@ -40,7 +40,7 @@ std::string AnalyseOne(const InputFile& File, const AnalyseOptions& Options)
     StartSession();
     std::vector<std::string> Warnings = LoadAndTellPinned(File.Path);
     if (IsTooShort(File.Path)) Warnings.insert(Warnings.begin(), TooShort);
-    AnalyseProject();
+    AnalyseProject(Tables::LeftOut);
 
     const AnalysisResults Results = CollectResults(Windows.Messages);
     const bool Stood = Analysed == 1;

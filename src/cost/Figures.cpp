@@ -10,7 +10,7 @@
 
 namespace velorix {
 
-bool ComputeFigures(const FigureEvents& Events)
+bool ComputeFigures(Tables Wanted, const FigureEvents& Events)
 {
     AnalysisAborted = 0;
     NormaliseInputs();
@@ -18,7 +18,7 @@ bool ComputeFigures(const FigureEvents& Events)
     Events.Reached(Milestone::Inputs);
 
     HighPointAdjusted = 0;
-    SolveFlows(Events.Flows);
+    SolveFlows(Wanted, Events.Flows);
     if (AnalysisAborted == -1) return false;
 
     SupplyDemand();
@@ -31,7 +31,10 @@ bool ComputeFigures(const FigureEvents& Events)
     ComputeTotalCapitalCost(Events.Supervision());
     ComputeAnnualCosts();
     ComputePresentValues();
-    ScanRateOfReturn();
+    if (Wanted == Tables::Filled)
+        ScanRateOfReturn();
+    else
+        FindRateOfReturn();
     return true;
 }
 

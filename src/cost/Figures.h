@@ -18,9 +18,9 @@ struct FigureEvents {
 };
 
 // Works out every result of the open project from the working set: hydraulics, supply, costs, present values
-// and rate of return. False when a year had no duty point: what comes after the flows stays undone then.
-// Failed flows alone don't end it, as HydraulicsFailed tells. Throws Failure for any other step that can't be
-// worked; the steps before it stand.
-bool ComputeFigures(const FigureEvents& Events = {});
+// and rate of return; the tables that graphs are drawn from only when they are wanted. False when a year had
+// no duty point: what comes after the flows stays undone then. Failed flows alone don't end it, as
+// HydraulicsFailed tells. Throws Failure for any other step that can't be worked; the steps before it stand.
+bool ComputeFigures(Tables Wanted, const FigureEvents& Events = {});
 
 } // namespace velorix

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QShortcut>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolButton>
 
@@ -142,6 +143,7 @@ QTabWidget* View(TabControl& Record, const std::vector<QWidget*>& Pages)
     QObject::connect(View, &QTabWidget::currentChanged, View,
                      [&Record, View](int Tab) { Enter(Record.Tab, Tab, View); });
     Attach(Record, View);
+    RaiseEvents(Record, View->tabBar()); // which takes the focus
     View->setToolTip(QString());
     StepWithKeys(View);
     return View;

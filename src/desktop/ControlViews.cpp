@@ -6,130 +6,20 @@
 
 #include <QDateEdit>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QMouseEvent>
-#include <QPainter>
 #include <QProgressBar>
 #include <QTimer>
 
 namespace velorix {
-namespace {
-
-QLabel* FillLabel(Label& Record, QLabel* View)
+QLabel* View(Label& Record)
 {
+    auto* const View = new QLabel;
     View->setTextFormat(Qt::PlainText); // a file name may look like markup
     Follow(Record.Caption, View,
            [View](const std::string& Text) { View->setText(QString::fromStdString(Text)); });
-    Follow(Record.BackColor, View, [View](Color Back) {
-        View->setAutoFillBackground(!IsPaletteColor(Back));
-        View->setPalette(IsPaletteColor(Back) ? QPalette() : PaintedPalette(Back));
-    });
+    Follow(Record.BackColor, View, [View](Color Back) { PaintBack(*View, Back); });
     Attach(Record, View);
-    return View;
-}
-
-// Clicks like a button: by mouse, Space and Enter.
-class ColorField : public QLabel {
-public:
-    ColorField(Label& Shown, ColorNames ToldNames)
-        : Record(Shown)
-        , Names(std::move(ToldNames))
-    {
-        setFocusPolicy(Qt::StrongFocus);
-        setAlignment(Qt::AlignCenter);
-        setFrameStyle(QFrame::Box | QFrame::Plain);
-    }
-
-    // What a screen reader says beside the name: what the field is for, and its colour by its name.
-    void DescribeState()
-    {
-        QStringList Parts = {toolTip(), ColorName(Record.BackColor)};
-        Parts.removeAll(QString());
-        setAccessibleDescription(Parts.join(", "));
-    }
-
-protected:
-    void mousePressEvent(QMouseEvent* Press) override { Press->accept(); }
-
-    void mouseReleaseEvent(QMouseEvent* Release) override
-    {
-        if (Release->button() == Qt::LeftButton && rect().contains(Release->position().toPoint())) Click();
-    }
-
-    void keyPressEvent(QKeyEvent* Key) override
-    {
-        const bool Pressed =
-            Key->key() == Qt::Key_Space || Key->key() == Qt::Key_Return || Key->key() == Qt::Key_Enter;
-        if (Pressed)
-            Click();
-        else
-            QLabel::keyPressEvent(Key);
-    }
-
-    void changeEvent(QEvent* Change) override
-    {
-        QLabel::changeEvent(Change);
-        if (Change->type() == QEvent::PaletteChange) DescribeState();
-    }
-
-    void focusInEvent(QFocusEvent* Focus) override
-    {
-        QLabel::focusInEvent(Focus);
-        update();
-    }
-
-    void focusOutEvent(QFocusEvent* Focus) override
-    {
-        QLabel::focusOutEvent(Focus);
-        update();
-    }
-
-    void paintEvent(QPaintEvent* Paint) override
-    {
-        QLabel::paintEvent(Paint);
-        if (!hasFocus()) return;
-        QPainter Painter(this);
-        DrawFrame(Painter, rect(), Qt::black);
-    }
-
-private:
-    void Click()
-    {
-        Guarded([this] { Record.Click(); });
-    }
-
-    QString ColorName(Color Value) const
-    {
-        for (const auto& [Named, Name] : Names)
-            if (Named == Value) return Name;
-        return {};
-    }
-
-    Label& Record;
-    const ColorNames Names;
-};
-
-} // namespace
-
-QLabel* View(Label& Record)
-{
-    QLabel* const View = FillLabel(Record, new QLabel);
     View->setAccessibleName(QString()); // its text says it
-    return View;
-}
-
-QLabel* ColorView(Label& Record)
-{
-    return ColorView(Record, {{PureRed, "red"}, {PureGreen, "green"}, {PureYellow, "yellow"}});
-}
-
-QLabel* ColorView(Label& Record, const ColorNames& Names)
-{
-    auto* const View = new ColorField(Record, Names);
-    FillLabel(Record, View);
-    View->setAccessibleName(View->text()); // until a layout gives a better one
-    View->DescribeState();
     return View;
 }
 

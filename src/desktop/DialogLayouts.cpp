@@ -104,12 +104,14 @@ QWidget* DeletedRow()
                                  "Pipe cost/metre", "Secondary loss",     "Description"};
     auto* const Box = new QGroupBox("Row to be deleted");
     FormRows Rows(Box);
-    int Index = 0;
-    for (const char* Name : Names) {
-        QLabel* const Value = View(frmDeleteRow.lblDelete[Index++]);
+    const auto Add = [&Rows](const char* Name, Label& Record) {
+        QLabel* const Value = View(Record);
         Value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         Rows.AddLong(Name, Value);
-    }
+    };
+    Add("Node nr", frmDeleteRow.lblNode);
+    int Index = 0;
+    for (const char* Name : Names) Add(Name, frmDeleteRow.lblDelete[Index++]);
     return Box;
 }
 

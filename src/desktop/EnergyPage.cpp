@@ -1,5 +1,6 @@
 // The page of the energy data: pumping hours, and for each season its rates and the class of every hour.
 #include "desktop/FormRows.h"
+#include "desktop/HourStrip.h"
 #include "desktop/InputLayout.h"
 #include "desktop/ScrollBarView.h"
 #include "desktop/Views.h"
@@ -16,22 +17,23 @@ namespace {
 constexpr int Digits = 8; // of a rate
 
 struct Rate {
-    QString Name;
-    Color ClassColor;
+    const RateClass& Class;
     TextBox& Value;
     Label& Sign;
 };
 
-// A small field in the colour of a rate class; together with the names beside them they are the legend.
-QWidget* Swatch(Color ClassColor)
+// A small field in the colour and with the letter of a rate class; together with the names beside them they
+// are the legend.
+QWidget* Swatch(const RateClass& Class)
 {
-    constexpr int Side = 14;
-    auto* const Field = new QLabel;
+    constexpr int Side = 18;
+    auto* const Field = new QLabel(Class.Name.left(1));
+    Field->setAlignment(Qt::AlignCenter);
     Field->setFixedSize(Side, Side);
-    Field->setStyleSheet(QString("background: rgb(%1, %2, %3); border: 1px solid #5c6a76;")
-                             .arg(ClassColor.Red())
-                             .arg(ClassColor.Green())
-                             .arg(ClassColor.Blue()));
+    Field->setStyleSheet(QString("background: rgb(%1, %2, %3); color: black; border: 1px solid #5c6a76;")
+                             .arg(Class.Fill.Red())
+                             .arg(Class.Fill.Green())
+                             .arg(Class.Fill.Blue()));
     return Field;
 }
 
@@ -45,11 +47,11 @@ QWidget* Joined(QWidget* Left, QWidget* Right)
 
 QWidget* RateField(const Rate& Shown, const QString& Season)
 {
-    QLabel* const Caption = Text(Shown.Name);
+    QLabel* const Caption = Text(Shown.Class.Name);
     QWidget* const Field = DigitsWide(NumberView(Shown.Value), Digits);
     TieCaption(Caption, Field);
-    NameField(Field, Season + ", " + Shown.Name);
-    return InRow({Swatch(Shown.ClassColor), Caption, Field, Joined(View(Shown.Sign), Text("/kW"))});
+    NameField(Field, Season + ", " + Shown.Class.Name);
+    return InRow({Swatch(Shown.Class), Caption, Field, Joined(View(Shown.Sign), Text("/kW"))});
 }
 
 // A bar of a few steps.
@@ -59,27 +61,6 @@ QWidget* Bar(ScrollBar& Record)
     QWidget* const Shown = View(Record);
     Shown->setFixedWidth(Width);
     return Shown;
-}
-
-const ColorNames RateClasses = {{OffpeakColor, "off-peak"}, {StandardColor, "standard"}, {PeakColor, "peak"}};
-
-QWidget* HourStrip(Array0<Label, 24>& Hours, const QString& Season)
-{
-    constexpr int CellHeight = 30;
-    std::vector<QWidget*> Cells;
-    for (Label& Each : Hours) {
-        QLabel* const Cell = ColorView(Each, RateClasses);
-        Cell->setMinimumWidth(CellHeight * 3 / 4);
-        Cell->setFixedHeight(CellHeight);
-        Cell->setAlignment(Qt::AlignCenter);
-        NameField(Cell, QString("%1, hour %2").arg(Season).arg(Cells.size() + 1));
-        Cells.push_back(Cell);
-    }
-    QWidget* const Strip = InRow(Cells);
-    Strip->layout()->setSpacing(2);
-    for (int Index = 0; Index < static_cast<int>(Cells.size()); ++Index)
-        static_cast<QBoxLayout*>(Strip->layout())->setStretch(Index, 1);
-    return Strip;
 }
 
 QGroupBox* SeasonCard(Frame& Record, ScrollBar* Months, const std::vector<Rate>& Rates,
@@ -113,15 +94,16 @@ QWidget* HoursCard()
 
 QWidget* EnergyPage()
 {
+    const auto& [Peak, Standard, Offpeak] = RateClasses;
     QWidget* const Summer = SeasonCard(frmLCC.fraSummer, &frmLCC.fsbSummer,
-                                       {{"Peak", PeakColor, frmLCC.txtSPeak, frmLCC.lblUnit[0]},
-                                        {"Standard", StandardColor, frmLCC.txtSStandard, frmLCC.lblUnit[1]},
-                                        {"Off-peak", OffpeakColor, frmLCC.txtSOffpeak, frmLCC.lblUnit[2]}},
+                                       {{Peak, frmLCC.txtSPeak, frmLCC.lblUnit[0]},
+                                        {Standard, frmLCC.txtSStandard, frmLCC.lblUnit[1]},
+                                        {Offpeak, frmLCC.txtSOffpeak, frmLCC.lblUnit[2]}},
                                        frmLCC.lblSummerHour);
     QWidget* const Winter = SeasonCard(frmLCC.fraWinter, nullptr,
-                                       {{"Peak", PeakColor, frmLCC.txtWPeak, frmLCC.lblUnit[3]},
-                                        {"Standard", StandardColor, frmLCC.txtWStandard, frmLCC.lblUnit[4]},
-                                        {"Off-peak", OffpeakColor, frmLCC.txtWOffpeak, frmLCC.lblUnit[5]}},
+                                       {{Peak, frmLCC.txtWPeak, frmLCC.lblUnit[3]},
+                                        {Standard, frmLCC.txtWStandard, frmLCC.lblUnit[4]},
+                                        {Offpeak, frmLCC.txtWOffpeak, frmLCC.lblUnit[5]}},
                                        frmLCC.lblWinterHour);
     return InColumn({Summer, Winter, HoursCard(), nullptr});
 }

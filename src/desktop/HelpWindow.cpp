@@ -55,6 +55,35 @@ void FormatTables(QTextDocument& Document)
     }
 }
 
+// A topic's address is its place in their list.
+QUrl AddressOf(int Topic)
+{
+    return QUrl("topic:" + QString::number(Topic));
+}
+
+int TopicOf(const QUrl& Address)
+{
+    return Address.path().toInt();
+}
+
+// A browser of topics in place of files.
+class TopicBrowser : public QTextBrowser {
+public:
+    explicit TopicBrowser(const std::vector<HelpTopic>& AllTopics)
+        : Topics(AllTopics)
+    {
+    }
+
+    QVariant loadResource(int, const QUrl& Address) override
+    {
+        const auto Topic = static_cast<std::size_t>(TopicOf(Address));
+        return Topic < Topics.size() ? Topics[Topic].Text : QString();
+    }
+
+private:
+    const std::vector<HelpTopic>& Topics;
+};
+
 } // namespace
 
 HelpWindow::HelpWindow(std::vector<HelpTopic> AllTopics, QWidget* Owner)
@@ -96,12 +125,16 @@ QWidget* HelpWindow::TopicPane()
 
 QWidget* HelpWindow::TextPane()
 {
-    Back = StepButton(Qt::LeftArrow, "Back", QKeySequence::Back);
-    Forward = StepButton(Qt::RightArrow, "Forward", QKeySequence::Forward);
-    connect(Back, &QToolButton::clicked, this, [this] { Step(-1); });
-    connect(Forward, &QToolButton::clicked, this, [this] { Step(1); });
+    QToolButton* const Back = StepButton(Qt::LeftArrow, "Back", QKeySequence::Back);
+    QToolButton* const Forward = StepButton(Qt::RightArrow, "Forward", QKeySequence::Forward);
+    Text = new TopicBrowser(Topics);
+    connect(Back, &QToolButton::clicked, Text, &QTextBrowser::backward);
+    connect(Forward, &QToolButton::clicked, Text, &QTextBrowser::forward);
+    connect(Text, &QTextBrowser::backwardAvailable, Back, &QWidget::setEnabled);
+    connect(Text, &QTextBrowser::forwardAvailable, Forward, &QWidget::setEnabled);
+    connect(Text, &QTextBrowser::sourceChanged, this,
+            [this](const QUrl& Address) { ShowChosen(TopicOf(Address)); });
 
-    Text = new QTextBrowser;
     Text->setOpenLinks(false);
     Text->document()->setDocumentMargin(2 * Gap);
     NameField(Text, "Help text");
@@ -150,33 +183,23 @@ void HelpWindow::Search(const QString& Wanted)
     }
 }
 
+// The browser remembers the steps.
 void HelpWindow::Choose(int Topic)
 {
-    if (Topic < 0 || Topic >= List->count()) return;
-    if (Place >= 0 && Chosen[static_cast<std::size_t>(Place)] == Topic) return;
-    Chosen.resize(static_cast<std::size_t>(++Place));
-    Chosen.push_back(Topic);
-    Open(Topic);
+    if (Topic >= 0 && Topic < List->count())
+        Text->setSource(AddressOf(Topic), QTextDocument::MarkdownResource);
 }
 
-void HelpWindow::Step(int Direction)
-{
-    Place += Direction;
-    Open(Chosen.at(static_cast<std::size_t>(Place)));
-}
-
-void HelpWindow::Open(int Topic)
+// Another topic has come up, by a choice or by a step through the choices.
+void HelpWindow::ShowChosen(int Topic)
 {
     if (List->item(Topic)->isHidden()) Words->clear(); // the search that left it out is over
     {
         const QSignalBlocker Silent(List);
         List->setCurrentRow(Topic);
     }
-    Text->setMarkdown(Topics[static_cast<std::size_t>(Topic)].Text);
     FormatTables(*Text->document());
     MarkWords();
-    Back->setEnabled(Place > 0);
-    Forward->setEnabled(Place + 1 < static_cast<int>(Chosen.size()));
 }
 
 // Shows the words that are searched for.

@@ -8,7 +8,6 @@
 class QLineEdit;
 class QListWidget;
 class QTextBrowser;
-class QToolButton;
 
 namespace velorix {
 
@@ -27,19 +26,14 @@ private:
     QWidget* TopicPane();
     QWidget* TextPane();
     void Search(const QString& Words);
-    void Choose(int Topic);   // as the user does: the step can be taken back
-    void Step(int Direction); // through what was chosen
-    void Open(int Topic);
+    void Choose(int Topic);
+    void ShowChosen(int Topic);
     void MarkWords();
 
     const std::vector<HelpTopic> Topics;
     QLineEdit* Words = nullptr;
     QListWidget* List = nullptr; // one entry a topic, in their order
     QTextBrowser* Text = nullptr;
-    QToolButton* Back = nullptr;
-    QToolButton* Forward = nullptr;
-    std::vector<int> Chosen; // topics, oldest first
-    int Place = -1;          // of the open topic among them
 };
 
 } // namespace velorix

@@ -63,8 +63,9 @@ QAction* FileMenu(QWidget* Owner)
 {
     QAction* const Transfer = MenuOf(MDIProject.munImportExport,
                                      {Command(MDIProject.mnuImport), Command(MDIProject.mnuExport)}, Owner);
-    QAction* const Screens =
-        MenuOf(MDIProject.mnuView, {Command(MDIProject.mnuGeneral), Command(MDIProject.mnuResults)}, Owner);
+    QAction* const Screens = MenuOf(
+        MDIProject.mnuView,
+        {Command(MDIProject.mnuGeneral, nullptr, QKeySequence("F6")), Command(MDIProject.mnuResults)}, Owner);
     return MenuOf(MDIProject.mnuFile,
                   {Command(MDIProject.mnuNew, "new", QKeySequence("Ctrl+N")),
                    Command(MDIProject.mnuOpen, "open", QKeySequence("Ctrl+O")),
@@ -127,12 +128,15 @@ QWidget* ToolStrip(QAction* Analyse, QAction* Preferences)
     return Strip;
 }
 
-QWidget* PicturePage()
+// What shows while no screen stands, with the line that tells how to go on.
+QWidget* PicturePage(QLabel* WayOn)
 {
     constexpr int PictureWidth = 640;
     auto* const Page = new QWidget;
     auto* const Layout = new QVBoxLayout(Page);
     Layout->addStretch(1);
+    Layout->addWidget(WayOn);
+    Layout->addSpacing(2 * Gap);
     auto* const Row = new QHBoxLayout;
     Row->addStretch(1);
     QWidget* const Picture = new PictureView("pipe", PictureWidth, "Pipeline between two reservoirs");
@@ -141,8 +145,20 @@ QWidget* PicturePage()
     Layout->addLayout(Row, 1000);
     Layout->addStretch(1);
     Page->setFocusPolicy(Qt::StrongFocus); // else the focus would go to a tool button
+    WayOn->setBuddy(Page);                 // names it to a screen reader
     for (QWidget* Each : {Page, Picture}) RaiseEvents(MDIProject.sspProject, Each);
     return Page;
+}
+
+QLabel* WayOnLine()
+{
+    QLabel* const Line = WithRole(View(MDIProject.lblWayOn), "screen");
+    Line->setAlignment(Qt::AlignCenter);
+    Line->setWordWrap(true);
+    QSizePolicy Room = Line->sizePolicy();
+    Room.setRetainSizeWhenHidden(true);
+    Line->setSizePolicy(Room);
+    return Line;
 }
 
 // The time and the date of the day.
@@ -204,7 +220,8 @@ QString DraggedFile(const QDropEvent& Event)
 
 MainWindow::MainWindow()
     : Screens(new QStackedWidget)
-    , Picture(PicturePage())
+    , WayOn(WayOnLine())
+    , Picture(PicturePage(WayOn))
     , InputScreen(InputScreenLayout())
     , ResultsScreen(ResultsScreenLayout())
 {
@@ -252,6 +269,14 @@ void MainWindow::ShowScreen()
     Screens->setCurrentWidget(Top);
     // The screen remembers who had its focus.
     NearestInReach(Top->focusWidget() ? Top->focusWidget() : FirstField(Top))->setFocus();
+}
+
+// While a dialog stands no menu can be opened.
+bool MainWindow::event(QEvent* Event)
+{
+    if (Event->type() == QEvent::WindowBlocked) WayOn->hide();
+    if (Event->type() == QEvent::WindowUnblocked) WayOn->show();
+    return QMainWindow::event(Event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* Event)

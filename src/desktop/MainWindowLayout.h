@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <functional>
 
+class QLabel;
 class QStackedWidget;
 
 namespace velorix {
@@ -18,6 +19,7 @@ public:
     std::function<void(const std::filesystem::path&)> FileDropped;
 
 protected:
+    bool event(QEvent* Event) override;
     void closeEvent(QCloseEvent* Event) override;
     void dragEnterEvent(QDragEnterEvent* Event) override;
     void dropEvent(QDropEvent* Event) override;
@@ -27,6 +29,7 @@ private:
     void ShowScreen();
 
     QStackedWidget* const Screens;
+    QLabel* const WayOn; // on the picture
     QWidget* const Picture;
     QWidget* const InputScreen;
     QWidget* const ResultsScreen;

@@ -4,6 +4,7 @@
 #include <QLocale>
 #include <QPainter>
 #include <QString>
+#include <QWidget>
 
 #include <cmath>
 
@@ -27,6 +28,12 @@ QPalette PaintedPalette(Color Back)
     for (QPalette::ColorRole Role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         Painted.setColor(Role, Qt::black);
     return Painted;
+}
+
+void PaintBack(QWidget& Painted, Color Back)
+{
+    Painted.setAutoFillBackground(!IsPaletteColor(Back));
+    Painted.setPalette(IsPaletteColor(Back) ? QPalette() : PaintedPalette(Back));
 }
 
 bool IsNumberText(const QString& Text, bool InGroups)

@@ -8,6 +8,7 @@
 class QPainter;
 class QRect;
 class QString;
+class QWidget;
 
 namespace velorix {
 
@@ -18,6 +19,9 @@ QColor ToQColor(Color Value);
 
 // Black on the told colour, whatever the desktop's colours are.
 QPalette PaintedPalette(Color Back);
+
+// Gives the widget the told colour behind its text, or the palette's own.
+void PaintBack(QWidget& Painted, Color Back);
 
 // True of a number, with the signs that stand with one: currency, per cent, and the commas of one that is
 // written in groups.

@@ -13,6 +13,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QProcess>
 #include <QScopedValueRollback>
@@ -20,6 +21,7 @@
 #include <QStandardPaths>
 #include <QSysInfo>
 
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 
@@ -64,6 +66,21 @@ void SetButtons(QMessageBox& Box, MessageButtons Buttons)
         Box.setEscapeButton(QMessageBox::Cancel);
         break;
     }
+}
+
+// Plain, as the text above it: a file name may look like markup. With room for that text, which the toolkit
+// would wrap by the length of the detail's words.
+void ShowDetail(QMessageBox& Box, const QString& Detail)
+{
+    constexpr int LeastWidth = 320;
+    constexpr int Room = 12;
+    Box.setInformativeText(Detail);
+    auto* const Shown = Box.findChild<QLabel*>("qt_msgbox_informativelabel");
+    if (!Shown) return;
+    Shown->setTextFormat(Qt::PlainText);
+    const int Width =
+        Box.fontMetrics().boundingRect(Box.screen()->availableGeometry(), 0, Box.text()).width();
+    Shown->setMinimumWidth(std::clamp(Width + Room, LeastWidth, Box.screen()->availableSize().width() / 2));
 }
 
 Answer AnswerOf(int Button)
@@ -185,6 +202,7 @@ Answer QtPlatform::Show(const Message& Box)
     Window.setWindowTitle(QString::fromStdString(Box.Title));
     Window.setTextFormat(Qt::PlainText);
     Window.setText(QString::fromStdString(Box.Text));
+    if (!Box.Detail.empty()) ShowDetail(Window, QString::fromStdString(Box.Detail));
     SetButtons(Window, Box.Buttons);
     return AnswerOf(Window.exec());
 }
@@ -227,6 +245,12 @@ void QtPlatform::SetFocus(Control& Target)
     // On a page that doesn't show the focus stays in reach: on the tabs that lead there.
     NearestInReach(View)->setFocus(Qt::OtherFocusReason);
     if (!View->hasFocus()) TellFocus(Target); // nor while another window is in front
+}
+
+bool QtPlatform::IsInReach(const Control& Target)
+{
+    QWidget* const View = FocusTarget(Target);
+    return View && NearestInReach(View) == View;
 }
 
 void QtPlatform::SetPointer(PointerShape Shape)

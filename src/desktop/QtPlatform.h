@@ -39,6 +39,7 @@ public:
     std::optional<PrintChoice> AskPrinter(const PrintDialog& Dialog) override;
 
     void SetFocus(Control& Target) override;
+    bool IsInReach(const Control& Target) override;
     void SetPointer(PointerShape Shape) override;
     void Repaint() override;
     std::string ClipboardText() override; // lines end by a carriage return and a line feed

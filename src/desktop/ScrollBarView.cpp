@@ -4,7 +4,9 @@
 #include "desktop/Binding.h"
 #include "desktop/Views.h"
 
+#include <QFocusEvent>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QSlider>
 #include <QSpinBox>
 
@@ -20,6 +22,8 @@ public:
         : Record(Shown)
         , Decimals(ShownDecimals)
     {
+        connect(lineEdit(), &QLineEdit::inputRejected, this,
+                [this] { Guarded([this] { Record.Refused(); }); });
     }
 
     // The page keys come as ten steps.
@@ -32,6 +36,13 @@ public:
     }
 
 protected:
+    // As by the Tab key, when the program or a page gives the focus.
+    void focusInEvent(QFocusEvent* Focus) override
+    {
+        QSpinBox::focusInEvent(Focus);
+        if (Focus->reason() == Qt::OtherFocusReason) selectAll();
+    }
+
     QString textFromValue(int Value) const override
     {
         return QString::number(Value / Scale(), 'f', Decimals);

@@ -7,6 +7,7 @@
 #include <QFontInfo>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QTabBar>
 
 namespace velorix {
 namespace {
@@ -19,7 +20,7 @@ const ColorSet LightColors = {
 const ColorSet DarkColors = {
     .Dark = true,
     .Window = "#1a2026", .Card = "#232b32", .Field = "#1b2228", .Button = "#323d46", .Border = "#3b4751",
-    .Ink = "#e4eaef", .Muted = "#a3b0bb", .Disabled = "#6d7a85", .Accent = "#5db4e3", .Tint = "#2b4a5e"};
+    .Ink = "#e4eaef", .Muted = "#a3b0bb", .Disabled = "#8e9ba6", .Accent = "#5db4e3", .Tint = "#2b4a5e"};
 // clang-format on
 
 const ColorSet* InUse = &LightColors;
@@ -37,6 +38,14 @@ public:
     {
         if (Hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
         return QProxyStyle::styleHint(Hint, Option, Widget, Answer);
+    }
+
+    // A tab with the focus is tinted; the toolkit's own mark would lie over its text.
+    void drawPrimitive(PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter,
+                       const QWidget* Widget) const override
+    {
+        if (Element == PE_FrameFocusRect && qobject_cast<const QTabBar*>(Widget)) return;
+        QProxyStyle::drawPrimitive(Element, Option, Painter, Widget);
     }
 
     QIcon standardIcon(StandardPixmap Kind, const QStyleOption* Option, const QWidget* Widget) const override
@@ -121,10 +130,14 @@ QString SheetOf(const ColorSet& Set)
     return Text;
 }
 
-// The outlines of fields are drawn in a shade of the window behind them, which vanishes when that is dark.
-// These fields don't paint the window's colour themselves, so they can be told a lighter one.
+// The outlines of fields are drawn in a shade of the window behind them, which vanishes when that is dark,
+// and with the focus in a shade of what is selected. The fields that don't paint the window's colour
+// themselves can be told a lighter one.
 void LiftOutlines(QPalette Palette)
 {
+    Palette.setColor(QPalette::Highlight, Colors().Accent);
+    Palette.setColor(QPalette::HighlightedText, Colors().Field);
+    for (const char* Kind : {"QComboBox", "QPushButton"}) QApplication::setPalette(Palette, Kind);
     Palette.setColor(QPalette::Window, "#8494a0");
     for (const char* Kind :
          {"QLineEdit", "QPlainTextEdit", "QAbstractSpinBox", "QRadioButton", "QProgressBar"})

@@ -9,7 +9,10 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScopedValueRollback>
 #include <QTextBlock>
+
+#include <type_traits>
 
 namespace velorix {
 namespace {
@@ -73,15 +76,20 @@ public:
     {
     }
 
+    // While a typed character works its change.
+    bool IsTyping() const { return Typing; }
+
 protected:
     void keyPressEvent(QKeyEvent* Key) override
     {
         const bool Escape = Key->key() == Qt::Key_Escape;
         if (IsCommandKey(*Key)) return Key->ignore();
-        if (!Allows(SpecialKey(*Key), TypedKeys(*Key))) {
+        const std::vector<int> Typed = TypedKeys(*Key);
+        if (!Allows(SpecialKey(*Key), Typed)) {
             Key->setAccepted(!Escape); // a box never keeps its dialog from closing
             return;
         }
+        const QScopedValueRollback<bool> Now(Typing, !Typed.empty());
         Widget::keyPressEvent(Key);
         const bool Enter = Key->key() == Qt::Key_Return || Key->key() == Qt::Key_Enter;
         if (Enter) Key->accept(); // it presses no button of the dialog
@@ -90,19 +98,26 @@ protected:
     // Dead keys and input methods type characters too.
     void inputMethodEvent(QInputMethodEvent* Typed) override
     {
-        if (Allows(0, CodePoints(Typed->commitString())))
-            Widget::inputMethodEvent(Typed);
-        else
-            Typed->accept();
+        if (!Allows(0, CodePoints(Typed->commitString()))) return Typed->accept();
+        const QScopedValueRollback<bool> Now(Typing, true);
+        Widget::inputMethodEvent(Typed);
     }
 
+    // Typing replaces what stands in a line, but goes on with the text of a cell: its editor is no stop of
+    // the Tab key. For that key the toolkit itself selects.
     void focusInEvent(QFocusEvent* Focus) override
     {
         Widget::focusInEvent(Focus);
-        if (Focus->reason() == Qt::OtherFocusReason) ShowCaret(); // the program has put it here
+        if (Focus->reason() != Qt::OtherFocusReason) return;
+        if (IsLine && this->focusPolicy() & Qt::TabFocus)
+            this->selectAll();
+        else
+            ShowCaret(); // the program has put it here
     }
 
 private:
+    static constexpr bool IsLine = std::is_base_of_v<QLineEdit, Widget>;
+
     bool Allows(int Special, const std::vector<int>& Typed)
     {
         const QString Before = TextOf(*this);
@@ -116,6 +131,7 @@ private:
     void ShowCaret() { MoveCursor(*this, CursorAt(TextOf(*this), Record.SelStart)); }
 
     TextBox& Record;
+    bool Typing = false;
 };
 
 // Puts the storable text in place of what the user has just put in, as one step that undo takes back.
@@ -143,7 +159,10 @@ QLineEdit* MakeLine(TextBox& Record, int Bound)
     });
     QObject::connect(View, &QLineEdit::textChanged, View, [&Record, View](const QString& Text) {
         HoldStorable(*View, Text);
+        const QString Before = QString::fromStdString(Record.Text);
         Enter(Record.Text, View->text().toStdString(), View);
+        const QString Put = View->IsTyping() ? QString() : Between(Before, View->text()).With;
+        if (!Put.isEmpty()) Guarded([&] { Record.Inserted(Put.toStdString()); });
     });
     Attach(Record, View);
     return View;

@@ -29,16 +29,12 @@ namespace velorix {
 class GridView;
 class ScrollBarView;
 
-using ColorNames = std::vector<std::pair<Color, QString>>;
-
 // Each view shows the record's fields, follows them as code changes them, writes what the user does back
 // through the same assignment with itself as the source, shows and hides, enables and disables itself as the
 // record tells, raises GotFocus and MouseMove, and bears the tool tip. The accessible name is the tool tip
 // until a layout gives a better one. A view that is shown or hidden takes the buddies that the layout has
 // tied to it along.
 QLabel* View(Label& Record);
-QLabel* ColorView(Label& Record); // a coloured field that can be clicked and reached by keyboard
-QLabel* ColorView(Label& Record, const ColorNames& Names); // the names that a screen reader gives the colours
 QGroupBox* View(Frame& Record);
 QLineEdit* View(TextBox& Record);       // text
 QLineEdit* NumberView(TextBox& Record); // a number: right-aligned, tabular digits

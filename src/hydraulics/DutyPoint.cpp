@@ -2,10 +2,12 @@
 #include "hydraulics/DutyPoint.h"
 
 #include "base/Arithmetic.h"
+#include "hydraulics/CurveHeads.h"
 #include "hydraulics/HydraulicResults.h"
 #include "hydraulics/SystemCurve.h"
 #include "model/WorkingSet.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace velorix {
@@ -15,8 +17,6 @@ namespace {
 constexpr int PumpPoints = 6;
 constexpr int Segments = PumpPoints - 1;
 constexpr int Steps = CurvePoints / Segments; // points of the flow grid that stand for a segment
-
-using StepList = Array0<Single, Steps + 1>;
 
 struct PumpCurvePoints {
     Array1<Single, PumpPoints> Head;       // m
@@ -35,26 +35,77 @@ PumpCurvePoints PumpCurveInMetres()
     return Pump;
 }
 
-// The segment that the first matching point of the system curve lies on; 0 when no point matches any.
-int CrossedSegment(const PumpCurvePoints& Pump)
+// The segment whose heads and flows a point of the system curve lies between; 0 when there is none.
+int SegmentOf(const PumpCurvePoints& Pump, double Q, double S)
 {
-    const auto& Flows = SystemFlowByYear.Year(AnalysisYear);
-    for (int i = 1; i <= CurvePoints; ++i) {
-        const double Q = Ordered(Flows[i]);
-        const double S = Ordered(SystemHead[i]);
-        for (int p = 1; p <= Segments; ++p)
-            if (Pump.Head[p] >= S && Pump.Head[p + 1] < S && Pump.Flow[p] <= Q && Pump.Flow[p + 1] > Q)
-                return p;
-    }
+    for (int p = 1; p <= Segments; ++p)
+        if (Pump.Head[p] >= S && Pump.Head[p + 1] < S && Pump.Flow[p] <= Q && Pump.Flow[p + 1] > Q) return p;
     return 0;
 }
 
-// Points along a segment, from one end to the other.
-StepList Interpolated(double From, double To)
+// Whether some of the points First to Last may lie on a segment, by the bounds of their heads and flows.
+bool MayMatch(const PumpCurvePoints& Pump, const CurveHeads& Heads, int First, int Last)
 {
-    StepList Values;
-    for (int j = 0; j <= Steps; ++j) Values[j] = Checked(From + (To - From) * j / Steps);
-    return Values;
+    const auto [Low, High] = Heads.Between(First, Last);
+    const auto [Least, Most] = std::minmax<double>({GridFlow(First), GridFlow(Last)});
+    for (int p = 1; p <= Segments; ++p)
+        if (Pump.Head[p] >= Low && Pump.Head[p + 1] < High && Pump.Flow[p] <= Most &&
+            Pump.Flow[p + 1] > Least)
+            return true;
+    return false;
+}
+
+// The segment that the first matching one of the points First to Last lies on; 0 when no point matches any.
+int CrossedSegment(const PumpCurvePoints& Pump, CurveHeads& Heads, int First, int Last)
+{
+    if (Heads.Bounded() && !MayMatch(Pump, Heads, First, Last)) return 0;
+    if (First == Last) return SegmentOf(Pump, Ordered(GridFlow(First)), Ordered(Heads.At(First)));
+    const int Middle = First + (Last - First) / 2;
+    const int Found = CrossedSegment(Pump, Heads, First, Middle);
+    return Found != 0 ? Found : CrossedSegment(Pump, Heads, Middle + 1, Last);
+}
+
+// A quantity of the pump along a segment, from one end at step 0 to the other.
+struct Interpolation {
+    double From;
+    double To;
+
+    Single At(int Step) const { return Checked(From + (To - From) * Step / Steps); }
+};
+
+// Pump head less system head along a segment. The fifth of the flow grid with the segment's number stands for
+// the segment.
+struct HeadDifference {
+    Interpolation Pump;
+    CurveHeads& System;
+    int FirstPoint;
+
+    Single At(int Step) const { return Checked(Pump.At(Step) - System.At(FirstPoint + Step)); }
+
+    // Whether it certainly has one sign at the steps First to Last. The pump's head falls from step to step.
+    bool OneSided(int First, int Last) const
+    {
+        const auto [Low, High] = System.Between(FirstPoint + First, FirstPoint + Last);
+        return Pump.At(Last) > High || Pump.At(First) < Low;
+    }
+
+    // Works every step, as one of them may fail.
+    void TryAll() const
+    {
+        for (int Step = 0; Step <= Steps; ++Step) At(Step);
+    }
+};
+
+constexpr int NoStep = -1;
+
+// The first of the steps First to Last - 1 above 0 whose next lies below 0.
+int FirstCrossing(const HeadDifference& D, int First, int Last)
+{
+    if (D.System.Bounded() && D.OneSided(First, Last)) return NoStep;
+    if (Last - First == 1) return Ordered(D.At(First)) > 0 && Ordered(D.At(Last)) < 0 ? First : NoStep;
+    const int Middle = First + (Last - First) / 2;
+    const int Found = FirstCrossing(D, First, Middle);
+    return Found != NoStep ? Found : FirstCrossing(D, Middle, Last);
 }
 
 void TakePoint(Single Head, Single Flow, Single EfficiencyThere)
@@ -66,34 +117,35 @@ void TakePoint(Single Head, Single Flow, Single EfficiencyThere)
     DutyEfficiency = DutyEfficiencyPoint;
 }
 
-// Takes the point of the segment next to where the curves cross; false when they don't. The fifth of the flow
-// grid with the segment's number stands for the segment, so the first segment asks for point 0 of the system
-// curve: a subscript failure, and intended.
-bool PickPoint(const PumpCurvePoints& Pump, int Segment)
+// Takes the point of the segment next to where the curves cross; false when they don't. The first segment
+// asks for point 0 of the system curve: a subscript failure, and intended.
+bool PickPoint(const PumpCurvePoints& Pump, int Segment, CurveHeads& Heads)
 {
-    const StepList H = Interpolated(Pump.Head[Segment], Pump.Head[Segment + 1]);
-    const StepList F = Interpolated(Pump.Flow[Segment], Pump.Flow[Segment + 1]);
-    const StepList E = Interpolated(Pump.Efficiency[Segment], Pump.Efficiency[Segment + 1]);
-    StepList D;
-    for (int j = 0; j <= Steps; ++j) D[j] = Checked(H[j] - SystemHead[(Segment - 1) * Steps + j]);
+    const auto Along = [&](const Array1<Single, PumpPoints>& Of) {
+        return Interpolation{Of[Segment], Of[Segment + 1]};
+    };
+    const Interpolation H = Along(Pump.Head), F = Along(Pump.Flow), E = Along(Pump.Efficiency);
+    for (const Interpolation& Each : {H, F, E}) Each.At(0); // one with an end that isn't finite fails here
+    if (Segment == 1) throw SubscriptFailure(0, 1, CurvePoints);
 
-    for (int j = 0; j < Steps; ++j) {
-        if (!(Ordered(D[j]) > 0 && Ordered(D[j + 1]) < 0)) continue;
-        const int Nearer = std::fabs(D[j + 1]) <= D[j] ? j + 1 : j;
-        TakePoint(H[Nearer], F[Nearer], E[Nearer]);
-        return true;
-    }
-    return false;
+    const HeadDifference D{H, Heads, (Segment - 1) * Steps};
+    const bool MayFail = !Heads.Bounded() || H.From > KernelHeadLimit || H.To < -KernelHeadLimit;
+    if (MayFail) D.TryAll();
+    const int j = FirstCrossing(D, 0, Steps);
+    if (j == NoStep) return false;
+    const int Nearer = std::fabs(D.At(j + 1)) <= D.At(j) ? j + 1 : j;
+    TakePoint(H.At(Nearer), F.At(Nearer), E.At(Nearer));
+    return true;
 }
 
 } // namespace
 
-bool FindDutyPoint()
+bool FindDutyPoint(Tables Wanted)
 {
-    StoreSystemCurve();
+    CurveHeads Heads(Wanted);
     const PumpCurvePoints Pump = PumpCurveInMetres();
-    const int Segment = CrossedSegment(Pump);
-    return Segment != 0 && PickPoint(Pump, Segment);
+    const int Segment = CrossedSegment(Pump, Heads, 1, CurvePoints);
+    return Segment != 0 && PickPoint(Pump, Segment, Heads);
 }
 
 } // namespace velorix

@@ -28,42 +28,79 @@ void StoreRoughness()
     for (int y = FirstOld; y <= wLife; ++y) KsYear[y] = KsOldM;
 }
 
+// Pipes of one bore stand side by side as a rule, and share the logarithm.
 void StoreFrictionFactors(int Year)
 {
-    for (int i = 1; i <= NodeCount; ++i)
-        Lambda(i, Year) = Checked(RoughPipeFactor(InternalDiameter[i], KsYear[Year]));
-}
-
-void StoreRowLosses(int Row, int Year)
-{
-    const double Q = Flow[Year];
-    const double D = InternalDiameter[Row];
-    FrictionLoss(Row, Year) = Checked(FrictionHead(Q, D, SectionLength[Row], Lambda(Row, Year)));
-    SecondaryHeadLoss(Row, Year) = Checked(SecondaryHead(Q, D, wSecondaryLoss[Row]));
-}
-
-// Runs down from the upstream reservoir. Point i is the head just downstream of section i.
-void StoreGravityGradeline(int Year)
-{
-    Gradeline(0, Year) = UpstreamLevel;
     for (int i = 1; i <= NodeCount; ++i) {
-        StoreRowLosses(i, Year);
-        Gradeline(i, Year) =
-            Checked(Gradeline(i - 1, Year) - FrictionLoss(i, Year) - SecondaryHeadLoss(i, Year));
+        const bool SameBore = i > 1 && InternalDiameter[i].Bits() == InternalDiameter[i - 1].Bits();
+        Lambda(i, Year) =
+            SameBore ? Lambda(i - 1, Year) : Checked(RoughPipeFactor(InternalDiameter[i], KsYear[Year]));
     }
 }
 
-// Point 0 is the ground at the pump station.
-void StorePumpingGradeline(int Year)
+// Where the losses and heads of a year go.
+struct YearHeads {
+    ByRow& Friction;
+    ByRow& Secondary;
+    HeadList& Head;
+};
+
+template <typename Steps>
+void WorkRow(int Row, int Year, const YearHeads& To)
 {
-    Gradeline(0, Year) = wElevation[1];
-    StorePumpingHeads(FrictionLoss.Year(Year), SecondaryHeadLoss.Year(Year), Gradeline.Year(Year));
+    const double Q = Flow[Year];
+    const double D = InternalDiameter[Row];
+    To.Friction[Row] = Steps::Stored(FrictionHead(Q, D, SectionLength[Row], Lambda(Row, Year)));
+    To.Secondary[Row] = Steps::Stored(SecondaryHead(Q, D, wSecondaryLoss[Row]));
 }
 
-void StorePumpingLosses(int Year)
+// The gradeline runs down from the upstream reservoir. Point i is the head just downstream of section i.
+// This and the next are not inlined, so that all arithmetic is done before the status flags are read.
+template <typename Steps>
+[[gnu::noinline]] void WorkGravityYear(int Year, const YearHeads& To)
 {
-    for (int i = 1; i <= NodeCount; ++i) StoreRowLosses(i, Year);
-    StorePumpingGradeline(Year);
+    To.Head[0] = UpstreamLevel;
+    for (int i = 1; i <= NodeCount; ++i) {
+        WorkRow<Steps>(i, Year, To);
+        To.Head[i] = Steps::Stored(To.Head[i - 1] - To.Friction[i] - To.Secondary[i]);
+    }
+}
+
+// Point 0 of the gradeline is the ground at the pump station.
+template <typename Steps>
+[[gnu::noinline]] void WorkPumpingYear(int Year, const YearHeads& To)
+{
+    for (int i = 1; i <= NodeCount; ++i) WorkRow<Steps>(i, Year, To);
+    To.Head[0] = wElevation[1];
+    WorkPumpingHeads<Steps>(To.Friction, To.Secondary, To.Head);
+}
+
+using YearWork = void (*)(int Year, const YearHeads& To);
+
+// Stores what a year's work gives, up to the first step that fails.
+void StoreYear(int Year, YearWork WorkAsBlock, YearWork WorkEachStep)
+{
+    const YearHeads Stored{FrictionLoss.Year(Year), SecondaryHeadLoss.Year(Year), Gradeline.Year(Year)};
+    ByRow Friction, Secondary;
+    HeadList Head;
+    WorkAsBlock(Year, {Friction, Secondary, Head});
+    if (ArithmeticFailed()) {
+        ClearArithmeticFlags();
+        return WorkEachStep(Year, Stored);
+    }
+    std::copy_n(Friction.begin(), NodeCount, Stored.Friction.begin());
+    std::copy_n(Secondary.begin(), NodeCount, Stored.Secondary.begin());
+    std::copy_n(Head.begin(), NodeCount + 1, Stored.Head.begin());
+}
+
+void StoreGravityYear(int Year)
+{
+    StoreYear(Year, WorkGravityYear<AsBlock>, WorkGravityYear<EachStep>);
+}
+
+void StorePumpingYear(int Year)
+{
+    StoreYear(Year, WorkPumpingYear<AsBlock>, WorkPumpingYear<EachStep>);
 }
 
 void SolveGravity()
@@ -72,26 +109,26 @@ void SolveGravity()
     for (int y = 1; y <= wLife; ++y) {
         StoreFrictionFactors(y);
         Flow[y] = GravityFlow(y, H);
-        StoreGravityGradeline(y);
+        StoreGravityYear(y);
     }
 }
 
 // The year without a duty point goes on with the flow that stands, and the loop ends in the next one.
-void SolvePumpCurve(const FlowEvents& Events)
+void SolvePumpCurve(Tables Wanted, const FlowEvents& Events)
 {
     for (int y = 1; y <= wLife; ++y) {
         StoreFrictionFactors(y);
         AnalysisYear = static_cast<std::int16_t>(y);
         if (AnalysisAborted != 0) return;
 
-        if (!FindDutyPoint()) {
+        if (!FindDutyPoint(Wanted)) {
             if (Events.DutyPointMissing) Events.DutyPointMissing();
             AnalysisAborted = -1;
             ClearArithmeticFlags(); // what the event worked out is no part of the analysis
         }
         Flow[y] = OperatingFlow;
         Efficiency[y] = DutyEfficiency;
-        StorePumpingLosses(y);
+        StorePumpingYear(y);
         PumpHead[y] = Checked(Gradeline(1, y) - Gradeline(0, y));
         PumpFlow[y] = Flow[y];
         PumpEfficiencyByYear[y] = Efficiency[y];
@@ -104,11 +141,11 @@ void SolveGivenFlow()
         StoreFrictionFactors(y);
         OperatingFlow = Checked(wPumpOperatingFlowrate * OperatingFlowFactor);
         Flow[y] = OperatingFlow;
-        StorePumpingLosses(y);
+        StorePumpingYear(y);
     }
 }
 
-void SolveAllYears(const FlowEvents& Events)
+void SolveAllYears(Tables Wanted, const FlowEvents& Events)
 {
     StoreRoughness();
     if (!IsPumping())
@@ -116,17 +153,17 @@ void SolveAllYears(const FlowEvents& Events)
     else if (wPumpDetails == 0)
         SolveGivenFlow();
     else
-        SolvePumpCurve(Events);
+        SolvePumpCurve(Wanted, Events);
 }
 
 } // namespace
 
-void SolveFlows(const FlowEvents& Events)
+void SolveFlows(Tables Wanted, const FlowEvents& Events)
 {
     HydraulicsFailed = 0;
     ClearArithmeticFlags();
     try {
-        SolveAllYears(Events);
+        SolveAllYears(Wanted, Events);
     } catch (const Failure&) {
         HydraulicsFailed = 1;
         if (Events.Failed) Events.Failed();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "hydraulics/HydraulicResults.h"
+#include "hydraulics/Tables.h"
 
 #include <functional>
 
@@ -15,6 +16,6 @@ struct FlowEvents {
 
 // Solves all years. Its own failure stands in HydraulicsFailed, a missing duty point in AnalysisAborted; it
 // returns normally in every case.
-void SolveFlows(const FlowEvents& Events = {});
+void SolveFlows(Tables Wanted, const FlowEvents& Events = {});
 
 } // namespace velorix

@@ -3,32 +3,20 @@
 
 #include "base/Arithmetic.h"
 #include "base/Arrays.h"
-#include "hydraulics/Formulas.h"
 #include "hydraulics/HighPoint.h"
+#include "hydraulics/Kernels.h"
+#include "hydraulics/LossCoefficients.h"
 #include "hydraulics/Normalise.h"
+#include "hydraulics/RowLosses.h"
 #include "model/WorkingSet.h"
 
 #include <cmath>
+#include <optional>
 
 namespace velorix {
 namespace {
 
 using PressureList = Array0<Single, 100>; // pressure head behind each section (m), from entry 1 on
-
-// Losses summed along the pipeline at one flow.
-struct LossSums {
-    Single Friction;
-    Single Secondary;
-
-    void Add(int Row, int Year, double Q)
-    {
-        const double D = InternalDiameter[Row];
-        Friction = Checked(Friction + FrictionHead(Q, D, SectionLength[Row], Lambda(Row, Year)));
-        Secondary = Checked(Secondary + SecondaryHead(Q, D, wSecondaryLoss[Row]));
-    }
-
-    double Total() const { return Friction + Secondary; }
-};
 
 bool SameSixthDecimal(double A, double B)
 {
@@ -60,32 +48,129 @@ bool Halve(Bounds& Q, bool Above)
     return SameSixthDecimal(Q.Low, Q.Mid);
 }
 
+const Single Tolerance = 1.0 / 1000000;
+constexpr double LargestFlow = 100; // m3/s
+
+// The losses at a flow beside the available head.
+struct Comparison {
+    int Side;     // 1 when the losses are above the head, -1 below
+    Single Error; // between the two (m)
+};
+
+// Losses summed along the pipeline.
+struct LossSums {
+    Single Friction;
+    Single Secondary;
+
+    double Total() const { return Friction + Secondary; }
+};
+
+// Nothing of a sum is kept when a row fails, so a failure is looked for once: the total hangs on all of them.
+LossSums SumLosses(int Year, double Q)
+{
+    RowLosses Rows;
+    WorkRowLosses(Year, Q, Rows);
+    LossSums Sums;
+    for (int i = 1; i <= NodeCount; ++i) {
+        Sums.Friction += Rows.Friction[i - 1];
+        Sums.Secondary += Rows.Secondary[i - 1];
+    }
+    return Sums;
+}
+
+// Compares with the losses added up row by row.
+Comparison CompareByRows(int Year, Single H, double Q)
+{
+    const LossSums Losses = SumLosses(Year, Q);
+    const double Rounded = Ordered(Checked(Losses.Total()));
+    return {(Rounded > Ordered(H)) - (Rounded < H), Checked(std::fabs(H - Losses.Total()))};
+}
+
+// The losses of the whole pipeline as one coefficient of the squared flow, and how far their rounded sums can
+// lie from that.
+//
+// Each of the two sums is rounded to 32 bits NodeCount times, so by the usual bound it is off by less than
+// NodeCount * u of the sum of its terms' sizes, with u = 2^-24 and a little for the second order; the total
+// is rounded once more. LossTolerance, the roundings in double and those here are far below the u that is
+// left over. A sum too small for 32 bits is off by 2^-150 at each step.
+class TotalLoss {
+public:
+    TotalLoss(int Year, Single H)
+        : Head(H)
+    {
+        LossCoefficients Losses;
+        if (NodeCount < 1 || NodeCount > PressureList::LastIndex || !FindLossCoefficients(Year, Losses))
+            return;
+        double LargestLevel = std::fabs(H);
+        for (int i = 1; i <= NodeCount; ++i) {
+            Coefficient += Losses.Friction[i - 1] + Losses.Secondary[i - 1];
+            LargestLevel += std::fabs(StaticHead(i));
+        }
+        Slack = (NodeCount + 4) * 0x1p-24 * Losses.LargestTotal;
+        Holds = std::isless(Losses.LargestTotal * LargestFlow * LargestFlow + LargestLevel, KernelHeadLimit);
+    }
+
+    // Without it nothing is certain.
+    bool Proves() const { return Holds; }
+
+    // The comparison where it is certain and the error above the tolerance; some such error then.
+    std::optional<Comparison> Compare(double Q) const
+    {
+        const double Excess = Coefficient * Q * Q - Head;
+        const double Unsure = Slack * Q * Q + 1e-40 + 2 * Tolerance;
+        if (!Holds || std::fabs(Excess) <= Unsure) return std::nullopt;
+        return Comparison{Excess > 0 ? 1 : -1, 1};
+    }
+
+private:
+    double Head;
+    double Coefficient = 0; // m per (m3/s)^2
+    double Slack = 0;
+    bool Holds = false;
+};
+
+// Pressure heads at one flow. Not inlined, so that all arithmetic is done before the status flags are read.
+[[gnu::noinline]] void WorkPressures(int Year, double Q, PressureList& P)
+{
+    RowLosses Rows;
+    WorkRowLosses(Year, Q, Rows);
+    LossSums Sums;
+    for (int i = 1; i <= NodeCount; ++i) {
+        Sums.Friction += Rows.Friction[i - 1];
+        Sums.Secondary += Rows.Secondary[i - 1];
+        P[i] = StaticHead(i) - Sums.Friction - Sums.Secondary;
+    }
+}
+
 // P is left as the last pass found it, for the midpoint before its final update.
 Single ConvergedFlow(int Year, Single H, PressureList& P)
 {
-    const Single Tolerance = 1.0 / 1000000;
-    Bounds Q{Tolerance, 100, (Tolerance + 100) / 2};
+    const TotalLoss Quick(Year, H);
+    ClearArithmeticFlags(); // numbers that are far out may have raised some
+    const auto Compare = [&](double Q) {
+        const auto Certain = Quick.Compare(Q);
+        return Certain ? *Certain : CompareByRows(Year, H, Q);
+    };
+
+    Bounds Q{Tolerance, LargestFlow, (Tolerance + LargestFlow) / 2};
+    Comparison AtLow = Compare(Q.Low);                   // later bounds were midpoints before
+    if (!Quick.Proves()) CompareByRows(Year, H, Q.High); // decides nothing, but may overflow
+    Bounds Before = Q;
     Single Error = 1;
 
     while (Tolerance < Error) {
-        LossSums AtLow, AtMid, AtHigh; // those at High decide nothing, but may overflow
-        for (int i = 1; i <= NodeCount; ++i) {
-            AtLow.Add(i, Year, Q.Low);
-            AtMid.Add(i, Year, Q.Mid);
-            AtHigh.Add(i, Year, Q.High);
-            P[i] = Checked(StaticHead(i) - AtMid.Friction - AtMid.Secondary);
-        }
-
-        const Bounds Before = Q;
-        const double A = Ordered(Checked(AtLow.Total()));
-        const double C = Ordered(Checked(AtMid.Total()));
-        const bool Agreed = Halve(Q, A > Ordered(H) || C < H);
-        Error = Checked(std::fabs(H - AtMid.Total()));
-        if (Agreed) Error = 1.0 / 1000001;
+        Before = Q;
+        const Comparison AtMid = Compare(Q.Mid);
+        const bool Above = AtLow.Side > 0 || AtMid.Side < 0;
+        const bool Agreed = Halve(Q, Above);
+        if (Above) AtLow = AtMid;
+        Error = Agreed ? Single(1.0 / 1000001) : AtMid.Error;
         if (SameSixthDecimal(Q.Low, Q.High)) break;
         // From about 0.5 m3/s on, neighbouring numbers lie too far apart to meet the tests above.
         if (Q == Before) break;
     }
+    WorkPressures(Year, Before.Mid, P);
+    CheckArithmetic();
     return Q.Mid;
 }
 

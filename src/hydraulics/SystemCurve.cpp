@@ -2,9 +2,9 @@
 #include "hydraulics/SystemCurve.h"
 
 #include "base/Arithmetic.h"
-#include "hydraulics/Formulas.h"
 #include "hydraulics/Kernels.h"
 #include "hydraulics/PumpingHeads.h"
+#include "hydraulics/RowLosses.h"
 #include "model/WorkingSet.h"
 
 #include <algorithm>
@@ -13,27 +13,12 @@
 namespace velorix {
 namespace {
 
-// Flow at a point: one step above the first flow of the pump curve at point 1, on the last at CurvePoints.
-double GridFlow(int Point)
+// Flow at a point, before it is stored.
+double FlowAt(int Point)
 {
     const double First = wPumpCurve[2];
     const double Last = wPumpCurve[17];
     return (First + (Last - First) * Point / CurvePoints) * FlowFactor;
-}
-
-// System head at the flow Q (m), each quantity stored where its step ends.
-Single PlainSystemHead(Single Q)
-{
-    ByRow Friction, Secondary;
-    for (int i = 1; i <= NodeCount; ++i) {
-        const double D = InternalDiameter[i];
-        Friction[i] = Checked(FrictionHead(Q, D, SectionLength[i], Lambda(i, AnalysisYear)));
-        Secondary[i] = Checked(SecondaryHead(Q, D, wSecondaryLoss[i]));
-    }
-
-    HeadList Head;
-    StorePumpingHeads(Friction, Secondary, Head);
-    return Checked(Head[1] - UpstreamLevel);
 }
 
 void StorePoint(int Point, Single Q, Single Head)
@@ -45,27 +30,8 @@ void StorePoint(int Point, Single Q, Single Head)
 
 void StorePlainPoint(int Point)
 {
-    const Single Q = Checked(GridFlow(Point));
-    StorePoint(Point, Q, PlainSystemHead(Q));
-}
-
-// The year's data for the kernel. False when a number lies so far out that the kernel might not see a failure
-// or might round differently: then the year is worked point by point.
-bool PrepareKernel(SystemHeadProfile& Profile, LossCoefficients& Losses)
-{
-    if (NodeCount < 1 || !FindLossCoefficients(AnalysisYear, Losses)) return false;
-
-    const double LargestFlow = std::fabs(GridFlow(0)) + std::fabs(GridFlow(CurvePoints));
-    double LargestLevel = std::fabs(UpstreamLevel) + std::fabs(DownstreamLevel);
-    for (int i = 1; i <= NodeCount; ++i) {
-        Profile.GroundLevel[i - 1] = wElevation[i];
-        LargestLevel += std::fabs(wElevation[i]);
-    }
-    Profile.RowCount = NodeCount;
-    Profile.UpstreamLevel = UpstreamLevel;
-    Profile.DownstreamLevel = DownstreamLevel;
-    return std::isless(LargestFlow, 1e30) &&
-           std::isless(Losses.LargestTotal * LargestFlow * LargestFlow + LargestLevel, KernelHeadLimit);
+    const Single Q = Checked(FlowAt(Point));
+    StorePoint(Point, Q, SystemHeadAt(Q));
 }
 
 bool TooSmallForKernel(double Q)
@@ -94,6 +60,43 @@ void StoreBlock(int FirstPoint, const SystemHeadProfile& Profile, const LossCoef
 }
 
 } // namespace
+
+Single GridFlow(int Point)
+{
+    return FlowAt(Point);
+}
+
+// Nothing of it is kept when a row fails, so a failure is looked for once.
+Single SystemHeadAt(Single Q)
+{
+    RowLosses Losses;
+    WorkRowLosses(AnalysisYear, Q, Losses);
+    ByRow Friction, Secondary;
+    for (int i = 1; i <= NodeCount; ++i) {
+        Friction[i] = Losses.Friction[i - 1];
+        Secondary[i] = Losses.Secondary[i - 1];
+    }
+    HeadList Head;
+    WorkPumpingHeads<AsBlock>(Friction, Secondary, Head);
+    return Checked(Head[1] - UpstreamLevel);
+}
+
+bool PrepareKernel(SystemHeadProfile& Profile, LossCoefficients& Losses)
+{
+    if (NodeCount < 1 || !FindLossCoefficients(AnalysisYear, Losses)) return false;
+
+    const double LargestFlow = std::fabs(FlowAt(0)) + std::fabs(FlowAt(CurvePoints));
+    double LargestLevel = std::fabs(UpstreamLevel) + std::fabs(DownstreamLevel);
+    for (int i = 1; i <= NodeCount; ++i) {
+        Profile.GroundLevel[i - 1] = wElevation[i];
+        LargestLevel += std::fabs(wElevation[i]);
+    }
+    Profile.RowCount = NodeCount;
+    Profile.UpstreamLevel = UpstreamLevel;
+    Profile.DownstreamLevel = DownstreamLevel;
+    return std::isless(LargestFlow, 1e30) &&
+           std::isless(Losses.LargestTotal * LargestFlow * LargestFlow + LargestLevel, KernelHeadLimit);
+}
 
 void StoreSystemCurve()
 {

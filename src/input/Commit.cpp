@@ -12,16 +12,29 @@
 #include "screens/MainWindow.h"
 
 #include <cctype>
+#include <utility>
 
 namespace velorix {
 namespace {
 
-// The page on top stays, whichever page holds the box.
+// The button that opens the pane of a box; nullptr for a box that stands on its page.
+CommandButton* ButtonTo(const TextBox& Box)
+{
+    for (auto* Column : {&frmLCC.txtH, &frmLCC.txtQ, &frmLCC.txtEfficiency})
+        for (const TextBox& Each : *Column)
+            if (&Each == &Box) return &frmLCC.sscPumpcurve;
+    return nullptr;
+}
+
+// The page on top stays, whichever page holds the box: a box of another page or pane waits for
+// GoToPointedOut.
 void PointOut(TextBox& Box, const std::string& Problem)
 {
     Warn(Problem, "Error !");
     frmLCC.Visible = true;
     System().SetFocus(Box);
+    PointedOut = &Box;
+    GoToPointedOut();
 }
 
 // Looks for an empty box; in between, grids are read.
@@ -76,6 +89,7 @@ void TakeInputs()
 void CommitProject()
 {
     Committing = 1;
+    PointedOut = nullptr;
     TakeOptions();
     if (!InputIsComplete() || !NumbersAreReadable()) return;
     TakeInputs();
@@ -86,6 +100,16 @@ void CommitProject()
 
     WriteProjectFile(FileName, ProjectRecord, ShortFile::Fails);
     LoadProject();
+}
+
+void GoToPointedOut()
+{
+    if (!PointedOut) return;
+    CommandButton* const Button = ButtonTo(*PointedOut);
+    if (System().IsInReach(*PointedOut))
+        System().SetFocus(*std::exchange(PointedOut, nullptr));
+    else if (Button && System().IsInReach(*Button))
+        System().SetFocus(*Button);
 }
 
 } // namespace velorix

@@ -14,4 +14,8 @@ namespace velorix {
 // Throws FileFailure, with Committing 0 and the record new, when the file can't be written or read back.
 void CommitProject();
 
+// To be called when another page or pane has come up: the box that a failed check pointed out last gets the
+// focus if it shows there, or else the button that leads to it.
+void GoToPointedOut();
+
 } // namespace velorix

@@ -25,10 +25,10 @@ constexpr const char* ProjectExtension = ".vlx";
 constexpr int ProjectFilter = 2; // the second filter of both dialogs
 
 // A command has failed: the user is told, and the project that stays open is shown again.
-void ReportFailure(const std::string& Reason)
+void ReportFailure(const std::string& Reason, const std::string& Detail = {})
 {
     HideProgress();
-    Warn(Reason);
+    Warn(Reason, "Velorix", Detail);
     if (ProjectOpen != 1) return;
     ShowInputScreen();
     ShowTitle();
@@ -65,16 +65,27 @@ bool SavingStarts()
     return true;
 }
 
+// What can be done about a project whose file isn't there any more; nothing to tell of any other.
+std::string AdviceIfVanished()
+{
+    std::error_code Unknown;
+    const std::string Path = Trim(FileName);
+    if (std::filesystem::exists(Path, Unknown)) return {};
+    return (Path.empty() ? "The project has no file" : Path + " is not there any more") +
+           ". File, Save Project As saves the project in a new one.";
+}
+
 // False when a check has failed or the file couldn't be written; the user has been told.
 bool SaveInPlace()
 {
+    const std::string Advice = AdviceIfVanished(); // ahead of the write, which may leave something there
     try {
         CommitProject();
         HideProgress();
         return Committing == 0;
     } catch (const Failure& Problem) {
         Saved = 0;
-        ReportFailure(Problem.what());
+        ReportFailure(Problem.what(), Advice);
         return false;
     }
 }
@@ -130,8 +141,8 @@ void SaveTo(const std::filesystem::path& Path)
         WriteProjectFile(FileName, ProjectRecord, ShortFile::TakesRecordOne);
         ShowProgress(100);
 
+        // The load step shows the screen, once its frames stand: those that it hides would lose the focus.
         frmLCC.lblFileName.Caption = Trim(FileName);
-        frmLCC.Visible = true;
         ShowDoing("Opening project");
         LoadProject();
     } catch (const FileFailure& Problem) {
@@ -282,16 +293,21 @@ void DeleteProject()
             {.Text = "The project has not been saved and thus cannot be deleted", .Icon = MessageIcon::None});
         return;
     }
-    if (!Confirm("Are you sure you want to delete the current project ?")) {
+    const std::string File = Trim(FileName);
+    if (!Confirm("Are you sure you want to delete the current project ?", "Velorix",
+                 File.empty() ? "The project has no file." : "File: " + File)) {
         frmLCC.Visible = true;
         return;
     }
     if (!DeleteProjectFile()) {
-        System().Show(
-            {.Text = "Could not delete the project.", .Title = "Error !", .Icon = MessageIcon::None});
+        System().Show({.Text = "Could not delete the project.",
+                       .Title = "Error !",
+                       .Detail = AdviceIfVanished(),
+                       .Icon = MessageIcon::None});
         return;
     }
     ProjectOpen = 0;
+    TellWayOn();
     Saved = 0;
     frmLCC.Visible = false;
     if (Analysed == 1) frmResults.Visible = false;

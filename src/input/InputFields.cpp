@@ -96,6 +96,7 @@ InputField BarOver(Use When, ScrollBar& Bar, Label& Reading, std::int16_t& Store
                 },
             .Take = Take,
             .Bar = &Bar,
+            .BarCaption = Caption,
             .Moved =
                 [&Bar, &Reading, &Stored, Caption, Take, Refilled] {
                     Reading.Caption = Caption(Bar.Value);

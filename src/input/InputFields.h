@@ -41,8 +41,9 @@ struct InputField {
     const KeyFilter* Filter = nullptr; // the keys that the box takes; none: all
 
     ScrollBar* Bar = nullptr;
-    std::function<void()> Moved = {}; // what a move of the bar does at once
-    Grid* Refilled = nullptr;         // the demand grid that follows the bar
+    std::string (*BarCaption)(int) = nullptr; // its value as the user reads it
+    std::function<void()> Moved = {};         // what a move of the bar does at once
+    Grid* Refilled = nullptr;                 // the demand grid that follows the bar
 };
 
 // In the order in which the load step fills the screen.

@@ -1,9 +1,14 @@
 // The two number filters.
 #include "input/KeyFilters.h"
 
+#include "base/Text.h"
 #include "platform/Keys.h"
+#include "screens/MainWindow.h"
 
 namespace velorix {
+namespace {
+
+constexpr const char* NumbersOnly = "Only digits and a decimal point can be typed here";
 
 bool IsNumberKey(int Key)
 {
@@ -13,6 +18,42 @@ bool IsNumberKey(int Key)
 bool IsCellNumberKey(int Key)
 {
     return IsNumberKey(Key) || Key == Keys::Escape || (Key >= Keys::Left && Key <= Keys::Down);
+}
+
+} // namespace
+
+const KeyFilter NumberKeys = {IsNumberKey, NumbersOnly};
+const KeyFilter CellNumberKeys = {IsCellNumberKey, NumbersOnly};
+
+bool Passes(const KeyFilter& Filter, int Key)
+{
+    constexpr int FirstPrintable = ' ';
+    if (Filter.Takes(Key)) return true;
+    if (Key >= FirstPrintable) MDIProject.StatusText.Caption = Filter.Sentence;
+    return false;
+}
+
+void TellOfInserted(const KeyFilter& Filter, const std::string& Text)
+{
+    // The bytes of a foreign character are no digits either.
+    for (const char Each : Trim(Text))
+        if (!Passes(Filter, static_cast<unsigned char>(Each))) return;
+}
+
+void FilterKeys(TextBox& Box, const KeyFilter& Filter)
+{
+    Box.KeyPress = [&Filter](int& Key) {
+        if (!Passes(Filter, Key)) Key = 0;
+    };
+    Box.Inserted = [&Filter](const std::string& Text) { TellOfInserted(Filter, Text); };
+}
+
+void TellBounds(ScrollBar& Bar, std::string (*Caption)(int))
+{
+    Bar.Refused = [&Bar, Caption] {
+        MDIProject.StatusText.Caption =
+            "Only a number from " + Caption(Bar.Min) + " to " + Caption(Bar.Max) + " can be typed here";
+    };
 }
 
 } // namespace velorix

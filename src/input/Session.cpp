@@ -4,6 +4,7 @@
 #include "base/Text.h"
 #include "input/InputScreen.h"
 #include "input/Progress.h"
+#include "input/ViewState.h"
 #include "model/NewProject.h"
 #include "model/ProjectFile.h"
 #include "model/WorkingSet.h"
@@ -23,6 +24,7 @@ std::int16_t Committing = 0;
 std::int16_t ViewState = 1;
 std::string FileName;
 bool RedrawProfileView = false;
+TextBox* PointedOut = nullptr;
 Handler ProjectLoaded;
 
 bool HasFile()
@@ -53,6 +55,7 @@ void ReadProjectRecord()
 
 void LoadProject()
 {
+    PointedOut = nullptr;
     ShowProgress(0);
     if (NewProject == 0) {
         try {
@@ -79,6 +82,7 @@ void LoadProject()
     if (Analysed == 1) frmResults.Unload();
     Analysed = 0;
     ProjectOpen = 1;
+    TellWayOn();
     Saved = 1;
     SaveAs = 0;
     RedrawProfileView = true;
@@ -100,6 +104,7 @@ void ResetSession()
     ViewState = 1;
     FileName.clear();
     RedrawProfileView = false;
+    PointedOut = nullptr;
 }
 
 } // namespace velorix

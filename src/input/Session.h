@@ -18,6 +18,8 @@ extern std::int16_t ViewState; // what comes back after a dialog: 1 input screen
 extern std::string FileName;   // full path of the project file, as the dialog gave it
 extern bool RedrawProfileView; // the profile view doesn't show the present profile
 
+extern TextBox* PointedOut; // the box of the last failed check, while it waits for the focus
+
 extern Handler ProjectLoaded; // raised at the end of every load step, for what follows the screen's grids
 
 // Writes the starting values into ProjectRecord and runs the load step. What it doesn't name (Units,

@@ -40,6 +40,13 @@ void LeaveProjectScreens()
     if (Analysed == 1) frmResults.Visible = false;
 }
 
+void TellWayOn()
+{
+    MDIProject.lblWayOn.Caption = ProjectOpen == 1
+                                      ? "File, View, Input Data shows the project again"
+                                      : "File, New Project starts a project; File, Open Project opens one";
+}
+
 void ShowInputScreen()
 {
     frmResults.Visible = false;

@@ -98,6 +98,7 @@ TabControl::TabControl(std::vector<std::string> Captions)
     : TabCaptions(std::move(Captions))
     , TabVisible(*this, std::vector<bool>(TabCaptions.size(), true))
 {
+    Tab.Changed = [this] { Change(); };
 }
 
 DatePicker::DatePicker(std::string Hint)

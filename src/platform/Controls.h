@@ -47,6 +47,7 @@ struct TextBox : Control {
     Handler Change;
     KeyHandler KeyPress;
     KeyHandler KeyDown;
+    Event<const std::string&> Inserted; // what came into a line untyped, as by a paste; raised after Change
 };
 
 // A list to choose from, without typing.
@@ -100,6 +101,7 @@ struct ScrollBar : Control {
     int SmallChange = 1;
     int LargeChange = 1;
     Handler Change;
+    Handler Refused; // what was typed or pasted is no number between Min and Max
 };
 
 struct ProgressBar : Control {
@@ -111,6 +113,7 @@ struct TabControl : Control {
     const std::vector<std::string> TabCaptions;
     Property<int> Tab{*this, 0}; // the page on top
     Property<std::vector<bool>> TabVisible{*this};
+    Handler Change; // raised when another page has come to the top
 };
 
 struct DatePicker : Control {

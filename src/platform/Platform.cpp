@@ -21,15 +21,16 @@ void InstallPlatform(Platform* InUse)
     Installed = InUse;
 }
 
-void Warn(const std::string& Text, const std::string& Title)
+void Warn(const std::string& Text, const std::string& Title, const std::string& Detail)
 {
-    System().Show({.Text = Text, .Title = Title});
+    System().Show({.Text = Text, .Title = Title, .Detail = Detail});
 }
 
-bool Confirm(const std::string& Text, const std::string& Title)
+bool Confirm(const std::string& Text, const std::string& Title, const std::string& Detail)
 {
     return System().Show({.Text = Text,
                           .Title = Title,
+                          .Detail = Detail,
                           .Icon = MessageIcon::Question,
                           .Buttons = MessageButtons::YesNo}) == Answer::Yes;
 }

@@ -18,6 +18,7 @@ enum class Answer { Ok, Yes, No, Retry, Cancel };
 struct Message {
     std::string Text;
     std::string Title = "Velorix";
+    std::string Detail = {}; // shows below the text
     MessageIcon Icon = MessageIcon::Exclamation;
     MessageButtons Buttons = MessageButtons::Ok;
 };
@@ -63,6 +64,10 @@ public:
     virtual std::optional<PrintChoice> AskPrinter(const PrintDialog& Dialog) = 0;
 
     virtual void SetFocus(Control& Target) = 0;
+
+    // Whether SetFocus leads to the control itself: it shows, on the page on top, and is enabled.
+    virtual bool IsInReach(const Control& Target) = 0;
+
     virtual void SetPointer(PointerShape Shape) = 0;
 
     // Paints what has changed, for progress that shows while a calculation keeps the event loop waiting.
@@ -87,9 +92,9 @@ Platform& System();
 void InstallPlatform(Platform* InUse);
 
 // A message with the title "Velorix" and the exclamation icon.
-void Warn(const std::string& Text, const std::string& Title = "Velorix");
+void Warn(const std::string& Text, const std::string& Title = "Velorix", const std::string& Detail = {});
 
 // A question with Yes and No, title "Velorix".
-bool Confirm(const std::string& Text, const std::string& Title = "Velorix");
+bool Confirm(const std::string& Text, const std::string& Title = "Velorix", const std::string& Detail = {});
 
 } // namespace velorix

@@ -41,6 +41,7 @@ public:
     std::optional<std::filesystem::path> AskFileToSave(const FileDialog& Dialog) override;
     std::optional<PrintChoice> AskPrinter(const PrintDialog& Dialog) override;
     void SetFocus(Control& Target) override;
+    bool IsInReach(const Control& Target) override { return Target.Visible && Target.Enabled; }
     void SetPointer(PointerShape Shape) override { Pointer = Shape; }
     void Repaint() override {}
     std::string ClipboardText() override { return Clipboard; }

@@ -69,6 +69,7 @@ struct DeleteRowScreen : Screen {
         DesignEnds();
     }
 
+    Label lblNode;              // its number
     Array0<Label, 7> lblDelete; // elevation to description
     CommandButton sscYes{"&Yes", "Delete the row"};
     CommandButton sscNo{"&No", "Keep the row"};

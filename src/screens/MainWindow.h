@@ -53,6 +53,7 @@ struct MainWindowScreen : Screen {
     CommandButton sscHelp{"", "Help"};
 
     Frame sspProject;
+    Label lblWayOn; // in the empty workspace: how to go on
     Label lblWelcome{"Welcome to the Velorix Program"};
     Label lblSystem;     // the kind of system of the open project
     Label lblProgessBar; // what a load or save is doing

@@ -37,9 +37,9 @@ void ConnectDeleteRow()
 void AskToDeleteRow()
 {
     const Grid& Table = frmLCC.msgProfile;
+    frmDeleteRow.lblNode.Caption = Table.Text(Table.Row(), 0);
     for (int Field = 0; Field <= frmDeleteRow.lblDelete.LastIndex; ++Field)
-        frmDeleteRow.lblDelete[Field].Caption =
-            Trim(Table.Text(Table.Row(), Field + 1)); // col 0 is the number
+        frmDeleteRow.lblDelete[Field].Caption = Trim(Table.Text(Table.Row(), Field + 1));
     System().ShowModal(frmDeleteRow);
 }
 

@@ -166,8 +166,9 @@ void KeyPressInGrid(const CellEditing& Editing, int& Key)
         return System().SetFocus(*Editing.List);
     }
     const auto Code = static_cast<char32_t>(Typed);
-    if (!OnEditableCell(Editing) || !InCodePage(Code)) return;
-    if (Contains(Editing.FilteredInGrid, Table.Col()) && !IsCellNumberKey(Typed)) return;
+    if (!OnEditableCell(Editing)) return;
+    if (Contains(Editing.FilteredInGrid, Table.Col()) && !Passes(CellNumberKeys, Typed)) return;
+    if (!InCodePage(Code)) return;
     Write(Editing, Erases ? WithoutLastCharacter(CurrentText(Table)) : Utf8Of(Code));
     OpenEditor(Editing);
 }
@@ -184,7 +185,7 @@ void MouseDownInGrid(const CellEditing& Editing, int Button)
 void KeyPressInEditor(const CellEditing& Editing, int& Key)
 {
     Grid& Table = Editing.Table;
-    if (Contains(Editing.FilteredInEditor, Table.Col()) && !IsCellNumberKey(Key)) Key = 0;
+    if (Contains(Editing.FilteredInEditor, Table.Col()) && !Passes(CellNumberKeys, Key)) Key = 0;
     if (Key != Keys::Enter) return;
     Key = 0;
     Commit(Editing);
@@ -349,6 +350,9 @@ void ConnectGridEditor(const CellEditing& Editing)
     Editing.Editor.KeyDown = [&Editing](int& Key) { KeyDownInEditor(Editing, Key); };
     Editing.Editor.KeyPress = [&Editing](int& Key) { KeyPressInEditor(Editing, Key); };
     Editing.Editor.Change = [&Editing] { EditorChanged(Editing); };
+    Editing.Editor.Inserted = [&Editing, &Table](const std::string& Text) {
+        if (Contains(Editing.FilteredInEditor, Table.Col())) TellOfInserted(CellNumberKeys, Text);
+    };
     if (Editing.List) Editing.List->Change = [&Editing] { EntryChosen(Editing); };
 }
 

@@ -4,8 +4,8 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
-#include "platform/Platform.h"
 #include "input/Session.h"
+#include "platform/Platform.h"
 
 #include <algorithm>
 #include <string_view>

@@ -9,12 +9,11 @@ namespace {
 void ConnectHintsOf(Screen& Target)
 {
     for (Control* Each : Target.Controls) {
-        if (Each->ToolTip.empty()) continue;
         const auto ShowHint = [Each] { MDIProject.StatusText.Caption = Each->ToolTip; };
         Each->GotFocus = ShowHint;
         const bool Pressed = dynamic_cast<CommandButton*>(Each) || dynamic_cast<OptionButton*>(Each) ||
                              dynamic_cast<MenuItem*>(Each);
-        if (Pressed) Each->MouseMove = ShowHint;
+        if (Pressed && !Each->ToolTip.empty()) Each->MouseMove = ShowHint;
     }
     Target.Hidden = ClearHint;
 }

@@ -1,6 +1,7 @@
 // What the controls of the input screen do.
 #include "shell/InputEvents.h"
 
+#include "input/Commit.h"
 #include "input/CostTables.h"
 #include "input/FileCommands.h"
 #include "input/HourPattern.h"
@@ -58,22 +59,21 @@ void PumpDemandUnitsChosen()
 void ConnectKeys()
 {
     for (const InputField& Each : InputFields)
-        if (Each.Filter)
-            Each.Box->KeyPress = [&Each](int& Key) {
-                if (!Each.Filter->Takes(Key)) Key = 0;
-            };
+        if (Each.Filter) FilterKeys(*Each.Box, *Each.Filter);
 }
 
 // A bar shows its value and stores it at once.
 void ConnectBars()
 {
-    for (const InputField& Each : InputFields)
-        if (Each.Bar)
-            Each.Bar->Change = [&Each] {
-                MarkChanged();
-                Each.Moved();
-                if (Each.Refilled) GridFilled(*Each.Refilled);
-            };
+    for (const InputField& Each : InputFields) {
+        if (!Each.Bar) continue;
+        TellBounds(*Each.Bar, Each.BarCaption);
+        Each.Bar->Change = [&Each] {
+            MarkChanged();
+            Each.Moved();
+            if (Each.Refilled) GridFilled(*Each.Refilled);
+        };
+    }
 }
 
 void ConnectOption(OptionButton& Option, void (*ShowOption)())
@@ -119,17 +119,25 @@ void ConnectHours()
             };
 }
 
+// A pane stands in for the content of its page.
+void ShowPane(Frame& Pane, bool Shown)
+{
+    Pane.Visible = Shown;
+    GoToPointedOut();
+}
+
 void CloseLaying()
 {
     frmLCC.txtLaying.Visible = false;
-    frmLCC.fraLaying.Visible = false;
+    ShowPane(frmLCC.fraLaying, false);
 }
 
-void ConnectFrames()
+void ConnectPages()
 {
-    frmLCC.sscPumpcurve.Click = [] { frmLCC.fraPumpDetails.Visible = true; };
-    frmLCC.sscOK.Click = [] { frmLCC.fraPumpDetails.Visible = false; };
-    frmLCC.sscLaying.Click = [] { frmLCC.fraLaying.Visible = true; };
+    frmLCC.sstInput.Change = GoToPointedOut;
+    frmLCC.sscPumpcurve.Click = [] { ShowPane(frmLCC.fraPumpDetails, true); };
+    frmLCC.sscOK.Click = [] { ShowPane(frmLCC.fraPumpDetails, false); };
+    frmLCC.sscLaying.Click = [] { ShowPane(frmLCC.fraLaying, true); };
     frmLCC.sscHideLaying.Click = [] {
         const auto Before = wLaying;
         ReadLayingGrid();
@@ -179,7 +187,7 @@ void ConnectInputScreen()
     ConnectBars();
     ConnectOptions();
     ConnectHours();
-    ConnectFrames();
+    ConnectPages();
     ConnectViews();
     ConnectRows();
     ConnectHelp();

@@ -4,6 +4,7 @@
 #include "base/Arithmetic.h"
 #include "input/CostTables.h"
 #include "input/InputScreen.h"
+#include "input/KeyFilters.h"
 #include "input/ViewState.h"
 #include "model/WorkingSet.h"
 #include "screens/Dialogs.h"
@@ -41,8 +42,10 @@ void ConnectPreferences()
 {
     frmPref.Load = PreferencesLoad;
     frmPref.Close = PreferencesCancelled;
-    frmPref.hsbPG.Change = ShowAllowances;
-    frmPref.hsbContingencies.Change = ShowAllowances;
+    for (ScrollBar* Each : {&frmPref.hsbPG, &frmPref.hsbContingencies}) {
+        Each->Change = ShowAllowances;
+        TellBounds(*Each, PercentCaption);
+    }
     frmPref.sscOK.Click = PreferencesAccepted;
     frmPref.sscCancel.Click = PreferencesCancelled;
     HelpOn(frmPref.sscHelp, 4000);

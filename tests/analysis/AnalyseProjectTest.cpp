@@ -67,7 +67,7 @@ TEST_F(AnalyseProjectTest, CurvesThatDoNotCrossEndTheAnalysis)
     ResetResults();
     SupervisionCost = 77.0;
     frmLCC.txtSupervision.Text = "R 150000";
-    AnalyseProject();
+    AnalyseProject(Tables::Filled);
     EXPECT_EQ(Analysed, 0);
     EXPECT_GT(ConsultingFees, 0.0);
     EXPECT_EQ(SupervisionCost, 77.0);
@@ -158,7 +158,7 @@ TEST_F(AnalyseProjectTest, TheEngineAloneGivesTheSameBits)
         ResetProgram();
         Windows.Messages.clear();
         OpenRecord(Record);
-        const bool Stand = ComputeFigures();
+        const bool Stand = ComputeFigures(Tables::Filled);
         EXPECT_EQ(Stand, AnalysisAborted == 0);
         ForEachResult([&](const ResultInfo& Of, const auto& Value) {
             EXPECT_TRUE(BytesOf(Value) == Analysed[Of.Name]) << Of.Name;

@@ -36,7 +36,7 @@ protected:
     {
         Open(Record);
         Windows.Messages.clear();
-        AnalyseProject();
+        AnalyseProject(Tables::Filled);
     }
 
     std::string LastMessage() const { return Windows.Messages.empty() ? "" : Windows.Messages.back().Text; }

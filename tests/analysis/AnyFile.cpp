@@ -42,7 +42,7 @@ void AnalyseAnyFile(const std::string& Bytes)
     Require(wLife >= 2 && wLife <= 100, "the life is one that its control holds");
     Require(NodeCount >= 2 && NodeCount <= 499, "the profile has 2 to 499 nodes");
 
-    AnalyseProject();
+    AnalyseProject(Tables::LeftOut);
     Require(Analysed == 1 || !Windows.Messages.empty(), "an analysis that doesn't stand says why");
     Require(Analysed == 0 || Windows.Messages.size() <= 2,
             "an analysis that stands has at most two things to say");

@@ -44,6 +44,17 @@ TEST(ArithmeticTest, AFailureStandsUntilItIsCheckedAndLeavesTheTarget)
     EXPECT_EQ(Flow, 0.5);
 }
 
+// Others save and restore the flags by the library, which has those of every unit in mind.
+TEST(ArithmeticTest, WhatIsClearedIsClearForTheLibraryToo)
+{
+    volatile long double Wide = 0;
+    Wide = 1 / Wide;
+    const volatile double Lost = One / Zero;
+    EXPECT_TRUE(std::isinf(Lost) && ArithmeticFailed());
+    ClearArithmeticFlags();
+    EXPECT_EQ(std::fetestexcept(FE_ALL_EXCEPT), 0);
+}
+
 TEST(ArithmeticTest, HalvesRoundToTheEvenNeighbourAndAnIntegerMustHoldThem)
 {
     EXPECT_EQ(RoundEven(-3.5), -4.0);

@@ -3,7 +3,9 @@
 
 #include "desktop/Binding.h"
 #include "desktop/DesktopTest.h"
+#include "desktop/HourStrip.h"
 #include "desktop/ScrollBarView.h"
+#include "input/HourPattern.h"
 #include "screens/Dialogs.h"
 
 #include <QAction>
@@ -49,7 +51,6 @@ protected:
     CommandButton Save{"&Save"};
     Frame Group{"Fixed demand"};
     TextBox Flow{"Enter the fixed demand"};
-    Label Hour{"7", "Click to change the rate"};
     DatePicker Day{"Select the date"};
 };
 
@@ -198,21 +199,47 @@ TEST_F(ControlViewTest, AFieldTakesItsCaptionAlong)
     EXPECT_FALSE(Line->isVisible());
 }
 
-TEST_F(ControlViewTest, AColouredFieldClicksByMouseAndKeyboardAndSaysItsColour)
+TEST_F(ControlViewTest, TheHoursAreOneStopWithArrowsLettersAndADragThatPaints)
 {
-    int Clicks = 0;
-    Hour.Click = [&] { ++Clicks; };
-    Hour.BackColor = PureYellow;
-    QLabel* const Field = Show(ColorView(Hour, {{PureYellow, "off-peak"}, {PureRed, "peak"}}));
-    QTest::mouseClick(Field, Qt::LeftButton);
-    for (Qt::Key Key : {Qt::Key_Space, Qt::Key_Return}) QTest::keyClick(Field, Key);
-    EXPECT_EQ(Clicks, 3);
-    Field->setAccessibleName("Summer, hour 7");
-    EXPECT_EQ(Field->accessibleDescription(), "Click to change the rate, off-peak");
-    Hour.BackColor = PureRed;
-    EXPECT_EQ(Field->accessibleDescription(), "Click to change the rate, peak");
-    EXPECT_EQ(Field->accessibleName(), "Summer, hour 7"); // the layout's name stays
-    EXPECT_EQ(Host->grab().toImage().pixelColor(Field->pos() + QPoint(3, 3)), QColor(Qt::red));
+    Array0<Label, 24> Hours;
+    for (int Hour = 0; Hour < 24; ++Hour) {
+        Hours[Hour].Caption = std::to_string(Hour + 1);
+        Hours[Hour].BackColor = OffpeakColor;
+        Hours[Hour].Click = [&Hours, Hour] { CycleHour(Hours[Hour]); };
+    }
+    QLineEdit* const Before = Put(View(Flow));
+    QWidget* const Strip = Put(HourStrip(Hours, "Summer"));
+    QPushButton* const Behind = Show(View(Save));
+    const auto Text = [&](int Hour) { return qobject_cast<QLabel*>(FocusTarget(Hours[Hour]))->text(); };
+    const auto Press = [](Qt::Key Key) { QTest::keyClick(QApplication::focusWidget(), Key); };
+
+    Before->setFocus();
+    for (Qt::Key Key : {Qt::Key_Tab, Qt::Key_Left, Qt::Key_Right, Qt::Key_Space}) Press(Key);
+    EXPECT_EQ(Hours[1].BackColor.Get(), PeakColor);
+    EXPECT_EQ(Text(1).toStdString(), "2\nP");
+    EXPECT_EQ(QApplication::focusWidget()->accessibleName(), "Summer, hour 2, peak");
+    for (Qt::Key Key : {Qt::Key_End, Qt::Key_Right, Qt::Key_Return, Qt::Key_Return}) Press(Key);
+    EXPECT_EQ(Text(23).toStdString(), "24\nS");
+    Press(Qt::Key_Tab);
+    EXPECT_TRUE(Behind->hasFocus());
+    Press(Qt::Key_Backtab);
+    EXPECT_TRUE(FocusTarget(Hours[23])->hasFocus()); // where it was
+    Press(Qt::Key_Backtab);
+    EXPECT_TRUE(Before->hasFocus());
+
+    // From hour 6 down to 3, in one leap, and with the pointer off the strip.
+    QWidget* const Pressed = FocusTarget(Hours[5]);
+    const QPoint Off(FocusTarget(Hours[2])->geometry().center().x() - Pressed->x(), Strip->height() + 40);
+    QTest::mousePress(Pressed, Qt::LeftButton);
+    QMouseEvent Move(QEvent::MouseMove, Off, Pressed->mapToGlobal(Off), Qt::NoButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(Pressed, &Move);
+    QTest::mouseRelease(Pressed, Qt::LeftButton, {}, Off);
+    QString Letters;
+    for (int Hour = 0; Hour < 24; ++Hour) Letters += Text(Hour).back();
+    EXPECT_EQ(Letters.toStdString(), "OPPPPPOOOOOOOOOOOOOOOOOS");
+    Hours[7].BackColor = ButtonColor; // no class, as a foreign file has it
+    EXPECT_EQ(FocusTarget(Hours[7])->accessibleName(), "Summer, hour 8");
+    Host.reset();
 }
 
 TEST_F(ControlViewTest, FocusAndPointerAreTold)

@@ -13,12 +13,15 @@
 #include <QDir>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSvgRenderer>
+#include <QTabBar>
+#include <QTabWidget>
 
 #include <algorithm>
 #include <cmath>
@@ -306,18 +309,54 @@ double Contrast(const QColor& One, const QColor& Other)
     return (High + 0.05) / (Low + 0.05);
 }
 
-// 4.5 is what the guidelines ask of text of ordinary size.
+void StyleAsOn(bool Dark)
+{
+    QApplication::setPalette(QPalette(QColor(Dark ? "#202020" : "#efefef")));
+    ApplyStyle(*static_cast<QApplication*>(QApplication::instance()));
+    ASSERT_EQ(Colors().Dark, Dark);
+}
+
+// 4.5 is what the guidelines ask of text of ordinary size, 3 of what marks a control. They ask nothing of
+// what can't be used.
 TEST(StyleTest, TextIsLegibleOnLightAndOnDarkDesktops)
 {
     const QPalette Before = QApplication::palette();
     for (const bool Dark : {false, true}) {
-        QApplication::setPalette(QPalette(QColor(Dark ? "#202020" : "#efefef")));
-        ApplyStyle(*static_cast<QApplication*>(QApplication::instance()));
-        ASSERT_EQ(Colors().Dark, Dark);
+        StyleAsOn(Dark);
         for (const QColor& Letters : {Colors().Ink, Colors().Muted, Colors().Accent})
             for (const QColor& Surface : {Colors().Window, Colors().Card, Colors().Field})
                 EXPECT_GE(Contrast(Letters, Surface), 4.5);
         EXPECT_GE(Contrast(Colors().Ink, Colors().Button), 4.5);
+        EXPECT_GE(Contrast(Colors().Disabled, Colors().Button), Dark ? 3.0 : 1.0);
+    }
+    QApplication::setPalette(Before);
+}
+
+TEST(StyleTest, TheFocusShowsOnBoxesAndLeavesTheTextOfATabAlone)
+{
+    const QPalette Before = QApplication::palette();
+    for (const bool Dark : {true, false}) {
+        StyleAsOn(Dark);
+        QWidget Window;
+        auto* const Layout = new QVBoxLayout(&Window);
+        auto* const Box = new QLineEdit;
+        auto* const Tabs = new QTabWidget;
+        Tabs->addTab(new QWidget, QString(12, ' '));
+        Layout->addWidget(Box);
+        Layout->addWidget(Tabs);
+        Window.show();
+        Window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&Window));
+        const auto Outline = [Box] { return Box->grab().toImage().pixelColor(Box->width() / 2, 0); };
+        Box->setFocus();
+        const QColor Focused = Outline();
+        Tabs->tabBar()->setFocus();
+        EXPECT_GE(Contrast(Focused, Colors().Card), 3.0);
+        EXPECT_GE(Contrast(Focused, Colors().Card), 1.5 * Contrast(Outline(), Colors().Card));
+
+        const QImage Tab = Tabs->tabBar()->grab().toImage();
+        for (int Y = 2; Y < Tab.height() - 4; ++Y)
+            EXPECT_EQ(Tab.pixelColor(Tabs->tabBar()->tabRect(0).center().x(), Y), Colors().Tint) << Y;
     }
     QApplication::setPalette(Before);
 }

@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QDialog>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -98,10 +99,14 @@ TEST_F(QtPlatformTest, AMessageShowsItsTextAsItStandsAndWithThePlainPointer)
         EXPECT_EQ(Box.textFormat(), Qt::PlainText);
         EXPECT_EQ(Box.windowTitle(), "Error !");
         EXPECT_EQ(Box.icon(), QMessageBox::Warning);
+        EXPECT_EQ(Box.informativeText(), "<i>main</i>.vlx");
+        for (const QLabel* Each : Box.findChildren<QLabel*>())
+            EXPECT_TRUE(Each->text().isEmpty() || Each->textFormat() == Qt::PlainText)
+                << Each->text().toStdString();
         EXPECT_EQ(QApplication::overrideCursor(), nullptr);
         Box.accept();
     });
-    Windows.Show({.Text = "<b>file</b>", .Title = "Error !"});
+    Windows.Show({.Text = "<b>file</b>", .Title = "Error !", .Detail = "<i>main</i>.vlx"});
     ASSERT_TRUE(QApplication::overrideCursor());
     EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
     for (PointerShape Each : {PointerShape::Cross, PointerShape::Default, PointerShape::Default})

@@ -5,8 +5,11 @@
 #include "model/ProjectFile.h"
 #include "screens/Dialogs.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QMenu>
+#include <QMenuBar>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -14,18 +17,27 @@ namespace velorix {
 namespace {
 
 // Answers the save dialog with a path, the dialog of a new project with its keys for a pumping system, and
-// every question with No.
+// every question with No unless told otherwise. Cancels the dialog that opens a file.
 class SavingPlatform : public NotingPlatform {
 public:
     std::filesystem::path Target;
+    Answer Reply = Answer::No;
 
+    std::optional<std::filesystem::path> AskFileToOpen(const FileDialog&) override { return {}; }
     std::optional<std::filesystem::path> AskFileToSave(const FileDialog&) override { return Target; }
+
+    Answer Show(const Message& Box) override
+    {
+        NotingPlatform::Show(Box);
+        return Reply;
+    }
 
     void ShowModal(Screen& Shown) override
     {
         QTimer::singleShot(0, [&Shown] {
             QWidget* const Dialog = QApplication::activeModalWidget();
             if (!QTest::qWaitForWindowActive(Dialog)) return Shown.CloseByFrame();
+            EXPECT_FALSE(FocusTarget(MDIProject.lblWayOn)->isVisible()); // no menu can be reached
             QTest::keyClick(FocusTarget(frmLCCType.optPumping), Qt::Key_Space);
             QTest::keyClick(Dialog, Qt::Key_Return);
         });
@@ -63,6 +75,12 @@ protected:
         FocusTarget(Box)->setFocus();
         Press(Qt::Key_A, Qt::ControlModifier);
         Type(Text);
+    }
+
+    static void Start(int SystemType)
+    {
+        wSystemType = static_cast<std::int16_t>(SystemType);
+        NewProjectDefaults();
     }
 
     void StartPumpingProject()
@@ -178,6 +196,184 @@ TEST_F(SessionTest, TheFocusStaysAtHandWhenAScreenOrAPageGoes)
     Press(Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_EQ(frmLCC.sstInput.Tab, 3);
     EXPECT_EQ(MDIProject.StatusText.Caption.Get(), frmLCC.txtDiscountRate.ToolTip);
+}
+
+// A box inside a frame that the load hides, in either kind of system, and one that isn't.
+TEST_F(SessionTest, ASaveUnderAnotherNameLeavesTheFocusWhereItWas)
+{
+    for (int SystemType : {0, 1}) {
+        Start(SystemType);
+        Fill(frmLCC.txtProject, "Ridge main");
+        Fill(frmLCC.txtDesigner, "M. Naidoo");
+        for (TextBox* Each : {&frmLCC.txtDesigner, SystemType == 0 ? &frmLCC.txtTRWL : &frmLCC.txtPPRWL}) {
+            FocusTarget(*Each)->setFocus();
+            Press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+            EXPECT_TRUE(FocusTarget(*Each)->hasFocus()) << Each->ToolTip;
+            EXPECT_EQ(MDIProject.StatusText.Caption.Get(), Each->ToolTip);
+        }
+    }
+}
+
+// By Tab, by a change of the page and back, and by a save that finds no number in the box.
+TEST_F(SessionTest, WhatIsTypedIntoALineThatGetsTheFocusReplacesItsText)
+{
+    frmLCC.txtProject.Text = frmLCC.txtDesigner.Text = "x";
+    const std::pair<TextBox*, std::function<void()>> Ways[] = {
+        {&frmLCC.txtDesigner, [this] { Press(Qt::Key_Tab); }},
+        {&frmLCC.txtBRWL,
+         [this] {
+             FocusTarget(frmLCC.txtBRWL)->setFocus(Qt::MouseFocusReason);
+             Press(Qt::Key_Tab, Qt::ControlModifier);
+             Press(Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
+         }},
+        {&frmLCC.txtTRWL, [this] { Press(Qt::Key_S, Qt::ControlModifier); }}};
+    for (const auto& [Box, Go] : Ways) {
+        FocusTarget(frmLCC.txtProject)->setFocus();
+        Box->Text = Box == &frmLCC.txtTRWL ? "10 m" : "10";
+        Go();
+        Type("12");
+        EXPECT_EQ(Box->Text.Get(), "12") << Box->ToolTip;
+    }
+    frmLCC.txtDescription.Text = "10";
+    frmLCC.hscLife.Value = 10;
+    for (const auto& [Field, Then] :
+         {std::pair<Control*, QString>(&frmLCC.txtDescription, "12"), {&frmLCC.hscLife, "12"}}) {
+        Saving.SetFocus(*Field);
+        Type(Then);
+    }
+    Press(Qt::Key_Return);
+    EXPECT_EQ(frmLCC.txtDescription.Text.Get(), "1210"); // a box of several lines selects nothing
+    EXPECT_EQ(frmLCC.hscLife.Value, 12);
+}
+
+TEST_F(SessionTest, TheEmptyWorkspaceTellsHowToGoOn)
+{
+    const QWidget* const Line = FocusTarget(MDIProject.lblWayOn);
+    EXPECT_FALSE(Line->isVisible());
+    Press(Qt::Key_O, Qt::ControlModifier); // cancelled
+    EXPECT_TRUE(Line->isVisible());
+    EXPECT_EQ(MDIProject.lblWayOn.Caption.Get(), "File, View, Input Data shows the project again");
+    Press(Qt::Key_F6);
+    EXPECT_TRUE(frmLCC.Visible);
+
+    Fill(frmLCC.txtProject, "Ridge main");
+    Fill(frmLCC.txtDesigner, "M. Naidoo");
+    Press(Qt::Key_S, Qt::ControlModifier);
+    Saving.Reply = Answer::Yes;
+    MDIProject.mnuDelete.Click();
+    EXPECT_TRUE(Line->isVisible());
+    EXPECT_THAT(MDIProject.lblWayOn.Caption.Get(),
+                testing::AllOf(testing::HasSubstr("New"), testing::HasSubstr("Open")));
+}
+
+// What a box or a cell doesn't take, typed key by key or pasted; the hint comes back with the next focus.
+TEST_F(SessionTest, WhatCannotBeTypedIsTold)
+{
+    const std::string NumbersOnly = "Only digits and a decimal point can be typed here";
+    const auto Told = [] { return MDIProject.StatusText.Caption.Get(); };
+    frmLCC.sstInput.Tab = 1;
+    Fill(frmLCC.txtKsNew, "-12,75");
+    EXPECT_EQ(frmLCC.txtKsNew.Text.Get(), "1275");
+    EXPECT_EQ(Told(), NumbersOnly);
+    FocusTarget(frmLCC.txtKsOld)->setFocus();
+    EXPECT_EQ(Told(), frmLCC.txtKsOld.ToolTip);
+    Press(Qt::Key_A, Qt::ControlModifier);
+    for (const auto& [Text, Sentence] :
+         {std::pair("12.5 ", frmLCC.txtKsOld.ToolTip), {"12,5", NumbersOnly}}) {
+        QApplication::clipboard()->setText(Text);
+        Press(Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(Told(), Sentence);
+    }
+    EXPECT_EQ(frmLCC.txtKsOld.Text.Get(), "12.5 12,5"); // a paste isn't filtered
+
+    FocusTarget(frmLCC.msgProfile)->setFocus();
+    Type("-");
+    EXPECT_EQ(Told(), NumbersOnly);
+    Type("5");
+    EXPECT_EQ(Told(), frmLCC.txtCell.ToolTip);
+    Press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Told(), NumbersOnly);
+
+    frmLCC.sstInput.Tab = 3;
+    Saving.SetFocus(frmLCC.hscMPipeline);
+    Type("1,5");
+    EXPECT_EQ(Told(), "Only a number from 0.00% to 20.00% can be typed here");
+}
+
+// The page stays. The box waits until the page, or the pane over it, is the right one.
+TEST_F(SessionTest, ABoxThatFailsItsCheckGetsTheFocusOnceItShows)
+{
+    struct Case {
+        TextBox& Box;
+        int Page;
+        Frame* Over; // a pane that stands over the box
+    };
+    const Case Cases[] = {{frmLCC.txtPPRWL, 0, nullptr},
+                          {frmLCC.txtKsNew, 1, nullptr},
+                          {frmLCC.txtWPeak, 2, nullptr},
+                          {frmLCC.txtEnergyEscalation, 3, nullptr},
+                          {frmLCC.txtDesigner, 0, &frmLCC.fraPumpDetails},
+                          {frmLCC.txtKsOld, 1, &frmLCC.fraLaying}};
+    for (const Case& Each : Cases) {
+        SCOPED_TRACE(Each.Box.ToolTip);
+        Start(1);
+        frmLCC.txtProject.Text = frmLCC.txtDesigner.Text = "x";
+        frmLCC.optPumpDetails.Value = true;
+        if (Each.Over) Each.Over->Visible = true;
+        Each.Box.Text = "";
+        const int Elsewhere = Each.Page == 1 ? 0 : 1;
+        frmLCC.sstInput.Tab = Elsewhere;
+        Press(Qt::Key_S, Qt::ControlModifier);
+        EXPECT_EQ(Saving.Messages.back().Title, "Error !");
+        EXPECT_EQ(frmLCC.sstInput.Tab, Elsewhere);
+        for (int Page = 0; Page < 4; ++Page) {
+            Press(Qt::Key_Tab, Qt::ControlModifier);
+            const bool Shows = frmLCC.sstInput.Tab == Each.Page && !Each.Over;
+            EXPECT_EQ(FocusTarget(Each.Box)->hasFocus(), Shows) << frmLCC.sstInput.Tab;
+        }
+        if (!Each.Over) continue;
+        frmLCC.sstInput.Tab = Each.Page;
+        (Each.Page == 0 ? frmLCC.sscOK : frmLCC.sscCancelLaying).Click();
+        EXPECT_TRUE(FocusTarget(Each.Box)->hasFocus());
+    }
+}
+
+TEST_F(SessionTest, APumpPointThatFailsItsCheckIsReachedByItsButton)
+{
+    Start(1);
+    frmLCC.txtProject.Text = frmLCC.txtDesigner.Text = "x";
+    frmLCC.optPumpDetails.Value = true;
+    frmLCC.txtQ[4].Text = "";
+    for (int Page : {0, 3}) {
+        frmLCC.sstInput.Tab = Page;
+        Press(Qt::Key_S, Qt::ControlModifier);
+        frmLCC.sstInput.Tab = 0;
+        EXPECT_TRUE(FocusTarget(frmLCC.sscPumpcurve)->hasFocus());
+    }
+    Press(Qt::Key_Space);
+    EXPECT_TRUE(FocusTarget(frmLCC.txtQ[4])->hasFocus());
+    frmLCC.sscOK.Click();
+    frmLCC.sscPumpcurve.Click(); // no longer waited for
+    EXPECT_FALSE(FocusTarget(frmLCC.txtQ[4])->hasFocus());
+}
+
+// The results begin with the focus on their tabs, which have no hint of their own.
+TEST_F(SessionTest, TheHintOfAMenuGoesWithIt)
+{
+    frmResults.LoadHidden();
+    frmLCC.Visible = false;
+    frmResults.Visible = true;
+    QAction* const File = Main->menuBar()->actions().front();
+    const QAction* const Exit = File->menu()->actions().back();
+    QTest::mouseClick(Main->menuBar(), Qt::LeftButton, {}, Main->menuBar()->actionGeometry(File).center());
+    QCoreApplication::processEvents();
+    QTest::mouseMove(File->menu(), File->menu()->actionGeometry(const_cast<QAction*>(Exit)).center());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(MDIProject.StatusText.Caption.Get(), "Exit the program");
+    QTest::mouseClick(File->menu(), Qt::LeftButton, {},
+                      File->menu()->actionGeometry(const_cast<QAction*>(Exit)).center());
+    EXPECT_EQ(Saving.Messages.back().Text, "Are you sure you want to quit ?");
+    EXPECT_EQ(MDIProject.StatusText.Caption.Get(), "");
 }
 
 // No minus sign passes the filters, nor does one with Alt.

@@ -90,6 +90,7 @@ TEST_F(TextViewTest, HandlersSeeTheCaretAndMayMoveIt)
     EXPECT_EQ(Line->cursorPosition(), 3);
 
     Line->clearFocus();
+    Line->setFocusPolicy(Qt::ClickFocus); // as the editor of a cell has it
     Box.SelStart = 1;
     System().SetFocus(Box);
     EXPECT_TRUE(Line->hasFocus());

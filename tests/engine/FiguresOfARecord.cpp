@@ -10,7 +10,7 @@ using namespace velorix;
 int main()
 {
     OpenRecord(PumpCurveRecord());
-    const bool Stand = ComputeFigures();
+    const bool Stand = ComputeFigures(Tables::LeftOut);
     ForEachResult([](const ResultInfo& Of, const auto& Value) {
         if constexpr (std::is_convertible_v<decltype(Value), double>)
             std::cout << Of.Name << " " << +Value << " " << Of.Unit << "\n";

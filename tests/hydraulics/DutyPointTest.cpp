@@ -1,5 +1,14 @@
 // The duty point of the pump on the system curve, and what happens without one.
+#include "hydraulics/DutyPoint.h"
+
+#include "base/Failure.h"
 #include "hydraulics/HydraulicsTest.h"
+#include "hydraulics/PlainReference.h"
+#include "hydraulics/SystemCurve.h"
+
+#include <cmath>
+#include <limits>
+#include <random>
 
 namespace velorix {
 namespace {
@@ -85,6 +94,97 @@ TEST_F(DutyPointTest, CurvesThatOnlyTouchDoNotCross)
     for (int p = 4; p <= 6; ++p) wPumpCurve[3 * p - 2] = 60;
     SolveAt(60);
     EXPECT_EQ(AnalysisAborted, -1);
+}
+
+// A random pump on a random pipeline, for Year. Most cross somewhere. Some seeds have what no real one has:
+// losses below zero, none at all, next to none, a kinked or a reversed pump curve, one point twice, a head
+// just on a point, numbers that aren't finite or lie far out.
+class AnyPump {
+public:
+    explicit AnyPump(unsigned Seed)
+        : Random(Seed)
+        , Kind(Seed % 16)
+        , Strange(std::array<double, 6>{NAN, HUGE_VAL, 2e37, 3e38, 1e-45,
+                                        std::numeric_limits<float>::signaling_NaN()}[Seed / 16 % 6])
+    {
+        const int Rows = Kind == 0 ? 2 + Up(120) : Up(12);
+        for (int i = 1; i <= Rows; ++i) {
+            const double Sign = Kind == 1 && Up(3) == 1 ? -1 : 1;
+            const double Scale = Kind == 2 ? 0 : Kind == 3 ? 1e-9 : 1;
+            HydraulicsTest::AddRow(60 * Part() - (Kind % 2 == 0 ? 100 : 0), Scale * Sign * 600 * Part(),
+                                   0.2 + 0.4 * Part(), Scale * Sign * Part(), 0.01 + 0.02 * Part());
+        }
+        UpstreamLevel = 30 * Part();
+        DownstreamLevel = 60 + 20 * Part();
+        AddCurve();
+        if (Kind == 4) wPumpCurve[Up(18)] = Strange;
+        if (Kind == 5) wSecondaryLoss[Up(Rows)] = Strange;
+        if (Kind == 6) wElevation[Up(Rows)] = -Strange;
+    }
+
+private:
+    double Part() { return std::uniform_real_distribution<double>(0, 1)(Random); }
+    int Up(int Most) { return std::uniform_int_distribution<int>(1, Most)(Random); }
+
+    void AddCurve()
+    {
+        HeadFactor = Kind == 7 ? 0.3048 : 1;
+        FlowFactor = Kind == 8 ? 0.00027777778 : 1;
+        const double Top = 70 + 80 * Part();
+        const double Widest = 0.05 + 0.5 * Part();
+        for (int p = 1; p <= 6; ++p) {
+            const double x = (Kind == 9 ? 7 - p : p - 1) / 5.0; // from the largest flow down
+            const double Kink = Kind == 10 ? Part() - 0.5 : 0;
+            wPumpCurve[3 * p - 2] = (Top - 60 * x * x * (1 + Kink)) / HeadFactor;
+            wPumpCurve[3 * p - 1] = Widest * (x + 0.3 * Kink) / FlowFactor;
+            wPumpCurve[3 * p] = 80 * x;
+        }
+        if (Kind == 11) wPumpCurve[17] = wPumpCurve[2];
+        if (Kind == 12) wPumpCurve[3 * Up(6) - 2] = DownstreamLevel - UpstreamLevel;
+        if (Kind == 13) wPumpCurve[2] = -Widest;
+    }
+
+    std::mt19937 Random;
+    unsigned Kind;
+    double Strange;
+};
+
+// How the search ends, and what it takes.
+plain::Duty DutyBy(Tables Wanted)
+{
+    ClearArithmeticFlags();
+    try {
+        if (!FindDutyPoint(Wanted)) return {};
+    } catch (const Failure&) {
+        return {plain::Duty::Outcome::Fails, 0, 0, 0};
+    }
+    return {plain::Duty::Outcome::Found, DutyHead, OperatingFlow, DutyEfficiency};
+}
+
+TEST_F(DutyPointTest, RandomPumpsGiveThePlainDutyPoint)
+{
+    std::array<int, 3> Ends{};
+    for (unsigned Seed = 0; Seed < 4000; ++Seed) {
+        sample::Reset();
+        const AnyPump Pump(Seed);
+        AnalysisYear = Year;
+        plain::Duty Plain{plain::Duty::Outcome::Fails, 0, 0, 0};
+        try {
+            StoreSystemCurve();
+            Plain = plain::DutyPoint(Year);
+        } catch (const ArithmeticFailure&) {
+            SystemHead.Fill(-1); // a search that reads on would find it
+        }
+        for (const Tables Wanted : {Tables::LeftOut, Tables::Filled}) {
+            const plain::Duty Found = DutyBy(Wanted);
+            ASSERT_EQ(Found.Ends, Plain.Ends) << Seed;
+            ASSERT_EQ(Found.Head.Bits(), Plain.Head.Bits()) << Seed;
+            ASSERT_EQ(Found.Flow.Bits(), Plain.Flow.Bits()) << Seed;
+            ASSERT_EQ(Found.Efficiency.Bits(), Plain.Efficiency.Bits()) << Seed;
+        }
+        ++Ends[static_cast<std::size_t>(Plain.Ends)];
+    }
+    for (const int Count : Ends) EXPECT_GT(Count, 300);
 }
 
 } // namespace

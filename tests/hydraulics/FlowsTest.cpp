@@ -73,5 +73,28 @@ TEST_F(FlowsTest, GivenFlowRunsTheGradelineBackFromTheEnd)
     }
 }
 
+// At 10 m/s a velocity head is 5.1 m: K 3e38 is beyond 32 bits in row 2, K 6e37 in the sum of rows 1 and 2.
+TEST_F(FlowsTest, AFailedYearKeepsWhatStoodBeforeAndHoldsWhatStandsInFrontOfTheFailure)
+{
+    struct Case {
+        double K1, K2;
+        int Friction, Secondary, Head; // rows written; the heads from the last row back
+    };
+    for (const Case& Each : {Case{0, 3e38, 2, 1, 0}, Case{6e37, 6e37, 3, 3, 2}}) {
+        wPumpOperatingFlowrate = 7.8539816;
+        wSecondaryLoss[1] = Each.K1;
+        wSecondaryLoss[2] = Each.K2;
+        for (ByRowAndYear* Losses : {&FrictionLoss, &SecondaryHeadLoss}) Losses->Fill(-7);
+        Gradeline.Fill(-7);
+        Solve();
+        ExpectGradelineFailure();
+        for (int i = 1; i <= 3; ++i) {
+            EXPECT_EQ(FrictionLoss(i, 1) != -7, i <= Each.Friction) << i;
+            EXPECT_EQ(SecondaryHeadLoss(i, 1) != -7, i <= Each.Secondary) << i;
+            EXPECT_EQ(Gradeline(i, 1) != -7, i > 3 - Each.Head) << i;
+        }
+    }
+}
+
 } // namespace
 } // namespace velorix

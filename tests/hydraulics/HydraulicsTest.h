@@ -18,7 +18,8 @@ protected:
     {
         Raised.clear();
         NormaliseInputs();
-        SolveFlows({.DutyPointMissing =
+        SolveFlows(Tables::Filled,
+                   {.DutyPointMissing =
                         [this] {
                             EXPECT_EQ(AnalysisAborted, 0);
                             Raised.push_back("no duty point in year " + std::to_string(AnalysisYear));
@@ -26,6 +27,7 @@ protected:
                     .Failed = [this] { Raised.push_back("failed"); }});
     }
 
+public:
     // A row as the normalising leaves it, with its friction factor in Year. Behind it stands the ground of a
     // longer profile before, which must take no part.
     static void AddRow(double Elevation, double Length, double Diameter, double K, double Factor)
@@ -37,13 +39,15 @@ protected:
         wElevation[NodeCount + 1] = 5000;
     }
 
+    static constexpr int Year = 3; // of what is worked for one year alone
+
+protected:
     void ExpectGradelineFailure() const
     {
         EXPECT_EQ(HydraulicsFailed, 1);
         EXPECT_EQ(Raised, std::vector<std::string>{"failed"});
     }
 
-    static constexpr int Year = 3;   // of what is worked for one year alone
     std::vector<std::string> Raised; // by the last Solve, in order
 };
 

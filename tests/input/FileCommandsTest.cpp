@@ -152,6 +152,14 @@ TEST_F(FileCommandsTest, FailingSaveTellsTheReasonAndKeepsTheProject)
     EXPECT_EQ(Shown(), "input ");
 }
 
+TEST_F(FileCommandsTest, AVanishedFileSuggestsANewOne)
+{
+    std::filesystem::remove(StartSaved("main.vlx"));
+    SaveCommand();
+    EXPECT_THAT(LastMessage(), HasSubstr("Can't write"));
+    EXPECT_THAT(Windows.Messages.back().Detail, HasSubstr("Save Project As"));
+}
+
 TEST_F(FileCommandsTest, FailingSaveAsKeepsTheOldName)
 {
     StartNew(0);
@@ -305,6 +313,7 @@ TEST_F(FileCommandsTest, DeleteAsksAndRemovesTheFile)
     SaveCommand();
     DeleteCommand(); // No
     EXPECT_EQ(LastMessage(), "Are you sure you want to delete the current project ?");
+    EXPECT_EQ(Windows.Messages.back().Detail, "File: " + File.string());
     EXPECT_EQ(Shown(), "input ");
     EXPECT_TRUE(std::filesystem::exists(File));
 
@@ -332,6 +341,9 @@ TEST_F(FileCommandsTest, DeleteRefusesWhatIsNotTheFileOfTheProject)
         EXPECT_EQ(ProjectOpen, 1);
         EXPECT_EQ(Saved, 1);
         EXPECT_EQ(Shown(), "");
+        const std::string Detail = Windows.Messages.back().Detail;
+        EXPECT_EQ(Detail.find("Save Project As") != std::string::npos, Name == std::string("gone.vlx"))
+            << Detail;
     }
     for (const char* Each : {"main.vlx", "main.vlx ", "folder.vlx"})
         EXPECT_TRUE(std::filesystem::exists(Folder / Each)) << Each;

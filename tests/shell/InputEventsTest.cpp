@@ -77,6 +77,9 @@ TEST_F(InputEventsTest, NumberBoxesTakeDigitsAndThePoint)
         if (!Box || Editors.count(Box)) continue;
         EXPECT_EQ(Taken(*Box, Typed), Numbers.count(Box) ? "\x08\x0d.0123456789" : Typed) << Box->ToolTip;
     }
+    MDIProject.StatusText.Caption = "";
+    EXPECT_EQ(Taken(frmLCC.txtKsNew, "12.5\x1b"), "12.5"); // Escape is dropped, and no character
+    EXPECT_EQ(MDIProject.StatusText.Caption.Get(), "");
 }
 
 TEST_F(InputEventsTest, BarsShowAndStoreTheirValue)
@@ -299,6 +302,7 @@ TEST_F(InputEventsTest, DeleteShowsTheRowAndAsks)
     const auto DeleteWith = [this](CommandButton& Button) {
         Windows.Answers = {Answer::Yes};
         Windows.ModalScripts["frmDeleteRow"] = [&Button] {
+            EXPECT_EQ(frmDeleteRow.lblNode.Caption.Get(), "2");
             EXPECT_EQ(frmDeleteRow.lblDelete[0].Caption.Get(), "62");
             EXPECT_EQ(frmDeleteRow.lblDelete[6].Caption.Get(), "Node"); // without its padding
             Button.Click();
