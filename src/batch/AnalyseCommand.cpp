@@ -1,201 +1,158 @@
-// Analyses in worker processes, and the table of their headline figures.
+// Analyses in worker processes, and what is written of each.
 #include "batch/AnalyseCommand.h"
 
 #include "analysis/AnalyseProject.h"
 #include "analysis/Program.h"
 #include "base/Failure.h"
 #include "base/Format.h"
-#include "base/Text.h"
 #include "batch/AnalysisOutput.h"
-#include "batch/TextFile.h"
-#include "batch/Worker.h"
+#include "batch/FileJobs.h"
+#include "batch/HeadlineTable.h"
+#include "batch/OutputFile.h"
+#include "batch/PinnedFields.h"
 #include "cost/CostResults.h"
 #include "input/InputScreen.h"
 #include "input/Session.h"
 #include "model/WorkingSet.h"
 #include "platform/ScriptedPlatform.h"
 
-#include <algorithm>
-#include <cstdio>
-#include <iostream>
 #include <nlohmann/json.hpp>
-#include <set>
-#include <unistd.h>
+#include <optional>
 
 namespace velorix {
 namespace {
 
 using Json = nlohmann::json;
 
-// The row of the table of headline figures.
-Json HeadlinesOf(const std::vector<Message>& Shown)
+// The row of the table of headline figures behind the file's name.
+Json HeadlinesOf(bool Stood)
 {
-    std::vector<std::string> Messages;
-    for (const Message& Each : Shown) Messages.push_back(Each.Text);
-    return {{"system", IsPumping() ? "pumping" : "gravity"},
-            {"life", std::to_string(wLife)},
-            {"cost", CurrencySign() + Format(NpvCost, "#,###,###,###,###,000")},
-            {"income", CurrencySign() + Format(NpvIncome, "#,###,###,###,###,000")},
-            {"irr", Format(Irr, "#0.000") + " %"},
-            {"messages", Messages}};
+    const auto Amount = [](Single Value) { return CurrencySign() + Format(Value, "#,###,###,###,###,000"); };
+    return {IsPumping() ? "pumping" : "gravity", std::to_string(wLife), Stood ? Amount(NpvCost) : "",
+            Stood ? Amount(NpvIncome) : "", Stood ? Format(Irr, "#0.000") + " %" : "did not stand"};
 }
 
-// Runs in the worker: the whole session of one file. The report crosses the pipe as JSON.
-std::string AnalyseOne(const std::filesystem::path& File, bool WantsCsv)
+// Runs in the worker: the whole session of one file. The report crosses the pipe as binary JSON.
+std::string AnalyseOne(const InputFile& File, const AnalyseOptions& Options)
 {
     ScriptedPlatform Windows;
     InstallPlatform(&Windows);
     StartSession();
-    FileName = File.string();
-    LoadProject();
+    std::vector<std::string> Warnings = LoadAndTellPinned(File.Path);
+    if (IsTooShort(File.Path)) Warnings.insert(Warnings.begin(), TooShort);
     AnalyseProject(Tables::LeftOut);
 
     const AnalysisResults Results = CollectResults(Windows.Messages);
+    const bool Stood = Analysed == 1;
+    std::vector<std::string> Messages;
+    for (const Message& Each : Windows.Messages) Messages.push_back(Each.Text);
     Json Report = {
-        {"stood", Analysed == 1}, {"headlines", HeadlinesOf(Windows.Messages)}, {"json", ToJson(Results)}};
-    if (WantsCsv) Report["csv"] = ToCsv(Results, wBaseYear, wSupplyStart);
-    return Report.dump();
+        {"stood", Stood}, {"headlines", HeadlinesOf(Stood)}, {"messages", Messages}, {"warnings", Warnings}};
+    if (!Options.JsonTarget.empty()) Report["json"] = ToJson(Results);
+    if (!Options.CsvFolder.empty()) Report["csv"] = ToCsv(Results, wBaseYear, wSupplyStart);
+    std::string Bytes;
+    Json::to_cbor(Report, Bytes);
+    return Bytes;
 }
 
-void ShowCount(int Done, int Count)
-{
-    constexpr int Width = 40;
-    const std::string Bar(static_cast<std::size_t>(Width * Done / Count), '#');
-    std::fprintf(stderr, "\r[%-*s] %d of %d%s", Width, Bar.c_str(), Done, Count, Done == Count ? "\n" : "");
-}
+// What one run writes.
+class AnalysisWriter {
+public:
+    explicit AnalysisWriter(const AnalyseOptions& Asked);
 
-// Two files of one name in different folders would write the same tables.
-void RequireDistinctNames(const std::vector<std::filesystem::path>& Files)
-{
-    std::set<std::string> Names;
-    for (const auto& Each : Files)
-        if (!Names.insert(Each.stem().string()).second)
-            throw FileFailure("Two of the files are named \"" + Each.stem().string() +
-                              "\", so their tables would overwrite each other");
-}
+    Ending Take(const InputFile& File, const WorkerOutcome& Outcome);
+    void Finish();
 
-using TableRows = std::vector<std::vector<std::string>>;
+private:
+    void TakeJson(const Json& Report);
+    void TakeRow(const InputFile& File, const Json& Report, WorkerEnd End);
 
-TableRows RowsOf(const std::vector<std::filesystem::path>& Files, const std::vector<Json>& Reports)
+    const AnalyseOptions& Options;
+    const OutputGuard Guard;
+    const HeadlineTable Table;
+    std::optional<OutputFile> JsonOut;
+    bool HasJson = false;
+    int Taken = 0;
+};
+
+AnalysisWriter::AnalysisWriter(const AnalyseOptions& Asked)
+    : Options(Asked)
+    , Guard(Asked.Files)
+    , Table(Asked.Files)
 {
-    TableRows Rows = {{"File", "System", "Life", "NPV of cost", "NPV of income", "IRR"}};
-    for (std::size_t Index = 0; Index < Files.size(); ++Index) {
-        const Json& Report = Reports[Index];
-        if (Report.is_null()) {
-            Rows.push_back({Files[Index].string(), "not read", "", "", "", ""});
-            continue;
-        }
-        const Json& Figures = Report["headlines"];
-        const bool Stood = Report["stood"];
-        Rows.push_back({Files[Index].string(), Figures["system"], Figures["life"],
-                        Stood ? Figures["cost"] : Json(""), Stood ? Figures["income"] : Json(""),
-                        Stood ? Figures["irr"] : Json("did not stand")});
+    if (!Options.CsvFolder.empty()) {
+        RequireDistinctStems(Options.Files);
+        MakeFolder(Options.CsvFolder);
     }
-    return Rows;
+    if (Options.JsonTarget.empty()) return;
+    if (Options.JsonTarget != StandardStream) Guard.RequireResult(Options.JsonTarget);
+    JsonOut.emplace(Options.JsonTarget);
 }
 
-std::string TableText(const std::vector<std::filesystem::path>& Files, const std::vector<Json>& Reports)
+// One file gives an object; a file without results gives nothing then, and keeps its place among several.
+void AnalysisWriter::TakeJson(const Json& Report)
 {
-    const TableRows Rows = RowsOf(Files, Reports);
-    std::vector<int> Widths(Rows.front().size());
-    for (const auto& Row : Rows)
-        for (std::size_t Col = 0; Col < Row.size(); ++Col)
-            Widths[Col] = std::max(Widths[Col], CharacterCount(Row[Col]));
-
-    std::string Table;
-    for (std::size_t Index = 0; Index < Rows.size(); ++Index) {
-        for (std::size_t Col = 0; Col < Widths.size(); ++Col) {
-            const std::string& Cell = Rows[Index][Col];
-            const std::string Blanks(static_cast<std::size_t>(Widths[Col] - CharacterCount(Cell)), ' ');
-            const bool Words = Col < 2; // the first columns hold words, the others figures
-            Table += (Words ? Cell + Blanks : Blanks + Cell) + (Col + 1 < Widths.size() ? "   " : "\n");
-        }
-        if (Index == 0 || Reports[Index - 1].is_null()) continue;
-        for (const auto& Text : Reports[Index - 1]["headlines"]["messages"])
-            Table += "    " + Text.get<std::string>() + "\n";
-    }
-    return Table;
+    const bool Several = Options.Files.size() > 1;
+    HasJson = Several || !Report.is_null();
+    if (Several) JsonOut->Write(Taken == 0 ? "[" : ",\n");
+    if (!Report.is_null())
+        JsonOut->Write(Report["json"].get_ref<const std::string&>());
+    else if (Several)
+        JsonOut->Write("null");
 }
 
-void WriteJson(const AnalyseOptions& Options, const std::vector<Json>& Reports)
+void AnalysisWriter::TakeRow(const InputFile& File, const Json& Report, WorkerEnd End)
 {
-    // A file that could not be read keeps its place among several, as null.
-    const auto TextOf = [](const Json& Report) {
-        return Report.is_null() ? std::string("null") : Report["json"].get<std::string>();
-    };
-    std::string Text;
-    if (Reports.size() == 1) {
-        if (Reports.front().is_null()) return;
-        Text = TextOf(Reports.front());
+    std::string Text = Taken == 0 ? Table.Header() : "";
+    HeadlineRow Row = {File.Name};
+    if (Report.is_null()) {
+        Row[1] = WordFor(End);
+        Text += Table.Line(Row);
     } else {
-        for (const Json& Each : Reports) Text += (Text.empty() ? "[" : ",\n") + TextOf(Each);
-        Text += "]";
+        for (std::size_t Column = 1; Column < Row.size(); ++Column)
+            Row[Column] = Report["headlines"][Column - 1];
+        Text += Table.Line(Row);
+        for (const auto& Each : Report["messages"]) Text += "    " + Each.get<std::string>() + "\n";
     }
-    Text += "\n";
-    if (Options.JsonTarget == "-")
-        WriteOut(Text);
+    WriteOut(Text);
+}
+
+Ending AnalysisWriter::Take(const InputFile& File, const WorkerOutcome& Outcome)
+{
+    Json Report;
+    if (Outcome.End == WorkerEnd::Finished) {
+        Report = Json::from_cbor(Outcome.Text);
+        TellOf(File, Report["warnings"]);
+        for (const auto& Each : Report.value("csv", Json::array()))
+            WriteResult(Guard, Options.CsvFolder / (File.Stem() + Each[0].get<std::string>()), Each[1]);
+    }
+    if (JsonOut)
+        TakeJson(Report);
     else
-        WriteText(Options.JsonTarget, Text);
+        TakeRow(File, Report, Outcome.End);
+    ++Taken;
+    return Report.is_null() || Report["stood"] ? Ending::AllWell : Ending::DidNotStand;
 }
 
-void WriteCsv(const AnalyseOptions& Options, const std::vector<Json>& Reports)
+void AnalysisWriter::Finish()
 {
-    std::error_code Problem;
-    std::filesystem::create_directories(Options.CsvFolder, Problem);
-    if (Problem)
-        throw FileFailure("Can't make the folder \"" + Options.CsvFolder.string() +
-                          "\": " + Problem.message());
-    for (std::size_t Index = 0; Index < Reports.size(); ++Index) {
-        if (Reports[Index].is_null()) continue;
-        for (const auto& Each : Reports[Index]["csv"]) {
-            const std::string Ending = Each[0];
-            WriteText(Options.CsvFolder / (Options.Files[Index].stem().string() + Ending), Each[1]);
-        }
-    }
-}
-
-// A failure of the file itself names it already.
-std::string ReasonFor(const std::filesystem::path& File, const std::string& Error)
-{
-    const bool Named = Error.find(File.string()) != std::string::npos;
-    return Named ? Error : File.string() + ": " + Error;
+    if (!JsonOut || !HasJson) return;
+    JsonOut->Write(Options.Files.size() > 1 ? "]\n" : "\n");
+    JsonOut->Finish();
 }
 
 } // namespace
 
-int AnalyseFiles(const AnalyseOptions& Options)
+Ending AnalyseFiles(const AnalyseOptions& Options)
 {
-    const bool WantsCsv = !Options.CsvFolder.empty();
-    if (WantsCsv) RequireDistinctNames(Options.Files);
-
-    const int Count = static_cast<int>(Options.Files.size());
-    const bool Progress = Count > 1 && ::isatty(STDERR_FILENO) == 1;
-    const auto Outcomes = RunWorkers(
-        Count, Options.Jobs,
-        [&](int Index) { return AnalyseOne(Options.Files[static_cast<std::size_t>(Index)], WantsCsv); },
-        [&](int Done) {
-            if (Progress) ShowCount(Done, Count);
-        });
-
-    int Status = AllStood;
-    std::vector<Json> Reports;
-    for (std::size_t Index = 0; Index < Outcomes.size(); ++Index) {
-        if (!Outcomes[Index].Error.empty()) {
-            std::cerr << "velorix-batch: " << ReasonFor(Options.Files[Index], Outcomes[Index].Error) << "\n";
-            Status = UsageOrFileError;
-            Reports.emplace_back(nullptr);
-            continue;
-        }
-        Reports.push_back(Json::parse(Outcomes[Index].Output));
-        if (!Reports.back()["stood"].get<bool>() && Status == AllStood) Status = AnalysisDidNotStand;
-    }
-
-    if (WantsCsv) WriteCsv(Options, Reports);
-    if (!Options.JsonTarget.empty())
-        WriteJson(Options, Reports);
-    else
-        WriteOut(TableText(Options.Files, Reports));
-    return Status;
+    AnalysisWriter Writer(Options);
+    const bool RowsShowProgress = Options.JsonTarget.empty() && IsTerminal(stdout);
+    const Ending Worst = RunOnFiles(
+        Options.Files, Options.Limits, !RowsShowProgress,
+        [&](const InputFile& File) { return AnalyseOne(File, Options); },
+        [&](const InputFile& File, const WorkerOutcome& Outcome) { return Writer.Take(File, Outcome); });
+    Writer.Finish();
+    return Worst;
 }
 
 } // namespace velorix

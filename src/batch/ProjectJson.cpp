@@ -4,6 +4,7 @@
 #include "base/CodePage.h"
 #include "base/Failure.h"
 #include "base/Text.h"
+#include "batch/FieldTexts.h"
 #include "batch/JsonText.h"
 #include "input/Session.h"
 #include "model/WorkingSet.h"
@@ -69,21 +70,31 @@ int UsedYears(const ProjectFields& Record)
     return Year;
 }
 
-std::string ValueText(std::int16_t Value)
+using Texts = std::vector<std::string>; // of a field's choices
+
+// A choice by its text, where it has one.
+std::string ValueText(std::int16_t Value, const Texts& Choices)
 {
-    return std::to_string(Value);
+    const bool Known = Value >= 0 && Value < static_cast<int>(Choices.size());
+    return Known ? JsonString(Choices[static_cast<std::size_t>(Value)]) : std::to_string(Value);
 }
 
-std::string ValueText(Single Value)
+std::string ValueText(Single Value, const Texts& = {})
 {
     return JsonNumber(Value, NotFinite::Text);
 }
 
+template <int Width>
+std::string ValueText(const FixedText<Width>& Value, const Texts&)
+{
+    return JsonString(TextOf(Value));
+}
+
 template <typename T, int Count>
-std::string ListText(const Array1<T, Count>& Values, int Used)
+std::string ListText(const Array1<T, Count>& Values, int Used, const Texts& Choices)
 {
     std::vector<std::string> Entries;
-    for (int Index = 1; Index <= Used; ++Index) Entries.push_back(ValueText(Values[Index]));
+    for (int Index = 1; Index <= Used; ++Index) Entries.push_back(ValueText(Values[Index], Choices));
     return JsonList(Entries);
 }
 
@@ -97,28 +108,22 @@ std::string PumpCurveText(const Array1<Single, PumpCurveValues>& Curve)
 }
 
 template <typename T>
-std::string FieldText(const ProjectFields&, const T& Value)
+std::string FieldText(const ProjectFields&, const T& Value, const Texts& Choices)
 {
-    return ValueText(Value);
-}
-
-template <int Width>
-std::string FieldText(const ProjectFields&, const FixedText<Width>& Value)
-{
-    return JsonString(TextOf(Value));
+    return ValueText(Value, Choices);
 }
 
 template <typename T, int Count>
-std::string FieldText(const ProjectFields& Record, const Array1<T, Count>& Values)
+std::string FieldText(const ProjectFields& Record, const Array1<T, Count>& Values, const Texts& Choices)
 {
     if constexpr (Count == PumpCurveValues)
         return PumpCurveText(Values);
     else if constexpr (Count == ProfileRows)
-        return ListText(Values, UsedRows(Record));
+        return ListText(Values, UsedRows(Record), Choices);
     else if constexpr (Count == DemandYears)
-        return ListText(Values, UsedYears(Record));
+        return ListText(Values, UsedYears(Record), Choices);
     else
-        return ListText(Values, Count);
+        return ListText(Values, Count, Choices);
 }
 
 // --- from JSON ---
@@ -151,8 +156,24 @@ constexpr auto NotFiniteWords = std::to_array<std::pair<std::string_view, float>
      {"Infinity", std::numeric_limits<float>::infinity()},
      {"-Infinity", -std::numeric_limits<float>::infinity()}});
 
+// The number of a choice given by its text.
+std::int16_t ChoiceOf(const FieldRule& Rule, const Json& Value)
+{
+    const Texts Choices = TextsOf(Rule);
+    const auto Found = std::find(Choices.begin(), Choices.end(), Value.get_ref<const std::string&>());
+    if (Found != Choices.end()) return static_cast<std::int16_t>(Found - Choices.begin());
+    if (Choices.empty()) Refuse(Rule.Name, "a whole number is expected, not " + Shown(Value));
+    std::string Known;
+    for (const std::string& Each : Choices) Known += (Known.empty() ? "\"" : ", \"") + Each + "\"";
+    Refuse(Rule.Name, Shown(Value) + " is none of " + Known);
+}
+
 void TakeValue(const FieldRule& Rule, const Json& Value, std::int16_t& Target)
 {
+    if (Value.is_string()) {
+        Target = ChoiceOf(Rule, Value);
+        return;
+    }
     if (!Value.is_number_integer()) Refuse(Rule.Name, "a whole number is expected, not " + Shown(Value));
     const std::int64_t Number = Value.get<std::int64_t>();
     if (Number < Rule.Allowed.Least || Number > Rule.Allowed.Most)
@@ -299,7 +320,7 @@ std::string ProjectToJson(const ProjectFields& Record)
 {
     JsonObject Object;
     ForEachField(Record, [&](const FieldRule& Rule, const auto& Field) {
-        Object.Add(Rule.Name, FieldText(Record, Field));
+        Object.Add(Rule.Name, FieldText(Record, Field, TextsOf(Rule)));
     });
     return Object.Text() + "\n";
 }

@@ -18,7 +18,7 @@ struct RateClass {
 };
 
 inline const std::array<RateClass, 3> RateClasses = {
-    {{PeakColor, "Peak"}, {StandardColor, "Standard"}, {OffpeakColor, "Off-peak"}}};
+    {{PeakColor, RateClassNames[2]}, {StandardColor, RateClassNames[1]}, {OffpeakColor, RateClassNames[0]}}};
 
 // One stop of the Tab key for all hours. The arrows, Home and End move from hour to hour; Space, Enter and a
 // click change the class of one; dragging paints the hours on its way with the class of the first. A screen

@@ -3,17 +3,22 @@
 #include "desktop/EventGuard.h"
 #include "desktop/Icons.h"
 #include "desktop/MainWindowLayout.h"
+#include "desktop/MissingDisplay.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/Style.h"
 #include "desktop/Views.h"
 #include "input/FileCommands.h"
 #include "shell/Shell.h"
 
+#include <optional>
+
 int main(int ArgumentCount, char** Arguments)
 {
     using namespace velorix;
 
+    std::optional<MissingDisplay> Start(std::in_place);
     EventGuard Program(ArgumentCount, Arguments);
+    Start.reset();
     EventGuard::setApplicationName("Velorix");
     EventGuard::setQuitOnLastWindowClosed(false); // between the opening dialogs no window stands
     ApplyStyle(Program);

@@ -7,6 +7,8 @@
 #include "platform/Grid.h"
 #include "platform/Screen.h"
 
+#include <array>
+
 namespace velorix {
 
 // The caption of a project that has no file yet; the Save command tells the two cases apart by it.
@@ -16,6 +18,7 @@ inline const std::string NewProjectCaption = "Velorix (New project file)";
 constexpr Color OffpeakColor = PureYellow;
 constexpr Color StandardColor = PureGreen;
 constexpr Color PeakColor = PureRed;
+inline constexpr std::array<const char*, 3> RateClassNames = {"Off-peak", "Standard", "Peak"}; // by class
 
 // Over the range of the field, and with the units that the field can stand in.
 ScrollBar BarOf(const FieldRule& Field, int LargeStep, const std::string& Hint);

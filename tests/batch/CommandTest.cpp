@@ -43,11 +43,37 @@ TEST_F(CommandTest, ExitStatusTellsTheWorstThatHappened)
 TEST_F(CommandTest, WhatCannotBeDoneIsToldAndWritesNothing)
 {
     WriteFile("wrong.json", R"({"Project": "Spur", "Life": 1000})");
+    WriteFile("right.json", "{}");
+    WriteFile("photo.jpg", std::string(20'000, 'p'));
+    WriteFile("short.vlx", std::string(8325, '\0'));
+    std::filesystem::create_directory(Folder / "folder.vlx");
+    std::filesystem::create_hard_link(Folder / "village.vlx", Folder / "same");
+    std::filesystem::create_symlink("ridge.vlx", Folder / "link");
     std::filesystem::create_symlink("/dev/full", Folder / "village-rows.csv");
     const std::pair<const char*, const char*> Cases[] = {
         {"analyze village.vlx", "subcommand"},
         {"analyse --jobs 0 village.vlx", "--jobs"},
         {"export village.vlx ridge.vlx", "ridge.vlx"},
+        {"export village.vlx other/village.vlx --out new", "Two of the files are named \"village\""},
+        {"import right.json", "OUT.vlx"},
+        {"import right.json wrong.json new", "--out FOLDER"},
+        {"import right.json other/right.json --out new", "Two of the files are named \"right\""},
+        {"import - - --out new", "standard input can be read once only"},
+        // A slip destroys nothing.
+        {"analyse --json village.vlx ridge.vlx", "\"village.vlx\" is a project; only import"},
+        {"analyse village.vlx --json village.vlx", "\"village.vlx\" is read by this command"},
+        {"analyse village.vlx --json same", "\"same\" is read by this command"},
+        {"analyse village.vlx --json link", "\"link\" is a project"},
+        {"analyse village.vlx --json folder.vlx", "\"folder.vlx\" is a project"},
+        {"import right.json right.json --force", "\"right.json\" is read by this command"},
+        {"import - right.json --force <right.json", "\"right.json\" is read by this command"},
+        {"import right.json photo.jpg", "\"photo.jpg\" is there and isn't a project file; --force"},
+        {"import right.json short.vlx", "\"short.vlx\" is there and isn't a project"},
+        {"import right.json folder.vlx", "\"folder.vlx\" is there and isn't a project"},
+        {"import right.json folder.vlx --force", "folder.vlx\": Is a directory"},
+        {"import folder.vlx new", "Can't read \"folder.vlx\": it isn't a regular file"},
+        {"import /dev/null new", "Can't read \"/dev/null\": it isn't a regular file"},
+        {"export short.vlx", "short.vlx: the file is shorter than 8326 bytes"},
         {"import wrong.json new", "Can't import \"wrong.json\": Life: 1000 is outside 2 to 100"},
         {"import wrong.json village.vlx", "Life: 1000 is outside 2 to 100"},
         {"export missing.vlx", "missing.vlx\": No such file or directory"},
@@ -63,7 +89,14 @@ TEST_F(CommandTest, WhatCannotBeDoneIsToldAndWritesNothing)
         {"export village.vlx >/dev/full", "No space left on device"},
         {"--version >/dev/full", "No space left on device"},
     };
-    const std::string Village = ReadFile(Folder / "village.vlx");
+    const std::vector<std::string> Kept = {"village.vlx", "ridge.vlx", "right.json", "photo.jpg",
+                                           "short.vlx"};
+    const auto Contents = [&] {
+        std::string All;
+        for (const std::string& Each : Kept) All += ReadFile(Folder / Each);
+        return All;
+    };
+    const std::string Before = Contents();
     for (const auto& [Words, Reason] : Cases) {
         const Run Failed = Batch(Words);
         EXPECT_EQ(Failed.Status, 1) << Words;
@@ -71,16 +104,30 @@ TEST_F(CommandTest, WhatCannotBeDoneIsToldAndWritesNothing)
         EXPECT_THAT(Failed.Errors, HasSubstr(Reason)) << Words;
         EXPECT_FALSE(std::filesystem::exists(Folder / "new")) << Words;
     }
-    EXPECT_EQ(ReadFile(Folder / "village.vlx"), Village);
+    EXPECT_TRUE(Contents() == Before);
+}
+
+// A full disk, as a limit on the length of a file.
+TEST_F(CommandTest, AResultThatCannotBeWrittenWholeLeavesTheEarlierOne)
+{
+    for (const char* Words : {"--json village-rows.csv", "--json - --csv ."}) {
+        WriteFile("village-rows.csv", "earlier");
+        const Run Failed =
+            Batch("--version; trap '' XFSZ; ulimit -f 1; " VELORIX_BATCH " analyse village.vlx " +
+                  std::string(Words));
+        EXPECT_EQ(Failed.Status, 1) << Words;
+        EXPECT_THAT(Failed.Errors, HasSubstr("File too large")) << Words;
+        EXPECT_EQ(ReadFile(Folder / "village-rows.csv"), "earlier") << Words;
+    }
 }
 
 TEST_F(CommandTest, TableAlignsByCharactersAndTellsReasonsAndMessages)
 {
     EXPECT_THAT(Batch("analyse ridge.vlx höhe.vlx missing.vlx").Output,
-                AllOf(StartsWith("File          System     Life"),
-                      ContainsRegex("\nridge.vlx     gravity      40 +R[0-9,]+ +R.*%\n"),
+                AllOf(StartsWith("File          System      Life"),
+                      ContainsRegex("\nridge.vlx     gravity       40 +R[0-9,]+ +R.*%\n"),
                       HasSubstr("%\n    A local high point in the pipeline profile"),
-                      ContainsRegex("\nhöhe.vlx      pumping      30 +did not stand\n"
+                      ContainsRegex("\nhöhe.vlx      pumping       30 +did not stand\n"
                                     "    The pump curve does not intersect"),
                       HasSubstr("\nmissing.vlx   not read")));
 }
@@ -146,10 +193,67 @@ TEST_F(CommandTest, CsvTablesHoldTheSameNumbersByCalendarYear)
                                                Results[Name][24].back().dump() + "\n$"));
 }
 
-TEST_F(CommandTest, ImportGivesTheExportedFileBack)
+// Through standard input and output, and through folders; over a project that is there, and by force over
+// what is none.
+TEST_F(CommandTest, ImportGivesTheExportedFilesBack)
 {
-    EXPECT_EQ(Batch("export ridge.vlx | " VELORIX_BATCH " import /dev/stdin copy.vlx").Status, 0);
-    EXPECT_EQ(ReadFile(Folder / "copy.vlx"), ReadFile(Folder / "ridge.vlx"));
+    WriteFile("notes.txt", "");
+    std::filesystem::copy(Folder / "village.vlx", Folder / "copy.vlx");
+    for (const std::string Target : {"copy.vlx", "new.vlx", "notes.txt"}) {
+        EXPECT_EQ(Batch("export - <ridge.vlx | " VELORIX_BATCH " import - " + Target +
+                        (Target == "notes.txt" ? " --force" : ""))
+                      .Status,
+                  0);
+        EXPECT_TRUE(ReadFile(Folder / Target) == ReadFile(Folder / "ridge.vlx")) << Target;
+    }
+    EXPECT_EQ(Batch("export ridge.vlx village.vlx --out a/json && " VELORIX_BATCH
+                    " import a/json/*.json --out a/projects")
+                  .Status,
+              0);
+    for (const char* Name : {"ridge.vlx", "village.vlx"})
+        EXPECT_TRUE(ReadFile(Folder / "a/projects" / Name) == ReadFile(Folder / Name)) << Name;
+}
+
+// A file that a control of the screen can't show, one that is too short, and a name in another code page.
+TEST_F(CommandTest, WhatIsNotAsItSeemsIsToldOnStandardError)
+{
+    ProjectFields Record = ProjectFromJson(ReadFile(Examples / "hoekfontein-pumping-main.json"));
+    Record.Life = 1000;
+    Record.MPipeline = -1;
+    Record.PumpingHours = 25;
+    WriteFile("odd.vlx", BytesOf(Record));
+    WriteFile("short.vlx", BytesOf(Record).substr(0, 8325));
+    const std::string Pinned = "velorix-batch: odd.vlx: Life 1000 is out of range, 100 is taken\n"
+                               "velorix-batch: odd.vlx: MPipeline -1 is out of range, 0 is taken\n"
+                               "velorix-batch: odd.vlx: PumpingHours 25 is out of range, 24 is taken\n";
+    EXPECT_EQ(Batch("analyse odd.vlx village.vlx").Errors, Pinned);
+    EXPECT_EQ(Batch("check odd.vlx").Errors, Pinned);
+    EXPECT_THAT(Batch("analyse short.vlx").Errors,
+                HasSubstr("short.vlx: the file is shorter than 8326 bytes"));
+    EXPECT_THAT(Batch("analyse short.vlx").Output, HasSubstr("\nshort.vlx"));
+
+    const Run Foreign = Batch("analyse h\xF6he.vlx; " VELORIX_BATCH " analyse --jobs \xFF a");
+    EXPECT_THAT(Foreign.Output, HasSubstr("\nh\uFFFDhe.vlx   not read\n"));
+    EXPECT_THAT(Foreign.Errors,
+                AllOf(HasSubstr("\"h\uFFFDhe.vlx\": No such"), HasSubstr("--jobs: Value \uFFFD")));
+}
+
+TEST_F(CommandTest, CheckTellsWhatASaveWouldTell)
+{
+    WriteExample("nameless.vlx", "kloofsig-village-main", {{"Project", " "}});
+    WriteExample("endless.vlx", "kloofsig-village-main", {{"KsNew", "Infinity"}});
+    WriteFile("short.vlx", std::string(8325, ' '));
+    const std::string Village = ReadFile(Folder / "village.vlx");
+    const Run Checked = Batch("check village.vlx nameless.vlx endless.vlx short.vlx");
+    EXPECT_EQ(Checked.Status, 2);
+    EXPECT_THAT(Checked.Output,
+                testing::MatchesRegex("village.vlx: ok\n"
+                                      "nameless.vlx: Enter the project name !\n"
+                                      "endless.vlx: Absolute [^\n]*\n"
+                                      "short.vlx: the file is shorter than 8326 bytes[^\n]*\n"));
+    EXPECT_EQ(Batch("check village.vlx ridge.vlx").Status, 0);
+    EXPECT_EQ(Batch("check nameless.vlx missing.vlx").Status, 1);
+    EXPECT_EQ(ReadFile(Folder / "village.vlx"), Village);
 }
 
 // Two time zones in which it is never the same day; a midnight may pass between the two calls of date.

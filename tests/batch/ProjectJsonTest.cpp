@@ -17,11 +17,14 @@ using testing::StartsWith;
 struct RandomFields {
     int Between(int Least, int Most) { return std::uniform_int_distribution(Least, Most)(Chance); }
 
-    // 0 and 1 are in the range of every list and flag.
-    void Fill(std::int16_t& Value) { Value = static_cast<std::int16_t>(Between(0, 1)); }
+    // Every choice, by its text or its number.
+    void Fill(const FieldRule& Rule, std::int16_t& Value)
+    {
+        Value = static_cast<std::int16_t>(Between(Rule.Allowed.Least, Rule.Allowed.Most));
+    }
 
     // Any bits at all, but one NaN only: JSON has a word for it, and none for its bits.
-    void Fill(Single& Value)
+    void Fill(const FieldRule&, Single& Value)
     {
         Value = Single::FromBits(static_cast<std::uint32_t>(Chance()));
         if (Value != Value) Value = std::numeric_limits<float>::quiet_NaN();
@@ -29,15 +32,15 @@ struct RandomFields {
     }
 
     template <int Width>
-    void Fill(FixedText<Width>& Value)
+    void Fill(const FieldRule&, FixedText<Width>& Value)
     {
         for (char& Each : Value.Bytes) Each = static_cast<char>(Between(33, 255));
     }
 
     template <typename T, int Count>
-    void Fill(Array1<T, Count>& Values)
+    void Fill(const FieldRule& Rule, Array1<T, Count>& Values)
     {
-        for (T& Each : Values) Fill(Each);
+        for (T& Each : Values) Fill(Rule, Each);
     }
 
     std::mt19937 Chance{20050303};
@@ -61,13 +64,8 @@ TEST_F(ProjectJsonTest, EveryBitOfARecordComesBack)
     RandomFields Random;
     for (int Trial = 1; Trial <= 50; ++Trial) {
         ProjectFields Record;
-        ForEachField(Record, [&](const FieldRule&, auto& Field) { Random.Fill(Field); });
-        Record.Life = 100;
-        Record.BaseYear = 1950;
-        Record.SupplyStart = 2500;
+        ForEachField(Record, [&](const FieldRule& Rule, auto& Field) { Random.Fill(Rule, Field); });
         Record.Laying[14] = 0.0;
-        Record.PumpingHours = 24;
-        Record.NodeNr.Fill(500);
         (Trial % 2 == 0 ? Record.Elevation : Record.AccLength)[500] = UnusedNode; // still a row in use
         const std::string Text = ProjectToJson(Record);
         EXPECT_EQ(BytesOf(ProjectFromJson(Text)), BytesOf(Record)) << "trial " << Trial;
@@ -79,16 +77,22 @@ TEST_F(ProjectJsonTest, EveryBitOfARecordComesBack)
 // of the absent ones, which follow the units and the currency.
 TEST_F(ProjectJsonTest, FieldsReadAsTypedAndAbsentOnesAreThoseOfANewProject)
 {
-    const std::string Text = ProjectToJson(ProjectFromJson(R"({
+    const std::string Text = ProjectToJson(ProjectFromJson(R"-({
         "Project": "  Rising main, \"6 m³/min\" ", "Life": 7, "Flowrate": 0.1, "Demand": [1.5, 0, 2],
-        "Elevation": [10, 20, 999999], "AccLength": [0, 500.5, 999999], "NodeDesc": [2, 3],
-        "PumpCurve": [[80, 0, 0], [70.5, 100, 60]], "Currency": 1, "Units": 1, "SystemType": 1})"));
-    EXPECT_THAT(Text, StartsWith("{\n  \"SystemType\": 1,\n  \"Units\": 1,\n"));
+        "Elevation": [10, 20, 999999], "AccLength": [0, 500.5, 999999], "NodeDesc": [2, "Isolating valve"],
+        "SummerHour": [2, "Standard", 0], "FlowrateUnits": "ft³/s", "LiningType": "Cement mortar/Other",
+        "PumpCurve": [[80, 0, 0], [70.5, 100, 60]], "Currency": "Dollar ($)", "Units": 1, "SystemType": "Pumping system"})-"));
+    EXPECT_THAT(Text, StartsWith("{\n  \"SystemType\": \"Pumping system\",\n  \"Units\": \"US units\",\n"
+                                 "  \"Currency\": \"Dollar ($)\",\n"));
     for (const char* Member :
          {R"("Project": "Rising main, \"6 m³/min\"")", R"("Life": 7,)", R"("Flowrate": 0.1,)",
           R"("Demand": [1.5, 0, 2],)", R"("Elevation": [10, 20],)", R"("AccLength": [0, 500.5],)",
-          R"("NodeDesc": [2, 3],)", R"("PumpCurve": [[80, 0, 0], [70.5, 100, 60], [0, 0, 0], )",
-          R"("LengthUnits": 2,)", R"("WaterSales": 0.05,)"})
+          R"("NodeDesc": ["Pumpstation", "Isolating valve"],)", R"("FlowrateUnits": "ft³/s",)",
+          R"("LiningType": "Cement mortar/Other",)", R"("SummerHour": ["Peak", "Standard", "Off-peak", )",
+          R"("VaryingDemand": "Fixed demand",)", R"("PumpDetails": "Specified operating flow rate",)",
+          R"("DemandUnits": "ft³/s",)", R"("WaterSalesUnits": "/ft³",)", R"("HeadUnits": "ft",)",
+          R"("PumpCurve": [[80, 0, 0], [70.5, 100, 60], [0, 0, 0], )", R"("LengthUnits": "ft",)",
+          R"("WaterSales": 0.05,)"})
         EXPECT_THAT(Text, HasSubstr(Member));
 }
 
@@ -99,6 +103,10 @@ TEST_F(ProjectJsonTest, RefusesWithKeyAndReason)
     const std::pair<std::string, const char*> Cases[] = {
         {R"({"Lfie": 30})", "Lfie: there is no such field"},
         {R"({"Life": 30.5})", "Life: a whole number is expected, not 30.5"},
+        {R"({"Life": "many"})", "Life: a whole number is expected, not \"many\""},
+        {R"({"LengthUnits": "yd"})", R"(LengthUnits: "yd" is none of "m", "km", "ft", "miles")"},
+        {R"({"DemandUnits": ")" + Long + "\"}", "\"Million gal/day (EUR)\""},
+        {R"({"NodeDesc": [0, ""]})", "NodeDesc: \"\" is none of \"Node\", "},
         {R"({"Flowrate": "many"})", "Flowrate: a number is expected, not \"many\""},
         {R"({"Project": 3})", "Project: a text is expected, not 3"},
         {R"({"Diameter": {"1": 2}})", "Diameter: a list is expected, not an object"},

@@ -1,16 +1,31 @@
-// Worker processes: order, size, and the ways in which one may fail.
+// Worker processes: order, size, and the ways in which one may end.
 #include "batch/Worker.h"
 
 #include <csignal>
 #include <gmock/gmock.h>
 #include <stdexcept>
+#include <sys/ioctl.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace velorix {
 namespace {
 
 using testing::ElementsAre;
+using Milliseconds = std::chrono::milliseconds;
+
+std::vector<WorkerOutcome> OutcomesOf(int Count, const WorkerLimits& Limits,
+                                      const std::function<std::string(int)>& Work)
+{
+    std::vector<WorkerOutcome> Outcomes;
+    RunWorkers(Count, Limits, Work, [&](int Index, const WorkerOutcome& Outcome) {
+        EXPECT_EQ(Index, static_cast<int>(Outcomes.size()));
+        Outcomes.push_back(Outcome);
+    });
+    return Outcomes;
+}
 
 TEST(WorkerTest, FailuresStayWithTheirOwnWork)
 {
@@ -20,37 +35,59 @@ TEST(WorkerTest, FailuresStayWithTheirOwnWork)
         if (Index == 3) ::_exit(0);
         if (Index == 4) throw Index;
         if (Index == 5) ::_exit(7);
+        if (Index == 6) ::pause();
         return "stood";
     };
     for (const int Jobs : {1, 4}) {
-        std::vector<int> Progress;
         std::vector<std::string> Ends;
-        for (const auto& Each : RunWorkers(7, Jobs, Work, [&](int Done) { Progress.push_back(Done); }))
-            Ends.push_back(Each.Output + "|" + Each.Error);
-        EXPECT_THAT(Progress, ElementsAre(1, 2, 3, 4, 5, 6, 7));
-        EXPECT_THAT(Ends, ElementsAre("stood|", "|no such pump", "|the analysis was ended by signal 9",
-                                      "|the analysis ended without a result",
-                                      "|the analysis ended with an unknown failure",
-                                      "|the analysis ended with status 7", "stood|"));
+        for (const auto& Each : OutcomesOf(8, {Jobs, Milliseconds(1500)}, Work))
+            Ends.push_back(std::to_string(static_cast<int>(Each.End)) + " " + Each.Text);
+        EXPECT_THAT(Ends, ElementsAre("0 stood", "1 no such pump",
+                                      "2 crashed: the worker was ended by signal 9 (Killed)",
+                                      "2 crashed: the worker ended without a result",
+                                      "1 the work ended with an unknown failure",
+                                      "2 crashed: the worker ended with status 7",
+                                      "3 ended at the time limit of 1.5 s", "0 stood"));
     }
 }
 
-// Far more than a buffer holds, and the first of two waits for the second.
+// Far more than a pipe holds, and the first of two waits for the second. The limit is for the work: what has
+// begun to arrive is let in, however slow the taking is.
 TEST(WorkerTest, LargeOutputsOfTwoAtATimeComeWholeAndInOrder)
 {
-    constexpr std::size_t Large = 5'000'000;
+    constexpr std::size_t Large = 20'000'000;
+    int Ends[2];
+    ASSERT_EQ(::pipe(Ends), 0);
+    const auto Work = [&](int Index) -> std::string {
+        char Byte = 0;
+        const ssize_t Passed = Index == 0 ? ::read(Ends[0], &Byte, 1) : ::write(Ends[1], &Byte, 1);
+        return Index == 0 ? "first" : std::string(Passed == 1 ? Large : 0, 'b');
+    };
+    std::vector<std::string> Outputs;
+    RunWorkers(2, {2, Milliseconds(3000)}, Work, [&](int, const WorkerOutcome& Outcome) {
+        if (Outputs.empty()) std::this_thread::sleep_for(Milliseconds(3500));
+        Outputs.push_back(Outcome.Text);
+    });
+    for (const int End : Ends) ::close(End);
+    EXPECT_TRUE(Outputs == std::vector<std::string>({"first", std::string(Large, 'b')}));
+}
+
+// While the first works on, outputs of 8 MiB or some more may wait for it.
+TEST(WorkerTest, LittleIsKeptForASlowFirst)
+{
     int Ends[2];
     ASSERT_EQ(::pipe(Ends), 0);
     const auto Work = [&](int Index) {
-        ::alarm(20); // rather than waiting for ever, should they run one after the other
-        char Byte = 0;
-        const ssize_t Passed = Index == 0 ? ::read(Ends[0], &Byte, 1) : ::write(Ends[1], &Byte, 1);
-        return std::string(Passed == 1 ? Large : 0, static_cast<char>('a' + Index));
+        if (Index == 0) std::this_thread::sleep_for(Milliseconds(500));
+        EXPECT_EQ(::write(Ends[1], "x", 1), 1);
+        return std::string(1'000'000, 'x');
     };
-    const auto Outcomes = RunWorkers(2, 2, Work, [](int) {});
+    int Before = 0; // that have been at work when the first is taken
+    RunWorkers(60, {.Jobs = 2}, Work, [&](int Index, const WorkerOutcome&) {
+        if (Index == 0) ::ioctl(Ends[0], FIONREAD, &Before);
+    });
     for (const int End : Ends) ::close(End);
-    EXPECT_TRUE(Outcomes[0].Output == std::string(Large, 'a'));
-    EXPECT_TRUE(Outcomes[1].Output == std::string(Large, 'b'));
+    EXPECT_LE(Before, 12);
 }
 
 // Each waiting worker takes a handle of this process; four are to be had at a time.
@@ -63,9 +100,23 @@ TEST(WorkerTest, FewHandlesOnlyMakeItSlower)
     const rlimit Few{static_cast<rlim_t>(FirstFree) + 4, Usual.rlim_max};
     ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &Few), 0);
     const auto Work = [](int Index) { return std::to_string(Index); };
-    const auto Outcomes = RunWorkers(20, 20, Work, [](int) {});
+    const auto Outcomes = OutcomesOf(20, {.Jobs = 20}, Work);
     ::setrlimit(RLIMIT_NOFILE, &Usual);
-    for (int Index = 0; Index < 20; ++Index) EXPECT_EQ(Outcomes[Index].Output, Work(Index));
+    for (int Index = 0; Index < 20; ++Index) EXPECT_EQ(Outcomes[Index].Text, Work(Index));
+}
+
+// What fails in the taking ends all the others, which would run for ever.
+TEST(WorkerTest, AFailureOfTheTakerLeavesNoWorker)
+{
+    const auto Work = [](int Index) -> std::string {
+        while (Index > 0) ::pause();
+        return "first";
+    };
+    EXPECT_THROW(
+        RunWorkers(3, {.Jobs = 3}, Work, [](int, const WorkerOutcome&) { throw std::runtime_error("full"); }),
+        std::runtime_error);
+    EXPECT_EQ(::waitpid(-1, nullptr, 0), -1);
+    EXPECT_EQ(errno, ECHILD);
 }
 
 } // namespace
