@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <chrono>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -18,8 +17,6 @@
 
 namespace velorix {
 namespace {
-
-constexpr std::chrono::seconds LongestWait{5};
 
 [[noreturn]] void Fail(const char* Purpose, const std::filesystem::path& Path, int Error)
 {
@@ -205,12 +202,16 @@ File::Granted File::TryLock(Lock Kind) const
     return errno == EAGAIN || errno == EACCES ? Granted::No : Granted::Unsupported;
 }
 
-File::Granted File::WaitForLock(Lock Kind) const
+File::Time File::EndOfWait()
 {
-    const auto End = std::chrono::steady_clock::now() + LongestWait;
+    return std::chrono::steady_clock::now() + std::chrono::seconds(5);
+}
+
+File::Granted File::WaitForLock(Lock Kind, Time GivesUp) const
+{
     while (true) {
         const Granted Result = TryLock(Kind);
-        if (Result != Granted::No || std::chrono::steady_clock::now() > End) return Result;
+        if (Result != Granted::No || std::chrono::steady_clock::now() > GivesUp) return Result;
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
 }

@@ -1,6 +1,7 @@
 // An open file with random access. Every failure names the file and the system's reason.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -49,7 +50,9 @@ public:
     enum class Lock { Replace, Read, Overwrite };
     enum class Granted { Yes, No, Unsupported };
     Granted TryLock(Lock Kind) const;
-    Granted WaitForLock(Lock Kind) const; // gives up after some seconds
+    using Time = std::chrono::steady_clock::time_point;
+    static Time EndOfWait(); // some seconds from now
+    Granted WaitForLock(Lock Kind, Time GivesUp = EndOfWait()) const;
 
 private:
     File(std::filesystem::path Shown, int Opened);

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
+#include <cstdint>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -39,15 +41,15 @@ std::filesystem::path FollowLinks(const std::filesystem::path& Target)
 // The file that is there, once it is this program's turn. While it waited the file may have been replaced.
 std::optional<File> OpenOld(const std::filesystem::path& Path)
 {
-    constexpr int MostTurns = 100;
-    for (int Turn = 0; Turn < MostTurns; ++Turn) {
+    const File::Time GivesUp = File::EndOfWait();
+    do {
         int Error = 0;
         std::optional<File> Found = File::TryOpen(Path, Error);
         if (!Found && Error == ENOENT) return std::nullopt;
         if (!Found) FailToWrite(Path, Error);
-        if (Found->WaitForLock(File::Lock::Replace) == File::Granted::No) break;
+        if (Found->WaitForLock(File::Lock::Replace, GivesUp) == File::Granted::No) break;
         if (Found->IsAt(Path)) return Found;
-    }
+    } while (std::chrono::steady_clock::now() < GivesUp);
     throw FileFailure("Can't write \"" + Path.string() + "\": another program is writing it");
 }
 
