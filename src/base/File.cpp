@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <chrono>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -18,8 +17,6 @@
 
 namespace velorix {
 namespace {
-
-constexpr std::chrono::seconds LongestWait{5};
 
 [[noreturn]] void Fail(const char* Purpose, const std::filesystem::path& Path, int Error)
 {
@@ -158,7 +155,8 @@ void File::Truncate(std::uintmax_t Length)
 
 void File::Flush()
 {
-    if (::fsync(Handle) != 0) FailToWrite(Path, errno);
+    const bool Flushed = ::fsync(Handle) == 0 || errno == EINVAL; // some filesystems have nothing to flush
+    if (!Flushed) FailToWrite(Path, errno);
 }
 
 void File::CopyFrom(const File& Other)
@@ -168,10 +166,13 @@ void File::CopyFrom(const File& Other)
     std::array<char, 65536> Block{};
     off_t At = 0;
     while (At < End) {
-        At = ::lseek(Other.Handle, At, SEEK_DATA);
-        if (At < 0 && errno == ENXIO) break; // nothing but a hole is left
-        const off_t Hole = At < 0 ? -1 : ::lseek(Other.Handle, At, SEEK_HOLE);
+        const off_t Data = ::lseek(Other.Handle, At, SEEK_DATA);
+        if (Data < 0 && errno == ENXIO) break;                                    // only a hole is left
+        const bool Untold = Data < 0 && (errno == EINVAL || errno == EOPNOTSUPP); // what is a hole
+        if (Data < 0 && !Untold) FailToRead(Other.Path, errno);
+        const off_t Hole = Untold ? End : ::lseek(Other.Handle, Data, SEEK_HOLE);
         if (Hole < 0) FailToRead(Other.Path, errno);
+        At = Untold ? At : Data;
         while (At < Hole) {
             const auto Wanted = static_cast<std::size_t>(std::min<off_t>(Hole - At, Block.size()));
             const std::size_t Got = Other.Read(static_cast<std::uintmax_t>(At), Block.data(), Wanted);
@@ -182,20 +183,18 @@ void File::CopyFrom(const File& Other)
     }
 }
 
-void File::TakePermissions(const File& Other)
+bool File::TakePermissions(const File& Other)
 {
     struct stat Wanted {};
     struct stat Own {};
-    if (::fstat(Other.Handle, &Wanted) != 0 || ::fstat(Handle, &Own) != 0) FailToWrite(Path, errno);
-    bool Shared = Wanted.st_gid == Own.st_gid;
-    if (!Shared || Wanted.st_uid != Own.st_uid)
-        Shared = ::fchown(Handle, Wanted.st_uid, Wanted.st_gid) == 0 || Shared ||
-                 ::fchown(Handle, static_cast<uid_t>(-1), Wanted.st_gid) == 0;
-    const bool Listed = TakeAccessList(Other.Handle, Handle);
-    // What the old group could do is neither another group's nor, without the list, this one's.
-    const mode_t Both = Wanted.st_mode & (Wanted.st_mode >> 3U) & 0007U;
-    const mode_t Narrow = (Wanted.st_mode & 0700U) | (Both << 3U) | Both;
-    if (::fchmod(Handle, Shared && Listed ? Wanted.st_mode & 0777U : Narrow) != 0) FailToWrite(Path, errno);
+    if (::fstat(Other.Handle, &Wanted) != 0 || ::fstat(Handle, &Own) != 0) return false;
+    const bool Owned = Wanted.st_uid == Own.st_uid && Wanted.st_gid == Own.st_gid;
+    if (!Owned && ::fchown(Handle, Wanted.st_uid, Wanted.st_gid) != 0) return false;
+    if (!TakeAccessList(Other.Handle, Handle)) return false;
+    constexpr mode_t Rights = 0777;
+    if (::fchmod(Handle, Wanted.st_mode & Rights) == 0) return true;
+    // Where all files have the same rights, none can be set.
+    return ::fstat(Handle, &Own) == 0 && ((Own.st_mode ^ Wanted.st_mode) & Rights) == 0;
 }
 
 File::Granted File::TryLock(Lock Kind) const
@@ -205,12 +204,16 @@ File::Granted File::TryLock(Lock Kind) const
     return errno == EAGAIN || errno == EACCES ? Granted::No : Granted::Unsupported;
 }
 
-File::Granted File::WaitForLock(Lock Kind) const
+File::Time File::EndOfWait()
 {
-    const auto End = std::chrono::steady_clock::now() + LongestWait;
+    return std::chrono::steady_clock::now() + std::chrono::seconds(5);
+}
+
+File::Granted File::WaitForLock(Lock Kind, Time GivesUp) const
+{
     while (true) {
         const Granted Result = TryLock(Kind);
-        if (Result != Granted::No || std::chrono::steady_clock::now() > End) return Result;
+        if (Result != Granted::No || std::chrono::steady_clock::now() > GivesUp) return Result;
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
 }

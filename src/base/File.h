@@ -1,6 +1,7 @@
 // An open file with random access. Every failure names the file and the system's reason.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -37,19 +38,22 @@ public:
     void Truncate(std::uintmax_t Length);
     void Flush(); // returns once the bytes are on the disk
 
-    // Takes over all bytes of the other file, its holes as holes. This one must be empty.
+    // Takes over all bytes of the other file, its holes as holes where the filesystem tells them. This one
+    // must be empty.
     void CopyFrom(const File& Other);
 
-    // Takes over owner, group, permissions and access list, as far as the user may give them away; never more
-    // rights than the other file grants.
-    void TakePermissions(const File& Other);
+    // Takes over owner, group, permissions and access list. False when one of them can't be kept, as the user
+    // may not give it away.
+    [[nodiscard]] bool TakePermissions(const File& Other);
 
     // Advisory locks, which the programs hold until they close the file: one program at a time replaces it;
     // no program reads while one writes over it.
     enum class Lock { Replace, Read, Overwrite };
     enum class Granted { Yes, No, Unsupported };
     Granted TryLock(Lock Kind) const;
-    Granted WaitForLock(Lock Kind) const; // gives up after some seconds
+    using Time = std::chrono::steady_clock::time_point;
+    static Time EndOfWait(); // some seconds from now
+    Granted WaitForLock(Lock Kind, Time GivesUp = EndOfWait()) const;
 
 private:
     File(std::filesystem::path Shown, int Opened);

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
+#include <cstdint>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -39,16 +41,24 @@ std::filesystem::path FollowLinks(const std::filesystem::path& Target)
 // The file that is there, once it is this program's turn. While it waited the file may have been replaced.
 std::optional<File> OpenOld(const std::filesystem::path& Path)
 {
-    constexpr int MostTurns = 100;
-    for (int Turn = 0; Turn < MostTurns; ++Turn) {
+    const File::Time GivesUp = File::EndOfWait();
+    do {
         int Error = 0;
         std::optional<File> Found = File::TryOpen(Path, Error);
         if (!Found && Error == ENOENT) return std::nullopt;
         if (!Found) FailToWrite(Path, Error);
-        if (Found->WaitForLock(File::Lock::Replace) == File::Granted::No) break;
+        if (Found->WaitForLock(File::Lock::Replace, GivesUp) == File::Granted::No) break;
         if (Found->IsAt(Path)) return Found;
-    }
+    } while (std::chrono::steady_clock::now() < GivesUp);
     throw FileFailure("Can't write \"" + Path.string() + "\": another program is writing it");
+}
+
+// Whether the file is mounted by itself, also from the folder's own filesystem. Old kernels don't tell.
+bool IsMounted(const std::filesystem::path& Path)
+{
+    struct statx Status {};
+    return ::statx(AT_FDCWD, Path.c_str(), AT_SYMLINK_NOFOLLOW, 0, &Status) == 0 &&
+           (Status.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0;
 }
 
 // In a folder where users may remove only their own files, another's file can't be replaced; nor can one
@@ -61,13 +71,21 @@ bool MayBeReplaced(const std::filesystem::path& Path)
         FailToWrite(Path, errno);
     const uid_t User = ::geteuid();
     const bool Guarded = (Folder.st_mode & S_ISVTX) != 0 && User != 0;
-    return Folder.st_dev == Old.st_dev && (!Guarded || User == Folder.st_uid || User == Old.st_uid);
+    return Folder.st_dev == Old.st_dev && !IsMounted(Path) &&
+           (!Guarded || User == Folder.st_uid || User == Old.st_uid);
 }
 
-// A few names will do: each is taken for the length of one write.
-constexpr int NameCount = 16;
+// A few names will do: each is taken for the length of one write. Should something else stand at all of
+// them, a random one is free.
+constexpr std::uint64_t NameCount = 16;
 
-std::filesystem::path NameBeside(const std::filesystem::path& Path, int Number)
+std::uint64_t RandomNumber()
+{
+    std::uint64_t Number = NameCount;
+    return ::getentropy(&Number, sizeof Number) == 0 ? Number : NameCount;
+}
+
+std::filesystem::path NameBeside(const std::filesystem::path& Path, std::uint64_t Number)
 {
     constexpr std::size_t LongestPart = 200; // leaves room in the longest name that a file can have
     return FolderOf(Path) /
@@ -106,7 +124,6 @@ NewFile::NewFile(const std::filesystem::path& Target)
 {
     if (!Before || MayBeReplaced(Path)) CreateBeside();
     if (!Content) Before->WaitForLock(File::Lock::Overwrite);
-    if (Content && Before) Content->TakePermissions(*Before);
 }
 
 NewFile::~NewFile()
@@ -121,22 +138,26 @@ NewFile::~NewFile()
 
 void NewFile::CreateBeside()
 {
+    for (std::uint64_t Number = 0; Number < NameCount; ++Number) RemoveLeftover(NameBeside(Path, Number));
     const unsigned Permissions = Before ? 0600 : 0666; // nobody else's until it has those of the old one
-    int Error = 0;
-    for (int Number = 0; Number < NameCount; ++Number) {
-        const std::filesystem::path Free = NameBeside(Path, Number);
-        RemoveLeftover(Free);
-        if (Content) continue;
+    for (std::uint64_t Number = 0; Number <= NameCount; ++Number) {
+        const std::filesystem::path Free = NameBeside(Path, Number < NameCount ? Number : RandomNumber());
+        int Error = 0;
         std::optional<File> Created = File::TryCreate(Free, Path, Permissions, Error);
         if (!Created && Error == EEXIST) continue;
         if (!Created && Before && (Error == EACCES || Error == EPERM)) return;
         if (!Created) FailToWrite(Path, Error);
         // Another program that took it for a leftover, before it was locked, has removed it.
         if (Created->TryLock(File::Lock::Replace) == File::Granted::No || !Created->IsAt(Free)) continue;
+        if (Before && !Created->TakePermissions(*Before)) {
+            ::unlink(Free.c_str());
+            return;
+        }
         Content.emplace(std::move(*Created));
         Name.Path = Free;
+        return;
     }
-    if (!Content) FailToWrite(NameBeside(Path, 0), Error);
+    FailToWrite(NameBeside(Path, 0), EEXIST);
 }
 
 void NewFile::KeepOldBytes()

@@ -14,8 +14,9 @@ namespace velorix {
 // stay, and so does a link to the file, which may not be another user's; a hard link keeps the old content.
 // What a killed program left beside the file goes with the next write.
 //
-// Where the folder lets no new file take the old one's place, the old one is written over, and put back
-// without Commit; that alone doesn't outlast the program's end.
+// Where the folder lets no new file take the old one's place, or the user can't give the new one the owner,
+// group and access list of the old, the old one is written over, and put back without Commit; that alone
+// doesn't outlast the program's end.
 //
 // All throw FileFailure. Regular files only, as File has it.
 class NewFile {
@@ -50,7 +51,7 @@ private:
         std::string Bytes;
     };
 
-    void CreateBeside();
+    void CreateBeside(); // no Content where the old file is to be written over
     void Remember(std::uintmax_t Start, std::size_t Count);
     void PutBack();
 

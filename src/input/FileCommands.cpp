@@ -65,20 +65,34 @@ bool SavingStarts()
     return true;
 }
 
+std::string AdviceAfter(const std::string& Problem)
+{
+    return Problem + ". File, Save Project As saves the project in a new one.";
+}
+
 // What can be done about a project whose file isn't there any more; nothing to tell of any other.
 std::string AdviceIfVanished()
 {
     std::error_code Unknown;
     const std::string Path = Trim(FileName);
     if (std::filesystem::exists(Path, Unknown)) return {};
-    return (Path.empty() ? "The project has no file" : Path + " is not there any more") +
-           ". File, Save Project As saves the project in a new one.";
+    return AdviceAfter(Path.empty() ? "The project has no file" : Path + " is not there any more");
+}
+
+// The same for a save, which replaces a record: a vanished file has none from the first save on.
+std::string AdviceIfWithoutRecord()
+{
+    std::error_code Unknown;
+    const std::string Path = Trim(FileName);
+    const std::uintmax_t Length = std::filesystem::file_size(Path, Unknown);
+    if (Unknown || RecordNumber(Length) > 0) return AdviceIfVanished();
+    return AdviceAfter(Path + " holds no project any more");
 }
 
 // False when a check has failed or the file couldn't be written; the user has been told.
 bool SaveInPlace()
 {
-    const std::string Advice = AdviceIfVanished(); // ahead of the write, which may leave something there
+    const std::string Advice = AdviceIfWithoutRecord(); // ahead of the write, which may leave something there
     try {
         CommitProject();
         HideProgress();

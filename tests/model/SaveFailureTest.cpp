@@ -31,10 +31,16 @@ struct CallPlan {
     std::string Log = {};       // the names of all
     size_t Portion = 1U << 30U; // the most bytes that one call writes
     bool IsStranger = false;    // the user owns nothing
+    bool IsMounted = false;     // each file, by itself
+    std::string Refused = {};   // the name of a call that always fails with the error
 } Plan;
 
 bool Fails(const char* Name)
 {
+    if (Plan.Refused == Name) {
+        errno = Plan.Error;
+        return true;
+    }
     if (!Plan.Counting) return false;
     Plan.Log += std::string(Name) + " ";
     if (++Plan.Made != Plan.Fatal) return false;
@@ -90,6 +96,14 @@ extern "C" int fcntl(int Handle, int Command, ...)
     void* const Argument = va_arg(Rest, void*);
     va_end(Rest);
     return Through<int(int, int, ...)>("fcntl", Handle, Command, Argument);
+}
+
+extern "C" int statx(int Handle, const char* Path, int Flags, unsigned Mask, struct statx* Status) noexcept
+{
+    const int Result = Through<int(int, const char*, int, unsigned, struct statx*)>("statx", Handle, Path,
+                                                                                    Flags, Mask, Status);
+    if (Plan.IsMounted) Status->stx_attributes |= STATX_ATTR_MOUNT_ROOT;
+    return Result;
 }
 
 // What the disk keeps can't be seen here, and would take its time.
@@ -323,6 +337,8 @@ TEST_F(SaveFailureTest, WhatOthersPutInTheWayIsLeftAlone)
     std::filesystem::create_symlink(Victim, Folder / ".main.vlx.saving-0");
     ASSERT_EQ(::mkfifo((Folder / ".main.vlx.saving-1").c_str(), 0666), 0);
     NewFile Other(Target);
+    for (int Number = 3; Number < 16; ++Number)
+        ASSERT_EQ(::mkfifo((Folder / (".main.vlx.saving-" + std::to_string(Number))).c_str(), 0666), 0);
     WriteProjectFile(Target, Record, ShortFile::TakesRecordOne);
     EXPECT_EQ(Found(), BytesOf(Record));
     Other.Append("other");
@@ -339,6 +355,45 @@ TEST_F(SaveFailureTest, WhatOthersPutInTheWayIsLeftAlone)
     Plan = {};
     EXPECT_EQ(ReadFile(Victim), "keep");
     EXPECT_EQ(ReadFile(Folder / "twin.vlx"), BytesOf(Record));
+}
+
+// A filesystem may leave out some calls. The old file is written over where a new one couldn't be like it.
+TEST_F(SaveFailureTest, OwnerAndRightsStayWhateverIsRefused)
+{
+    const uid_t User = ::getuid();
+    const uid_t Saver = ::geteuid();
+    const struct {
+        CallPlan Given;
+        mode_t Mode;
+        uid_t Owner;
+        bool Overwritten;
+    } Rows[] = {
+        {{.Error = EINVAL, .Refused = "lseek"}, 0644, Saver, false},
+        {{.Error = EINVAL, .Refused = "fsync"}, 0644, Saver, false},
+        {{.Error = EPERM, .Refused = "fchmod"}, 0600, Saver, false},
+        {{.Error = EPERM, .Refused = "fchmod"}, 0640, Saver, true},
+        {{.Error = EPERM, .Refused = "fremovexattr"}, 0644, Saver, true},
+        {{.IsMounted = true}, 0644, Saver, true},
+        {{}, 0666, User, User != Saver}, // root's, when root runs the tests
+    };
+    for (const auto& Each : Rows) {
+        SCOPED_TRACE(&Each - Rows);
+        Prepare(std::string(16650, 'x'), false);
+        struct stat Before {};
+        struct stat After {};
+        ASSERT_EQ(::chmod(Target.c_str(), Each.Mode), 0);
+        ASSERT_EQ(::seteuid(User) + ::chown(Target.c_str(), Each.Owner, ::getegid()) + ::seteuid(Saver), 0);
+        ASSERT_EQ(::stat(Target.c_str(), &Before), 0);
+        Plan = Each.Given;
+        EXPECT_NO_THROW(WriteProjectFile(Target, Record, ShortFile::Fails));
+        Plan = {};
+        ASSERT_EQ(::stat(Target.c_str(), &After), 0);
+        EXPECT_EQ(Found(), BytesOf(Record));
+        EXPECT_EQ(After.st_uid, Each.Owner);
+        EXPECT_EQ(After.st_mode, Before.st_mode);
+        EXPECT_EQ(After.st_ino == Before.st_ino, Each.Overwritten);
+        EXPECT_TRUE(IsTidy());
+    }
 }
 
 } // namespace
