@@ -161,6 +161,7 @@ Single ConvergedFlow(int Year, Single H, PressureList& P)
     while (Tolerance < Error) {
         Before = Q;
         const Comparison AtMid = Compare(Q.Mid);
+        if (!Quick.Proves()) WorkPressures(Year, Q.Mid, P); // they may overflow at any midpoint
         const bool Above = AtLow.Side > 0 || AtMid.Side < 0;
         const bool Agreed = Halve(Q, Above);
         if (Above) AtLow = AtMid;

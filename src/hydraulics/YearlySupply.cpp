@@ -15,11 +15,11 @@ void SupplyPumpingYear(int Year)
     const double Q = Flow[Year];
     const double Capacity = wPumpingHours * Q / 24;
     const double Demand = wVaryingDemand == 1 ? DemandFactor * wDemand[Year] : double(DemandFlow[Year]);
-    const Single HoursNeeded = Checked(Demand * 24 / Q); // here already: no flow is a failure at any demand
+    if (Q == 0) Checked(24 / Q); // no flow is a failure at any demand
 
     if (Ordered(Checked(Demand)) < Ordered(Checked(Capacity))) {
         Shortage[Year] = 0;
-        PumpingHours[Year] = HoursNeeded;
+        PumpingHours[Year] = Checked(Demand * 24 / Q);
     } else {
         Shortage[Year] = Checked((Demand - Capacity) / DemandFactor);
         PumpingHours[Year] = wPumpingHours;

@@ -135,6 +135,20 @@ std::int64_t FlowOrFailure(Routine Work)
     }
 }
 
+// The loss is 3.2e38 m at 100 m3/s and a quarter of that at the first midpoint, where it takes the pressure
+// head below what 32 bits hold. The last midpoint, near no flow, would not.
+TEST_F(GravityFlowTest, APressureThatOverflowsOnTheWayIsAFailure)
+{
+    wTRWL = 1e36;
+    wElevation[2] = 3.395e38;
+    wAccLength[2] = 0;
+    wSecondaryLoss[1] = 3.87e35;
+    NormaliseInputs();
+    SolveFlows(Tables::LeftOut);
+    EXPECT_EQ(HydraulicsFailed, 1);
+    EXPECT_EQ(HighPointAdjusted, 0);
+}
+
 TEST_F(GravityFlowTest, RandomPipelinesGiveThePlainFlow)
 {
     int Failed = 0, CutBack = 0;

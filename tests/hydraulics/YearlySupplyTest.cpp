@@ -36,6 +36,21 @@ TEST_F(YearlySupplyTest, PumpRunsAsLongAsTheDemandAsks)
     EXPECT_EQ(Flow[1], Single(1000 * Single(0.001)));
 }
 
+// The hours that the demand would take are worked only where it is met.
+TEST_F(YearlySupplyTest, ADemandFarBeyondTheFlowIsAShortage)
+{
+    wLife = 1;
+    wSystemType = 1;
+    wPumpDetails = 1;
+    wPumpingHours = 12;
+    DemandFactor = 1;
+    Flow[1] = 1e-38;
+    DemandFlow[1] = 1;
+    SupplyDemand();
+    EXPECT_EQ(Shortage[1], 1);
+    EXPECT_EQ(PumpingHours[1], 12);
+}
+
 TEST_F(YearlySupplyTest, GravityComparesInTheDemandsUnit)
 {
     wLife = 1;
