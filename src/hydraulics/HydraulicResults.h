@@ -115,6 +115,4 @@ void SetToZero(Shape& Value)
         Value = 0;
 }
 
-void ResetHydraulics();
-
 } // namespace velorix
