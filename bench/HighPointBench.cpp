@@ -5,8 +5,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cmath>
-
 namespace velorix {
 namespace {
 

@@ -1,8 +1,8 @@
 // A typical project as a whole: a pump curve, 30 rows, 30 years.
-#include "analysis/SampleRecords.h"
 #include "cost/Figures.h"
 #include "cost/RateScanReference.h"
 #include "hydraulics/PlainReference.h"
+#include "model/SampleRecords.h"
 
 #include <benchmark/benchmark.h>
 

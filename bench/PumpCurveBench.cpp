@@ -1,7 +1,6 @@
 // Solving a pump curve on the largest project: 500 rows, 100 years of ageing pipe, against the plain loops.
 #include "hydraulics/PlainReference.h"
 #include "hydraulics/SampleProject.h"
-#include "hydraulics/SystemCurve.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,8 +1,8 @@
 // One scenario: a record in memory to its present values, rate of return, flows and shortages, over 30 years.
 // Beside each case the same with the whole tables that graphs are drawn from.
-#include "analysis/SampleRecords.h"
 #include "cost/CostResults.h"
 #include "cost/Figures.h"
+#include "model/SampleRecords.h"
 
 #include <benchmark/benchmark.h>
 

@@ -3,7 +3,6 @@
 
 #include "base/Failure.h"
 
-#include <algorithm>
 #include <array>
 
 namespace velorix {
@@ -17,7 +16,6 @@ public:
     using iterator = typename std::array<T, Last - First + 1>::iterator;
     using const_iterator = typename std::array<T, Last - First + 1>::const_iterator;
 
-    static constexpr int FirstIndex = First;
     static constexpr int LastIndex = Last;
     static constexpr int Count = Last - First + 1;
 

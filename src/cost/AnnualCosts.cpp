@@ -11,8 +11,6 @@ namespace velorix {
 
 namespace {
 
-constexpr int StaffRows = 8;
-constexpr int ExpenseRows = 5;
 constexpr double MotorEfficiency = 0.95;
 constexpr double UnitWeight = 9.81; // of water (kN/m3)
 
@@ -43,10 +41,11 @@ void ComputeMaintenance(int y)
 void ComputeOperation()
 {
     Single StaffTotal;
-    for (int Row = 1; Row <= StaffRows; ++Row)
+    for (int Row = 1; Row <= wStaffPackage.LastIndex; ++Row)
         StaffTotal = Checked(StaffTotal + wStaffPackage[Row] * wStaffTime[Row] / 100);
     Single ExpenseTotal;
-    for (int Row = 1; Row <= ExpenseRows; ++Row) ExpenseTotal = Checked(ExpenseTotal + wExpenses[Row]);
+    for (int Row = 1; Row <= wExpenses.LastIndex; ++Row)
+        ExpenseTotal = Checked(ExpenseTotal + wExpenses[Row]);
 
     for (int y = 1; y <= wLife; ++y)
         OperationalCost[y] = Checked(Escalated(wEscalation, y) * (ExpenseTotal + StaffTotal));

@@ -151,7 +151,7 @@ void ComputeConstructionCost()
     ClearArithmeticFlags();
     PricePipeline();
 
-    const int Years = wSupplyStart - wBaseYear;
+    const int Years = ConstructionYears();
     const double PipelineCost = LayingCost + PipeSupplyCost;
     EscalationBase =
         Checked((PipelineCost + wElectrical + wMechanical) * (1 + wPG / 100) * (1 + wContingencies / 100));
@@ -169,7 +169,7 @@ void ComputeTotalCapitalCost(Single Supervision)
     TotalCapitalCost =
         Checked((EscalationAmount + EscalationBase + ConsultingFees + SupervisionCost) * TaxFactor);
 
-    const int Years = wSupplyStart - wBaseYear;
+    const int Years = ConstructionYears();
     CapitalSeries.Fill(0);
     for (int t = 1; t <= Years; ++t) CapitalSeries[t] = Checked(TotalCapitalCost / Years);
 }

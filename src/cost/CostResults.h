@@ -62,7 +62,7 @@ using ByRateInFull = BoundedArray<double, 0, MaxRates>;
     RESULT(Single, NpvIncome, "money")             /* present value of the income */                                \
     RESULT(ByCostYear, CostSeries, "money")        /* cost of each year, the construction years first */            \
     RESULT(Single, Irr, "%")                       /* internal rate of return */                                    \
-    INNER(ByRate, IrrRate, "%")                    /* rate k; 0 to LastRate are filled */                           \
+    INNER(ByRate, IrrRate, "%")                    /* rate k; the scan fills 0 to LastRate */                       \
     INNER(ByRateInFull, IrrDifference, "money")    /* present value of income less costs at rate k */
 // clang-format on
 

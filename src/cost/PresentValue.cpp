@@ -51,7 +51,7 @@ void ComputePresentValues()
 {
     ClearArithmeticFlags();
     const double d = 1 + wDiscountRate / 100;
-    const int n = wSupplyStart - wBaseYear;
+    const int n = ConstructionYears();
     DiscountCosts(d, n);
     DiscountIncome(d, n);
     FillCostSeries(n);

@@ -32,7 +32,7 @@ void RateBounds::Add(int Power, double Income, double Cost, double Amounts)
 
 bool RateBounds::Take()
 {
-    const int n = wSupplyStart - wBaseYear;
+    const int n = ConstructionYears();
     if (std::abs(n) > MostYears - 1 || wLife > MaxYears) return false;
 
     // Supply before the base year gives powers below zero. All are raised alike, which changes no sign.

@@ -1,6 +1,8 @@
 // Bounds of the present values over whole intervals of rates.
 #pragma once
 
+#include "hydraulics/HydraulicResults.h"
+
 #include <array>
 
 namespace velorix {
@@ -35,7 +37,7 @@ public:
 
 private:
     static constexpr int MostYears = 200; // between base year and supply start, either way
-    static constexpr int MostPowers = 300;
+    static constexpr int MostPowers = MostYears + MaxYears;
 
     void Add(int Power, double Income, double Cost, double Amounts);
 

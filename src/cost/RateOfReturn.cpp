@@ -49,7 +49,7 @@ void AddCapital(int First, int n, RateBlock<Count>& Values)
 template <int Count>
 [[gnu::noinline]] void Discount(int First, RateBlock<Count>& Values)
 {
-    const int n = wSupplyStart - wBaseYear;
+    const int n = ConstructionYears();
     AddCapital(First, n, Values);
     for (int y = 1; y <= wLife; ++y) {
         const double Sold = IncomeSeries[y];

@@ -10,8 +10,8 @@ constexpr int LastRate = 20000; // rates tried: k = 0 to LastRate, in steps of 0
 // yearly series must stand. Throws ArithmeticFailure when a present value overflows; the rates before stand.
 void ScanRateOfReturn();
 
-// The same Irr and the same failures, without the two tables: they keep what they held. Works out the rates
-// beside the last change of sign alone, where bounds tell that no other can matter.
+// The same Irr and the same failures, the tables as Tables::LeftOut has it. Works out the rates beside the
+// last change of sign alone, where bounds tell that no other can matter.
 void FindRateOfReturn();
 
 } // namespace velorix

@@ -1,5 +1,4 @@
 // The dialogs that ask for a file.
-#include "desktop/Binding.h"
 #include "desktop/QtPlatform.h"
 
 #include <QApplication>

@@ -7,7 +7,6 @@
 
 #include <QString>
 
-#include <utility>
 #include <vector>
 
 class QAction;

@@ -164,7 +164,7 @@ void SolveFlows(Tables Wanted, const FlowEvents& Events)
     ClearArithmeticFlags();
     try {
         SolveAllYears(Wanted, Events);
-    } catch (const Failure&) {
+    } catch (const Failure&) { // an end of its own: the analysis goes on
         HydraulicsFailed = 1;
         if (Events.Failed) Events.Failed();
     }

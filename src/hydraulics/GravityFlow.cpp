@@ -62,6 +62,11 @@ struct LossSums {
     Single Friction;
     Single Secondary;
 
+    void Add(const RowLosses& Rows, int i)
+    {
+        Friction += Rows.Friction[i - 1];
+        Secondary += Rows.Secondary[i - 1];
+    }
     double Total() const { return Friction + Secondary; }
 };
 
@@ -71,10 +76,7 @@ LossSums SumLosses(int Year, double Q)
     RowLosses Rows;
     WorkRowLosses(Year, Q, Rows);
     LossSums Sums;
-    for (int i = 1; i <= NodeCount; ++i) {
-        Sums.Friction += Rows.Friction[i - 1];
-        Sums.Secondary += Rows.Secondary[i - 1];
-    }
+    for (int i = 1; i <= NodeCount; ++i) Sums.Add(Rows, i);
     return Sums;
 }
 
@@ -136,8 +138,7 @@ private:
     WorkRowLosses(Year, Q, Rows);
     LossSums Sums;
     for (int i = 1; i <= NodeCount; ++i) {
-        Sums.Friction += Rows.Friction[i - 1];
-        Sums.Secondary += Rows.Secondary[i - 1];
+        Sums.Add(Rows, i);
         P[i] = StaticHead(i) - Sums.Friction - Sums.Secondary;
     }
 }

@@ -10,7 +10,6 @@
 #include "hydraulics/PressureRange.h"
 #include "model/WorkingSet.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace velorix {

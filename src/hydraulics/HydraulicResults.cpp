@@ -7,9 +7,4 @@ namespace velorix {
 VELORIX_HYDRAULIC_RESULTS(VELORIX_DEFINE, VELORIX_DEFINE)
 #undef VELORIX_DEFINE
 
-void ResetHydraulics()
-{
-    ForEachHydraulicResult([](const ResultInfo&, auto& Value) { SetToZero(Value); });
-}
-
 } // namespace velorix

@@ -3,13 +3,14 @@
 
 #include "base/Arrays.h"
 #include "base/Single.h"
+#include "model/Fields.h"
 
 #include <cstdint>
 
 namespace velorix {
 
-constexpr int MaxRows = 500;
-constexpr int MaxYears = 100;
+constexpr int MaxRows = Fields::Elevation.Count;
+constexpr int MaxYears = Fields::Demand.Count;
 constexpr int CurvePoints = 10000; // flows on the system curve's grid
 
 // The shapes. Rows are those of the profile, years the operating years.
@@ -113,7 +114,5 @@ void SetToZero(Shape& Value)
     else
         Value = 0;
 }
-
-void ResetHydraulics();
 
 } // namespace velorix

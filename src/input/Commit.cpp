@@ -70,7 +70,7 @@ bool NumbersAreReadable()
         if (!Each->Number || !Each->When.IsTaken()) continue;
         try {
             ParseSingle(Each->Box->Text.Get());
-        } catch (const Failure& Problem) {
+        } catch (const Failure& Problem) { // an end of its own: the user is led to the box
             PointOut(*Each->Box, NameOf(*Each->Box) + ": " + Problem.what());
             return false;
         }

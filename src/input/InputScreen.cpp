@@ -21,7 +21,7 @@ bool HoldsNumber(const TextBox& Box)
     try {
         ParseSingle(Box.Text.Get());
         return true;
-    } catch (const Failure&) {
+    } catch (const Failure&) { // an end of its own: the answer is no
         return false;
     }
 }

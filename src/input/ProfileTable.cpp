@@ -9,6 +9,8 @@
 #include "platform/Platform.h"
 #include "screens/Lcc.h"
 
+#include <algorithm>
+
 namespace velorix {
 namespace {
 
@@ -16,7 +18,6 @@ constexpr int FirstDataCol = 1;
 constexpr int LastNumberCol = 6;
 constexpr int SecondaryLossCol = 6;
 constexpr int ComponentCol = 7;
-constexpr int LeastNodes = 2;
 
 constexpr std::array<const char*, 8> Headings = {"Node nr",         "Elevation",      "Accumulated length",
                                                  "Pipe diameter",   "Wall thickness", "Pipe cost/metre",

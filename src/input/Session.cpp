@@ -60,7 +60,7 @@ void LoadProject()
     if (NewProject == 0) {
         try {
             ReadProjectRecord();
-        } catch (...) {
+        } catch (...) { // undone, and thrown on
             HideProgress();
             throw;
         }

@@ -22,9 +22,8 @@ extern TextBox* PointedOut; // the box of the last failed check, while it waits 
 
 extern Handler ProjectLoaded; // raised at the end of every load step, for what follows the screen's grids
 
-// Writes the starting values into ProjectRecord and runs the load step. What it doesn't name (Units,
-// Currency, WallThickness, SecondaryLoss, Laying, energy rates, hour patterns) stays as the last project left
-// it.
+// Writes the starting values into ProjectRecord and runs the load step. What the table of fields keeps stays
+// as the last project left it.
 void NewProjectDefaults();
 
 // Reads FileName into ProjectRecord. Throws FileFailure, with the record as it was, when that can't be done.

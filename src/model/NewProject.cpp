@@ -3,8 +3,6 @@
 
 #include "model/WorkingSet.h"
 
-#include <array>
-
 namespace velorix {
 namespace {
 

@@ -66,7 +66,6 @@ void CopyWorkingSetToRecord()
 
 int CountNodes()
 {
-    constexpr int LeastNodes = 2;
     for (int Row = 1; Row <= wElevation.LastIndex; ++Row) {
         const bool Zero = wElevation[Row] == 0.0 && wAccLength[Row] == 0.0;
         const bool Unused = wElevation[Row] == UnusedNode && wAccLength[Row] == UnusedNode;

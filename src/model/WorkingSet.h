@@ -38,7 +38,14 @@ inline bool PaysInDollars()
     return wCurrency != 0;
 }
 
-extern int NodeCount; // nodes of the open project, rows 1 to NodeCount of the profile arrays
+// Years from the base year to the first of operation; below zero when supply starts before the base year.
+inline int ConstructionYears()
+{
+    return wSupplyStart - wBaseYear;
+}
+
+constexpr int LeastNodes = 2; // of a profile
+extern int NodeCount;         // nodes of the open project, rows 1 to NodeCount of the profile arrays
 
 // Copies the record to the working set: all that the record's kind of system uses. What only a pumping system
 // uses stays as it was when the record holds a gravity system.
@@ -49,7 +56,7 @@ void CopyRecordToWorkingSet();
 void CopyWorkingSetToRecord();
 
 // The number of nodes that the profile arrays of the working set spell: up to the first row of zeros or of
-// UnusedNode, 2 at the least.
+// UnusedNode, LeastNodes at the least.
 int CountNodes();
 
 // Makes the record the open project: ProjectRecord, working set and NodeCount.

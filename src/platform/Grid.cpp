@@ -58,11 +58,6 @@ void Grid::SetBackColor(int Row, int Col, Color BackColor)
     CellView(Row, Col);
 }
 
-int Grid::RowHeight(int Row) const
-{
-    return Row == 0 ? HeaderHeight : DataRowHeight;
-}
-
 void Grid::Select(int Row, int Col)
 {
     if (Row == CurrentRow && Col == CurrentCol) return;

@@ -50,7 +50,6 @@ struct Grid : Control {
     const GridCell& Cell(int Row, int Col) const { return At(Row, Col); }
     void SetBackColor(int Row, int Col, Color BackColor);
 
-    int RowHeight(int Row) const;
     int HeaderHeight = 0;  // row 0
     int DataRowHeight = 0; // the others
     std::vector<int> ColWidth;

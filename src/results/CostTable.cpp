@@ -1,6 +1,7 @@
 // Rows of the cost tables.
 #include "results/CostTable.h"
 
+#include "base/Arithmetic.h"
 #include "base/Format.h"
 #include "cost/CapitalCost.h"
 #include "cost/CostResults.h"
@@ -19,13 +20,14 @@ void PutAmount(int Row, const std::string& Name, Single Amount)
 
 void FillCapitalCosts()
 {
-    const Single Pipeline = LayingCost + PipeSupplyCost;
-    const Single Works = LayingCost + PipeSupplyCost + wElectrical + wMechanical;
-    const Single Preliminary = wPG / 100.0 * Works;
-    const Single WithPreliminary = (1.0 + wPG / 100.0) * Works;
-    const Single Contingency = wContingencies / 100.0 * WithPreliminary;
-    const Single Escalated = WithPreliminary + Contingency + EscalationAmount;
-    const Single Construction = Escalated + ConsultingFees + SupervisionCost;
+    ClearArithmeticFlags(); // those of the toolkit, when the table is filled again after an analysis
+    const Single Pipeline = Checked(LayingCost + PipeSupplyCost);
+    const Single Works = Checked(LayingCost + PipeSupplyCost + wElectrical + wMechanical);
+    const Single Preliminary = Checked(wPG / 100.0 * Works);
+    const Single WithPreliminary = Checked((1.0 + wPG / 100.0) * Works);
+    const Single Contingency = Checked(wContingencies / 100.0 * WithPreliminary);
+    const Single Escalated = Checked(WithPreliminary + Contingency + EscalationAmount);
+    const Single Construction = Checked(Escalated + ConsultingFees + SupervisionCost);
 
     frmResults.msgCost.SetText(0, 0, "Description");
     frmResults.msgCost.SetText(0, 1, "Amount");
@@ -41,8 +43,8 @@ void FillCapitalCosts()
     PutAmount(10, "Consulting fees (SAACE) 2002)", ConsultingFees);
     PutAmount(11, "Administration and management", SupervisionCost);
     PutAmount(12, "Total construction cost", Construction);
-    PutAmount(13, "VAT 14%", Tax * Construction);
-    PutAmount(14, "Total capital cost", TaxFactor * Construction);
+    PutAmount(13, "VAT 14%", Checked(Tax * Construction));
+    PutAmount(14, "Total capital cost", Checked(TaxFactor * Construction));
 }
 
 void PutAnnualRow(int Row, const std::string& Group, const std::string& Part)

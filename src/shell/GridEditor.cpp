@@ -22,7 +22,7 @@ namespace {
 
 // Texts are UTF-8; a typed key and the caret count characters.
 
-// Not so for a control key and for a code that is no character.
+// False for a control key and for a code that is no character.
 bool IsCharacter(int Key)
 {
     constexpr int FirstPrintable = 32;

@@ -9,11 +9,11 @@ namespace {
 void ConnectHintsOf(Screen& Target)
 {
     for (Control* Each : Target.Controls) {
-        const auto ShowHint = [Each] { MDIProject.StatusText.Caption = Each->ToolTip; };
-        Each->GotFocus = ShowHint;
+        const auto Show = [Each] { ShowHint(*Each); };
+        Each->GotFocus = Show;
         const bool Pressed = dynamic_cast<CommandButton*>(Each) || dynamic_cast<OptionButton*>(Each) ||
                              dynamic_cast<MenuItem*>(Each);
-        if (Pressed && !Each->ToolTip.empty()) Each->MouseMove = ShowHint;
+        if (Pressed && !Each->ToolTip.empty()) Each->MouseMove = Show;
     }
     Target.Hidden = ClearHint;
 }
@@ -23,6 +23,11 @@ void ConnectHintsOf(Screen& Target)
 void ConnectHints()
 {
     for (Screen* Each : AllScreens()) ConnectHintsOf(*Each);
+}
+
+void ShowHint(const Control& Source)
+{
+    MDIProject.StatusText.Caption = Source.ToolTip;
 }
 
 void ClearHint()

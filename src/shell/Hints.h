@@ -1,6 +1,8 @@
 // The hints of the status bar.
 #pragma once
 
+#include "platform/Controls.h"
+
 namespace velorix {
 
 // Shows a control's tool tip in the status bar, on every screen: that of an input when it gets the focus,
@@ -8,6 +10,7 @@ namespace velorix {
 // control without one gets the focus.
 void ConnectHints();
 
+void ShowHint(const Control& Source);
 void ClearHint();
 
 } // namespace velorix

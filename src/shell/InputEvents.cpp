@@ -21,11 +21,6 @@
 namespace velorix {
 namespace {
 
-void ShowHint(const Control& Source)
-{
-    MDIProject.StatusText.Caption = Source.ToolTip;
-}
-
 // What is typed and chosen stays on the screen until the commit reads it.
 void ConnectEdits()
 {

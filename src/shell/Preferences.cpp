@@ -16,12 +16,12 @@ namespace velorix {
 namespace {
 
 // The bar counts hundredths of a percent. A foreign file may hold anything: the bar is held at its range.
-int BarValue(Single Percent)
+void SetBar(ScrollBar& Bar, Single Percent)
 {
-    constexpr double Most = 5000.0;
-    const double Hundredths = Percent * 100.0;
-    return std::isnan(Hundredths) ? 0
-                                  : static_cast<int>(RoundEven(std::fmin(std::fmax(Hundredths, 0.0), Most)));
+    const double Least = Bar.Min;
+    const double Most = Bar.Max;
+    const double Hundredths = std::fmin(std::fmax(Percent * 100.0, Least), Most); // Least for a NaN
+    Bar.Value = static_cast<int>(RoundEven(Hundredths));
 }
 
 void ShowAllowances()
@@ -56,8 +56,8 @@ void PreferencesLoad()
     HideScreens();
     (UsesUSUnits() ? frmPref.optUS : frmPref.optMetric).Value = true;
     (PaysInDollars() ? frmPref.optDollars : frmPref.optRand).Value = true;
-    frmPref.hsbPG.Value = BarValue(wPG);
-    frmPref.hsbContingencies.Value = BarValue(wContingencies);
+    SetBar(frmPref.hsbPG, wPG);
+    SetBar(frmPref.hsbContingencies, wContingencies);
     ShowAllowances();
 }
 

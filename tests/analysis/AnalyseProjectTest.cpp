@@ -4,6 +4,7 @@
 #include "cost/Figures.h"
 #include "results/PlotState.h"
 
+#include <cfenv>
 #include <cstring>
 #include <map>
 
@@ -72,6 +73,25 @@ TEST_F(AnalyseProjectTest, CurvesThatDoNotCrossEndTheAnalysis)
     EXPECT_GT(ConsultingFees, 0.0);
     EXPECT_EQ(SupervisionCost, 77.0);
     EXPECT_EQ(TotalCapitalCost, 0.0);
+}
+
+// Each of the works alone can be stored, their sum can't. The allowance takes nine tenths off whatever the
+// costs store, so that the table is the first to fail.
+TEST_F(AnalyseProjectTest, SubTotalTooLargeToStoreEndsTheAnalysis)
+{
+    ProjectFields Record = GravityRecord();
+    Record.Mechanical = Record.Electrical = 3e38;
+    Record.PG = -90.0;
+    Analyse(Record);
+    EXPECT_EQ(Analysed, 0);
+    EXPECT_EQ(LastMessage(), "Could not determine the flow for each year.");
+    EXPECT_GT(NpvCost, 6e37);
+
+    Record.Electrical = 0.0;
+    Analyse(Record);
+    EXPECT_EQ(Analysed, 1) << LastMessage();
+    std::feraiseexcept(FE_DIVBYZERO); // as a toolkit may, before the results are shown
+    EXPECT_NO_THROW(RefreshResults());
 }
 
 // A gravity system goes on with zero flows, such as with more than 99 rows. A pumping system divides by one.

@@ -1,10 +1,10 @@
 // A started program without windows, and projects put into it.
 #pragma once
 
-#include "SampleRecords.h"
 #include "analysis/AnalyseProject.h"
 #include "analysis/Program.h"
 #include "input/Session.h"
+#include "model/SampleRecords.h"
 #include "model/WorkingSet.h"
 #include "platform/ScriptedPlatform.h"
 #include "screens/Analyse.h"

@@ -1,7 +1,7 @@
 // Files of all sorts of bytes, from a fixed seed, so that every run tests the same.
 #include "AnyFile.h"
 
-#include "SampleRecords.h"
+#include "model/SampleRecords.h"
 
 #include <cmath>
 #include <cstring>

@@ -1,9 +1,9 @@
 // Figures alone against all tables, over whole projects.
 #include "cost/Figures.h"
 
-#include "analysis/SampleRecords.h"
 #include "base/Failure.h"
 #include "cost/CostTest.h"
+#include "model/SampleRecords.h"
 
 #include <cmath>
 #include <cstring>

@@ -1,7 +1,7 @@
 // Files of any bytes, opened in the real window and looked at page by page.
-#include "analysis/SampleRecords.h"
 #include "desktop/MainWindowTest.h"
 #include "input/FileCommands.h"
+#include "model/SampleRecords.h"
 
 #include <QTemporaryDir>
 

@@ -1,7 +1,7 @@
 // The engine by itself: a record in memory in, its figures out. No screen, no window system, no file.
-#include "analysis/SampleRecords.h"
 #include "cost/CostResults.h"
 #include "cost/Figures.h"
+#include "model/SampleRecords.h"
 
 #include <iostream>
 

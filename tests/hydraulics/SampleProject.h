@@ -2,6 +2,7 @@
 #pragma once
 
 #include "hydraulics/Flows.h"
+#include "hydraulics/HydraulicResults.h"
 #include "hydraulics/Normalise.h"
 #include "hydraulics/YearlySupply.h"
 #include "model/WorkingSet.h"
@@ -14,7 +15,7 @@ namespace velorix::sample {
 inline void Reset()
 {
     ResetWorkingSet();
-    ResetHydraulics();
+    ForEachHydraulicResult([](const ResultInfo&, auto& Value) { SetToZero(Value); });
     wDiameterUnits = wWallThicknessUnits = wLiningThicknessUnits = wKsNewUnits = wKsOldUnits = 1;
     wFlowrateUnits = wDemandUnits = 2;
     wFlowUnits = wPumpOperatingFlowrateUnits = 1;

@@ -3,6 +3,8 @@
 
 #include "model/ProjectRecord.h"
 
+#include <array>
+
 namespace velorix {
 
 // A profile that falls evenly from Start to End (m) over Length (m).
