@@ -1,6 +1,11 @@
 // The program velorix-batch as its users run it: words in, files, texts and exit statuses out.
 #include "BatchTest.h"
+#include "analysis/Program.h"
+#include "batch/AnalysisOutput.h"
 #include "batch/JsonText.h"
+#include "cost/CostResults.h"
+#include "input/Session.h"
+#include "model/WorkingSet.h"
 
 #include <gmock/gmock.h>
 #include <limits>
@@ -153,6 +158,29 @@ TEST_F(CommandTest, JsonOfOneFileHoldsEveryResult)
     EXPECT_NEAR(First("Gradeline", 0) - First("Gradeline", 1),
                 First("FrictionLoss", 0) + First("SecondaryHeadLoss", 0), 0.001);
     EXPECT_EQ(JsonNumber(std::numeric_limits<float>::infinity()), "null"); // JSON has no word for it
+}
+
+// Each is filled with a number of its own.
+TEST_F(CommandTest, EveryResultGoesOutUnderItsOwnName)
+{
+    std::map<std::string, double> Filled = {{"Analysed", Analysed = 300}, {"NodeCount", NodeCount = 301}};
+    wLife = wSupplyStart = 2;
+    wBaseYear = 1;
+    ForEachResult([&](const auto& Of, auto& Value) {
+        if constexpr (requires { Value.Fill(1); })
+            Value.Fill(static_cast<float>(Filled.size()));
+        else
+            Value = static_cast<std::int16_t>(Filled.size());
+        if constexpr (std::is_same_v<decltype(Of), const ResultInfo&>) Filled.emplace(Of.Name, Filled.size());
+    });
+    std::map<std::string, double> Told;
+    const json Results = json::parse(ToJson(CollectResults({})));
+    for (const auto& Member : Results.items()) {
+        const json Numbers = Member.value().flatten();
+        if (Member.key() != "messages") Told[Member.key()] = *Numbers.begin();
+    }
+    EXPECT_EQ(Told, Filled);
+    ResetProgram();
 }
 
 TEST_F(CommandTest, ABadFileHarmsNoOther)

@@ -14,6 +14,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QRadioButton>
 #include <QRegularExpression>
@@ -22,9 +23,11 @@
 #include <QSvgRenderer>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QToolButton>
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <set>
 
 namespace velorix {
@@ -54,6 +57,22 @@ void ExpectAllThere(const Screen& Shown, const QWidget& Window)
         ASSERT_TRUE(Widget && Widget->window() == &Window) << Shown.Name << ": " << Each->ToolTip;
         const QString Name = QAccessible::queryAccessibleInterface(Widget)->text(QAccessible::Name);
         EXPECT_FALSE(Name.isEmpty()) << Shown.Name << ": " << Each->ToolTip;
+    }
+}
+
+// Pressed by its widget, each button raises its own click.
+void ExpectPressesTold(const Screen& Shown)
+{
+    for (Control* Each : Shown.Controls) {
+        auto* const Button = dynamic_cast<CommandButton*>(Each);
+        if (!Button) continue;
+        Button->Enabled = true;
+        const Handler Before = Button->Click;
+        int Told = 0;
+        Button->Click = [&Told] { ++Told; };
+        static_cast<QAbstractButton*>(FocusTarget(*Button))->click();
+        EXPECT_EQ(Told, 1) << Shown.Name << ": " << Button->Caption.Get() << Button->ToolTip;
+        Button->Click = Before;
     }
 }
 
@@ -170,6 +189,35 @@ protected:
     }
 };
 
+// The two commands that are wanted most stand among the tool buttons too, and Exit has two records.
+TEST_F(LayoutsTest, EveryMenuEntryStandsInItsMenuAndRaisesItsOwnClick)
+{
+    StartProject(1); // which has all pages
+    std::map<std::string, int> Told, Expected;
+    for (Control* Each : MDIProject.Controls) {
+        auto* const Entry = dynamic_cast<MenuItem*>(Each);
+        if (!Entry) continue;
+        Entry->Enabled = Entry->Visible = true;
+        const bool Twice = Entry->Caption.Get() == MDIProject.mnuExit.Caption.Get();
+        const bool Tool = Entry == &MDIProject.mnuAnalyse || Entry == &MDIProject.mnuPreferences;
+        if (Entry != &MDIProject.mnuFGridRows) Expected[Entry->Caption] = Twice || Tool ? 2 : 1;
+        Entry->Click = [&Told, Entry] { ++Told[Entry->Caption]; };
+    }
+    QList<QAction*> Entries = Main->menuBar()->actions();
+    for (const QMenu* Each : Main->findChildren<QMenu*>())
+        for (QAction* Entry : Each->actions())
+            if (!Entries.contains(Entry)) Entries += Entry;
+    for (QAction* Each : Entries) Each->trigger();
+    for (auto* Each : Main->findChildren<QToolButton*>())
+        if (Each->toolTip().toStdString() == MDIProject.mnuAnalyse.ToolTip ||
+            Each->toolTip().toStdString() == MDIProject.mnuPreferences.ToolTip)
+            Each->click();
+    EXPECT_EQ(Told, Expected);
+    for (const Screen* Each : std::initializer_list<const Screen*>{&MDIProject, &frmLCC, &frmResults})
+        ExpectPressesTold(*Each);
+    ConnectScreens();
+}
+
 TEST_F(LayoutsTest, EveryControlOfTheMainWindowHasAWidgetWithAName)
 {
     for (const Screen* Each : std::initializer_list<const Screen*>{&MDIProject, &frmLCC, &frmResults})
@@ -265,6 +313,7 @@ TEST_F(LayoutsTest, DialogsAreCompleteAndFit)
         ExpectAllThere(*Shown, *Dialog);
         ExpectRoomForAll(*Dialog);
         ExpectTabsReach(*Shown, *Dialog);
+        ExpectPressesTold(*Shown);
         EXPECT_LE(Dialog->width(), 800);
         EXPECT_LE(Dialog->height(), 560);
         Shown->Unload();
@@ -283,6 +332,7 @@ TEST_F(LayoutsTest, AnyKeyEndsTheOpeningOfTheAnalysis)
     EXPECT_TRUE(Dialog->isVisible());
     EXPECT_EQ(Dialog->focusWidget(), Analyse);
     ExpectAllThere(frmAnalyse, *Dialog);
+    ExpectPressesTold(frmAnalyse);
     ExpectRoomForAll(*Dialog);
     frmAnalyse.Unload();
 }

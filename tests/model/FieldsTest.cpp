@@ -85,25 +85,13 @@ TEST(FieldsTest, ANewProjectStartsWithItsDefaultsAndKeepsTheRest)
 // From the table of the fields by kind of system; a commit stores PumpEfficiency all the same.
 TEST(FieldsTest, AGravitySystemLeavesThePumpingFieldsOnBothSides)
 {
-    const std::set<std::string> PumpingOnly = {"PumpDetails",
-                                               "PumpCurve",
-                                               "HeadUnits",
-                                               "FlowUnits",
-                                               "PumpOperatingFlowrate",
-                                               "PumpOperatingFlowrateUnits",
-                                               "Pumptype",
-                                               "PumpDescription",
-                                               "Summer",
-                                               "PumpingHours",
-                                               "SPeak",
-                                               "SStandard",
-                                               "SOffpeak",
-                                               "WPeak",
-                                               "WStandard",
-                                               "WOffpeak",
-                                               "SummerHour",
-                                               "WinterHour",
-                                               "Reserved1"};
+    // clang-format off
+    const std::set<std::string> PumpingOnly = {
+        "PumpDetails", "PumpCurve", "HeadUnits", "FlowUnits", "PumpOperatingFlowrate",
+        "PumpOperatingFlowrateUnits", "Pumptype", "PumpDescription", "Summer", "PumpingHours",
+        "SPeak", "SStandard", "SOffpeak", "WPeak", "WStandard", "WOffpeak", "SummerHour",
+        "WinterHour", "Reserved1"};
+    // clang-format on
     std::set<std::string> Different;
     const auto Compare = [&](const FieldRule& Rule, const auto& Stored, const auto& Working) {
         if constexpr (requires { Stored.Bytes; }) {

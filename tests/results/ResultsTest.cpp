@@ -14,13 +14,14 @@ namespace {
 
 class ResultsTest : public CostTest {
 protected:
-    // The last two cells of each row, after the heading.
+    // Headings and all.
     static std::string Shown(const Grid& Table)
     {
-        std::string Rows;
-        for (int Row = 1; Row < Table.Rows(); ++Row)
-            Rows += Table.Text(Row, Table.Cols() - 2) + ": " + Table.Text(Row, Table.Cols() - 1) + "; ";
-        return Rows;
+        std::string Texts;
+        for (int Row = 0; Row < Table.Rows(); ++Row)
+            for (int Col = 0; Col < Table.Cols(); ++Col)
+                Texts += Table.Text(Row, Col) + (Col + 1 < Table.Cols() ? ": " : "; ");
+        return Texts;
     }
 };
 
@@ -38,12 +39,13 @@ TEST_F(ResultsTest, CapitalCostAddsUpRowByRow)
     SupervisionCost = 30000.0;
     FillCapitalCostTable();
     EXPECT_EQ(frmResults.msgAnnualCost.Rows(), 5); // no energy in a gravity system
-    EXPECT_EQ(Shown(frmResults.msgCost),
-              "Pipeline cost: 700,000; Mechanical cost: 100,000; Electrical cost: 200,000; "
-              "Sub total: 1,000,000; Preliminary & General (10%): 100,000; Sub total: 1,100,000; "
-              "Contingencies (20%): 220,000; Escalation: 5,000; Sub total: 1,325,000; "
-              "Consulting fees (SAACE) 2002): 145,000; Administration and management: 30,000; "
-              "Total construction cost: 1,500,000; VAT 14%: 210,000; Total capital cost: 1,710,000; ");
+    EXPECT_EQ(
+        Shown(frmResults.msgCost),
+        "Description: Amount; Pipeline cost: 700,000; Mechanical cost: 100,000; Electrical cost: 200,000; "
+        "Sub total: 1,000,000; Preliminary & General (10%): 100,000; Sub total: 1,100,000; "
+        "Contingencies (20%): 220,000; Escalation: 5,000; Sub total: 1,325,000; "
+        "Consulting fees (SAACE) 2002): 145,000; Administration and management: 30,000; "
+        "Total construction cost: 1,500,000; VAT 14%: 210,000; Total capital cost: 1,710,000; ");
 }
 
 TEST_F(ResultsTest, AnnualCostFollowsTheYear)
@@ -60,8 +62,12 @@ TEST_F(ResultsTest, AnnualCostFollowsTheYear)
     frmResults.hsbAnnual.Value = 2;
     ShowAnnualCost();
     EXPECT_EQ(Shown(frmResults.msgAnnualCost),
-              "Total annual operational cost: $1,234.50; Pipeline: $2.00; Mechanical: $3.00; "
-              "Electrical: $4.00; Total annual energy cost: $0.13; ");
+              "Description: Description: Amount; "
+              "Total annual operational cost: Total annual operational cost: $1,234.50; "
+              "Total annual maintenance cost: Pipeline: $2.00; "
+              "Total annual maintenance cost: Mechanical: $3.00; "
+              "Total annual maintenance cost: Electrical: $4.00; "
+              "Total annual energy cost: Total annual energy cost: $0.13; ");
     EXPECT_EQ(frmResults.lblAnnual.Caption.Get(), "Year : 2");
     EXPECT_EQ(frmResults.hsbAnnual.Max, 3);
     FillCapitalCostTable();

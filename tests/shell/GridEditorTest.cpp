@@ -160,9 +160,13 @@ TEST_F(GridEditorTest, ColumnsDifferInWhatTheyTakeAndWhatOpensThem)
     Go(Profile, 2, 1);
     Type(U"('");
     EXPECT_EQ(Profile.Text(2, 1), "('"); // the arrow keys' codes pass as characters
-    Go(frmLCC.msgDemand, 1, 1);
-    Type(U"x2-");
-    EXPECT_EQ(frmLCC.msgDemand.Text(1, 1), "2");
+    for (Grid* Other : {&frmLCC.msgLaying, &frmLCC.msgOperational, &frmLCC.msgOtherOperational,
+                        &frmLCC.msgDemand, &frmLCC.msgPumpDemand})
+        for (int Col = 1; Col < Other->Cols(); ++Col) {
+            Go(*Other, 1, Col);
+            Type(U"x2-"); // the grid drops a letter, the editor a sign
+            EXPECT_EQ(Other->Text(1, Col), "2") << Other->ToolTip << ", column " << Col;
+        }
     Profile.SetText(1, 3, "9°");
     Go(Profile, 1, 3);
     Type(U"⌫"); // a character of two bytes

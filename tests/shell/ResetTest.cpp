@@ -1,7 +1,9 @@
 // Every property of every screen, after a reset of the program.
 #include "ShellTest.h"
 
+#include "model/ProjectRecord.h"
 #include "platform/Grid.h"
+#include "results/PlotState.h"
 
 #include <functional>
 #include <tuple>
@@ -86,6 +88,37 @@ private:
     }
 };
 const auto* const Fresh = static_cast<FreshStart*>(testing::AddGlobalTestEnvironment(new FreshStart));
+
+// But for the results, which the tests of the analysis look at.
+TEST_F(ShellTest, AResetPutsEveryVariableBackToAFreshStart)
+{
+    std::int16_t* const States[] = {&ProjectOpen, &NewProject,    &Saved,          &Analysed, &SaveAs,
+                                    &Committing,  &HideGradeline, &HideComponents, &PlotYear, &ViewState};
+    for (std::int16_t* Each : States) *Each = 9;
+    FileName = "x";
+    RedrawProfileView = true;
+    PointedOut = &frmLCC.txtKsNew;
+    NodeCount = 9;
+    Chainage.Fill(9);
+    GroundLevel.Fill(9);
+    ForEachWorkingField([](const FieldRule&, auto& Stored, auto& Working) {
+        if constexpr (requires { Stored.Bytes; })
+            Stored.Bytes.fill('x'), Working = "x";
+        else if constexpr (requires { Working.Fill(9); })
+            Stored.Fill(9), Working.Fill(9);
+        else
+            Stored = Working = 9;
+    });
+    ResetProgram();
+    for (const std::int16_t* Each : States)
+        EXPECT_EQ(*Each, Each == &PlotYear || Each == &ViewState ? 1 : 0) << Each - States[0];
+    EXPECT_TRUE(FileName.empty() && !RedrawProfileView && !PointedOut && NodeCount == 0);
+    EXPECT_TRUE(Chainage == ByRow() && GroundLevel == ByRow());
+    EXPECT_EQ(ToImage(ProjectRecord), ToImage(ProjectFields()));
+    ForEachWorkingField([](const FieldRule& Rule, const auto&, const auto& Working) {
+        EXPECT_TRUE(Working == std::decay_t<decltype(Working)>()) << Rule.Name;
+    });
+}
 
 // Twice: after what a started program has changed, and after changes of all there is.
 TEST_F(ShellTest, AResetPutsEveryPropertyOfEveryScreenBackToAFreshStart)
