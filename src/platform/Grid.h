@@ -93,6 +93,7 @@ struct Grid : Control {
 
     // What undoing brings back, newest last; kept by the domain. It goes with any change of the rows.
     std::vector<std::vector<CellText>> History;
+    bool HistoryGoesOn = false; // what else is typed in the open editor belongs to the newest
 
 private:
     void PutCurrent(int Row, int Col);

@@ -83,16 +83,22 @@ void FillList(const CellEditing& Editing)
     Editing.List->ListIndex = Own == Entries.end() ? -1 : static_cast<int>(Own - Entries.begin());
 }
 
-void TakeCurrentCell(const CellEditing& Editing)
+// Nothing but the list lies over the current cell.
+void ShowCurrentCell(const CellEditing& Editing)
 {
     Grid& Table = Editing.Table;
     Editing.Editor.Visible = false;
-    Table.Tag = CurrentText(Table);
     Table.SetBackColor(Table.Row(), Table.Col(), CurrentCellColor);
     if (Editing.List) Editing.List->Visible = false;
     if (!OnListCell(Editing)) return;
     FillList(Editing);
     Editing.List->Visible = true;
+}
+
+void TakeCurrentCell(const CellEditing& Editing)
+{
+    Editing.Table.Tag = CurrentText(Editing.Table);
+    ShowCurrentCell(Editing);
 }
 
 void CellLeft(Grid& Table)
@@ -113,6 +119,7 @@ void Advance(Grid& Table)
 void OpenEditor(const CellEditing& Editing)
 {
     TextBox& Editor = Editing.Editor;
+    Editing.Table.HistoryGoesOn = false;
     Editor.Text = CurrentText(Editing.Table);
     Editor.SelStart = CharacterCount(Editor.Text.Get());
     Editor.Visible = true;
@@ -169,8 +176,9 @@ void KeyPressInGrid(const CellEditing& Editing, int& Key)
     if (!OnEditableCell(Editing)) return;
     if (Contains(Editing.FilteredInGrid, Table.Col()) && !Passes(CellNumberKeys, Typed)) return;
     if (!InCodePage(Code)) return;
-    Write(Editing, Erases ? WithoutLastCharacter(CurrentText(Table)) : Utf8Of(Code));
     OpenEditor(Editing);
+    Editing.Editor.Text = Erases ? WithoutLastCharacter(CurrentText(Table)) : Utf8Of(Code);
+    Editing.Editor.SelStart = CharacterCount(Editing.Editor.Text.Get());
 }
 
 // The view shows the menu at the pointer and hides it again.
@@ -302,7 +310,7 @@ const std::array<CellEditing, 6> InputGrids = {{
 void Settle(const CellEditing& Editing)
 {
     Editing.Editor.Visible = false;
-    if (!OnHeading(Editing.Table)) TakeCurrentCell(Editing);
+    if (!OnHeading(Editing.Table)) ShowCurrentCell(Editing);
 }
 
 void SettleAll()
@@ -310,10 +318,17 @@ void SettleAll()
     for (const CellEditing& Each : InputGrids) Settle(Each);
 }
 
+// The current cell counts as entered anew.
+void Reenter(const Grid& Table)
+{
+    for (const CellEditing& Each : InputGrids)
+        if (&Each.Table == &Table && !OnHeading(Table)) TakeCurrentCell(Each);
+    SettleGridEditor(Table);
+}
+
 void AllFilled()
 {
-    for (const CellEditing& Each : InputGrids) Each.Table.History.clear();
-    SettleAll();
+    for (const CellEditing& Each : InputGrids) GridFilled(Each.Table);
 }
 
 } // namespace
@@ -372,7 +387,7 @@ void SettleGridEditor(const Grid& Table)
 void GridFilled(Grid& Table)
 {
     Table.History.clear();
-    SettleGridEditor(Table);
+    Reenter(Table);
 }
 
 void ChangeProfileRows(void (*Operation)())
@@ -381,7 +396,7 @@ void ChangeProfileRows(void (*Operation)())
     Operation();
     if (frmLCC.msgProfile.Rows() == Before) return;
     MarkChanged();
-    SettleGridEditor(frmLCC.msgProfile);
+    Reenter(frmLCC.msgProfile);
 }
 
 } // namespace velorix

@@ -42,11 +42,12 @@ void ConnectGridEditor(const CellEditing& Editing);
 // changes are edits of a cell, not of a field.
 void ConnectGridEditors();
 
-// The editor of a grid of the input screen closes and the current cell counts as entered anew. Marks nothing
-// as changed. The input screen does this by itself whenever it is shown.
+// The editor of a grid of the input screen closes; Escape's text stays. Marks nothing as changed. The input
+// screen does this by itself whenever it is shown.
 void SettleGridEditor(const Grid& Table);
 
-// The same, to be called when code has filled the grid: what was there before can't be brought back.
+// To be called when code has filled the grid: the current cell counts as entered anew, and what was there
+// before can't be brought back.
 void GridFilled(Grid& Table);
 
 // Runs a row operation of the profile table as an edit of the user.

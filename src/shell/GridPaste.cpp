@@ -68,6 +68,13 @@ std::string RowName(const Grid& Table, int Row)
     return "row " + Quoted(Trimmed(Table.Text(Row, 0)));
 }
 
+// The nearest row of headings above a data row.
+int HeadingAbove(const Grid& Table, int Row)
+{
+    while (Row >= Table.FixedRows && !Table.IsHeadingRow(Row)) --Row;
+    return Row;
+}
+
 // The entry that the text names, as the list writes it into the cell; nullptr when there is none.
 const std::string* EntryNamed(const std::vector<std::string>& Entries, std::string_view Text)
 {
@@ -93,7 +100,7 @@ void Place(const CellEditing& Editing, int Row, int Col, std::string_view Text, 
         return;
     }
     const std::string Column =
-        "\"" + Trim(Table.Text(Table.FixedRows - 1, Col)) + "\" in " + RowName(Table, Row);
+        "\"" + Trim(Table.Text(HeadingAbove(Table, Row), Col)) + "\" in " + RowName(Table, Row);
     switch (KindOf(Editing, Row, Col)) {
     case CellKind::Closed: break;
     case CellKind::Number:
@@ -151,11 +158,9 @@ void ChangeCells(const CellEditing& Editing, std::vector<CellText> New)
         Old.push_back({Each.Row, Each.Col, Table.Text(Each.Row, Each.Col)});
         Table.SetText(Each.Row, Each.Col, std::move(Each.Text));
     }
-    const auto InSameCell = [&](const std::vector<CellText>& Last) {
-        return Last.size() == 1 && Last[0].Row == Old[0].Row && Last[0].Col == Old[0].Col;
-    };
-    const bool GoesOn = Old.size() == 1 && !Table.History.empty() && InSameCell(Table.History.back());
+    const bool GoesOn = Editing.Editor.Visible && Table.HistoryGoesOn && !Table.History.empty();
     if (!GoesOn) Table.History.push_back(std::move(Old));
+    Table.HistoryGoesOn = true;
 }
 
 void PasteCells(const CellEditing& Editing)

@@ -7,8 +7,8 @@
 
 namespace velorix {
 
-// Writes the cells as an edit of the user that can be taken back. What is typed in one cell, key by key, is
-// one change.
+// Writes the cells as an edit of the user that can be taken back. What is typed while the
+// editor is open, key by key, is one change.
 void ChangeCells(const CellEditing& Editing, std::vector<CellText> New);
 
 // Writes the clipboard's rows of tab-separated texts into the cells from the current one on, all or, when one

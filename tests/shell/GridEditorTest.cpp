@@ -127,6 +127,13 @@ TEST_F(GridEditorTest, APressClosesTheEditorAndEscapeBringsBackTheTextAsEntered)
     EXPECT_EQ(Editor.Text.Get(), "200"); // not what it opened on
     EXPECT_EQ(Editor.SelStart, 3);
     EXPECT_EQ(Profile.Text(2, 2), "200");
+    Type(U"5");
+    frmLCC.Visible = false;
+    frmLCC.Visible = true; // a dialog has come and gone
+    frmLCC.optPumpFixed.Click();
+    Windows.SetFocus(Profile);
+    Type(U"✎⎋");
+    EXPECT_EQ(Profile.Text(2, 2), "200");
 }
 
 // Grid and editor filter different columns of the profile, and F2 opens the grid's; a double click any.
@@ -381,6 +388,11 @@ TEST_F(GridPasteTest, WhatDoesNotFitRefusesTheWholePaste)
     Paste(frmLCC.msgOtherOperational, "1\n2");
     EXPECT_THAT(LastMessage(), testing::HasSubstr("only 1 from row \"Housing\" on."));
     EXPECT_THAT(LastMessage(), testing::Not(testing::HasSubstr("wizard")));
+    for (const auto& [Row, Heading] : {std::pair(8, "Cost ("), {12, "Percentage expected"}}) {
+        Go(frmLCC.msgLaying, Row, 1);
+        Paste(frmLCC.msgLaying, "x");
+        EXPECT_THAT(LastMessage(), testing::StartsWith(std::string("\"") + Heading));
+    }
     Windows.Messages.clear();
     Paste(Profile, ""); // nothing to paste
     EXPECT_TRUE(Windows.Messages.empty());
@@ -425,6 +437,20 @@ TEST_F(GridPasteTest, UndoBringsTheCellsBackUntilTheTableIsAnother)
     Saved = 1;
     Profile.Undo();
     ExpectMarked(false, "nothing to take back");
+
+    // Each command and each session of the editor is a change of its own.
+    Go(Profile, 2, 2);
+    Type(U"55⏎");
+    Profile.Select(2, 2);
+    Type(U"✂");
+    for (const char* Each : {"77", "88"}) Paste(Profile, Each);
+    Type(U"✎9←←←←");
+    EXPECT_EQ(Profile.Text(2, 2), "889");
+    Profile.Select(2, 2);
+    for (const char* Each : {"88", "77", "", "55", "200"}) {
+        Profile.Undo();
+        EXPECT_EQ(Profile.Text(2, 2), Each);
+    }
 
     void (*const Changes[])() = {
         [] { ChangeProfileRows(AddProfileRow); }, [] { NewProjectDefaults(); },
