@@ -109,17 +109,38 @@ void GridView::PressKey(QKeyEvent& Key)
     if (Typed.empty() || Special == Keys::Escape) Key.ignore();
 }
 
+// The far corner of the selection, which lies opposite to the current cell.
+QModelIndex GridView::FarCorner() const
+{
+    const CellRange Chosen = Record.Selected();
+    return Model.IndexOf(Chosen.FirstRow == Record.Row() ? Chosen.LastRow : Chosen.FirstRow,
+                         Chosen.FirstCol == Record.Col() ? Chosen.LastCol : Chosen.FirstCol);
+}
+
+// A row up or down, by the record: the toolkit stops at a merged cell that begins in a fixed column, as a
+// heading in the midst of a table does.
+void GridView::StepRow(int Step, bool Extends)
+{
+    if (Record.Rows() <= Record.FixedRows) return;
+    const auto Stepped = [&](int Row) { return std::clamp(Row + Step, Record.FixedRows, Record.Rows() - 1); };
+    const QModelIndex Far = FarCorner();
+    if (Extends) return ExtendTo(Model.IndexOf(Stepped(Model.RowOf(Far)), Model.ColOf(Far)));
+    ExtendTo(Current());
+    GoTo(Model.IndexOf(Stepped(Record.Row()), Record.Col()));
+}
+
 // With Shift the selection's far corner moves and the current cell stays.
 void GridView::Move(QKeyEvent& Key)
 {
+    const int Step = Key.key() == Qt::Key_Down ? 1 : Key.key() == Qt::Key_Up ? -1 : 0;
+    if (Step != 0 && !(Key.modifiers() & Qt::ControlModifier) && Model.IsData(Current()))
+        return StepRow(Step, Key.modifiers() & Qt::ShiftModifier);
     if (!(Key.modifiers() & Qt::ShiftModifier)) {
         ExtendTo(Current());
         return QTableView::keyPressEvent(&Key);
     }
     if (!Model.IsData(Current())) return;
-    const CellRange Chosen = Record.Selected();
-    QModelIndex Far = Model.IndexOf(Chosen.FirstRow == Record.Row() ? Chosen.LastRow : Chosen.FirstRow,
-                                    Chosen.FirstCol == Record.Col() ? Chosen.LastCol : Chosen.FirstCol);
+    QModelIndex Far = FarCorner();
     {
         const QScopedValueRollback<bool> Guard(Following, true);
         selectionModel()->setCurrentIndex(Far, QItemSelectionModel::NoUpdate);

@@ -86,6 +86,8 @@ private:
     bool PressCommand(const QKeyEvent& Key);
     void PressKey(QKeyEvent& Key);
     void Move(QKeyEvent& Key);
+    void StepRow(int Step, bool Extends);
+    QModelIndex FarCorner() const;
     void OpenMenu(QPoint OnScreen);
 
     Grid& Record;

@@ -176,9 +176,10 @@ void KeyPressInGrid(const CellEditing& Editing, int& Key)
     if (!OnEditableCell(Editing)) return;
     if (Contains(Editing.FilteredInGrid, Table.Col()) && !Passes(CellNumberKeys, Typed)) return;
     if (!InCodePage(Code)) return;
+    const std::size_t Changes = Table.History.size();
+    Write(Editing, Erases ? WithoutLastCharacter(CurrentText(Table)) : Utf8Of(Code));
     OpenEditor(Editing);
-    Editing.Editor.Text = Erases ? WithoutLastCharacter(CurrentText(Table)) : Utf8Of(Code);
-    Editing.Editor.SelStart = CharacterCount(Editing.Editor.Text.Get());
+    Table.HistoryGoesOn = Table.History.size() > Changes; // what follows belongs to the first key
 }
 
 // The view shows the menu at the pointer and hides it again.

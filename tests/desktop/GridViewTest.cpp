@@ -198,6 +198,23 @@ TEST_F(GridViewTest, KeysGoToTheHandlersAndThenMoveTheCurrentCell)
 }
 
 // An Enter that closed a message box is let go over the grid; one that closed the editor is the grid's own.
+TEST_F(GridViewTest, TheArrowsPassAHeadingInTheMidstOfTheTable)
+{
+    Table.MergeEqualCells = true;
+    for (int Col = 0; Col < Table.Cols(); ++Col) Table.SetText(3, Col, "Conditions");
+    Table.ShapeView();
+    Table.Select(2, 1);
+    for (int Row : {3, 4}) {
+        PressKeys({Qt::Key_Down});
+        EXPECT_EQ(Table.Row(), Row);
+    }
+    PressKeys({Qt::Key_Up, Qt::Key_Up});
+    EXPECT_EQ(Table.Row(), 2);
+    PressKeys({Qt::Key_Down, Qt::Key_Down}, Qt::ShiftModifier);
+    EXPECT_EQ(Table.Row(), 2);
+    EXPECT_EQ(Table.Selected().LastRow, 4);
+}
+
 TEST_F(GridViewTest, AKeyThatWentDownElsewhereIsNoKeyUpOfTheGrid)
 {
     int Ups = 0;
