@@ -14,8 +14,9 @@ set(floors
   "results|reports|roughness|tools"
   "analysis"
   "shell"
+  "paint"
   "batch|desktop")
-set(toolkit_folders src/batch src/desktop tests/desktop)
+set(toolkit_folders src/batch src/desktop src/paint tests/desktop)
 
 set(level 0)
 foreach(floor IN LISTS floors)

@@ -11,6 +11,8 @@
 #include "results/CostTable.h"
 #include "results/Headlines.h"
 #include "results/PlotState.h"
+#include "results/ProfilePlot.h"
+#include "results/SupplyPlots.h"
 #include "screens/Analyse.h"
 #include "screens/DutyPointScreen.h"
 #include "screens/Lcc.h"
@@ -38,7 +40,7 @@ void ShowDutyCommand()
     frmResults.fraDuty.Visible = false;
 }
 
-void HandOverToResults()
+void HandOverToResults(Tables Wanted)
 {
     ShowHeadlines();
     ShowAnalysisProgress(75);
@@ -48,8 +50,9 @@ void HandOverToResults()
     ShowAnalysisProgress(85);
     FillCombos();
     ShowAnalysisProgress(90);
-    TakeProfileForPlot();
+    if (Wanted == Tables::Filled) DrawHydraulicPlot();
     ShowAnalysisProgress(95);
+    if (Wanted == Tables::Filled) DrawDemandCapacity();
     ShowAnalysisProgress(100);
 }
 
@@ -97,7 +100,7 @@ void RunAnalysis(Tables Wanted)
     const bool Stand = ComputeFigures(
         Wanted, {.Flows = TellingOfFlows(), .Reached = FollowFigures, .Supervision = SupervisionOnScreen});
     if (!Stand) return;
-    HandOverToResults();
+    HandOverToResults(Wanted);
     if (HighPointAdjusted == 1) TellOfHighPoint();
     Analysed = 1;
 }

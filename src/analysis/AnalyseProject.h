@@ -7,7 +7,8 @@ namespace velorix {
 
 // Hydraulics, yearly supply, costs, present values, and the filling of the results screen, hidden. Sets
 // Analysed when results stand. A failure anywhere is told to the user and ends the analysis; what was
-// computed stays. The tables that only graphs need are for whoever shows some.
+// computed stays. The tables that only graphs need, and the graphs that stand ready when the screen opens,
+// are for whoever shows some.
 void AnalyseProject(Tables Wanted);
 
 // What the user is told of a flow solution, and the dialog of a year without a duty point: for every caller

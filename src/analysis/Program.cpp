@@ -6,7 +6,9 @@
 #include "input/Session.h"
 #include "model/WorkingSet.h"
 #include "platform/Screen.h"
+#include "results/ChartFrame.h"
 #include "results/PlotState.h"
+#include "results/ScenarioLines.h"
 
 namespace velorix {
 
@@ -19,6 +21,8 @@ void ResetProgram()
     ResetSession();
     ResetResults();
     ResetPlotState();
+    ResetChartFrames();
+    ResetScenarioLines();
 }
 
 void StartSession()

@@ -5,6 +5,7 @@
 
 #include <QAbstractItemView>
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QPushButton>
 #include <QRadioButton>
@@ -99,6 +100,19 @@ QRadioButton* View(OptionButton& Record)
     Follow(Record.Value, View, [View](bool Value) { ForceChecked(*View, Value); });
     QObject::connect(View, &QRadioButton::clicked, View,
                      [&Record, View] { Enter(Record.Value, true, View); });
+    Attach(Record, View);
+    NameByCaption(*View);
+    return View;
+}
+
+QCheckBox* View(CheckBox& Record)
+{
+    auto* const View = new QCheckBox;
+    Follow(Record.Caption, View,
+           [View](const std::string& Text) { View->setText(QString::fromStdString(Text)); });
+    Follow(Record.Value, View, [View](bool Value) { View->setChecked(Value); });
+    QObject::connect(View, &QCheckBox::clicked, View,
+                     [&Record, View](bool Ticked) { Enter(Record.Value, Ticked, View); });
     Attach(Record, View);
     NameByCaption(*View);
     return View;

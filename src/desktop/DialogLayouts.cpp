@@ -5,6 +5,7 @@
 #include "desktop/Icons.h"
 #include "desktop/QtPlatform.h"
 #include "desktop/ScrollBarView.h"
+#include "desktop/SurfaceView.h"
 #include "desktop/Views.h"
 #include "screens/Analyse.h"
 #include "screens/Dialogs.h"
@@ -222,8 +223,12 @@ QDialog* AboutDialog(QWidget* Owner)
 
 QDialog* DutyPointDialog(QWidget* Owner)
 {
-    return FixedWindow(frmDutyPoint, Owner,
-                       {View(frmDutyPoint.lblAdvice), InRow({nullptr, DefaultButton(frmDutyPoint.sscOK)})});
+    constexpr QSize RoomForCurves(680, 360);
+    SurfaceView* const Curves = View(frmDutyPoint.picDuty);
+    Curves->setFixedSize(RoomForCurves);
+    return FixedWindow(
+        frmDutyPoint, Owner,
+        {Curves, View(frmDutyPoint.lblAdvice), InRow({nullptr, DefaultButton(frmDutyPoint.sscOK)})});
 }
 
 } // namespace

@@ -6,11 +6,13 @@
 #include "desktop/Icons.h"
 #include "desktop/InputLayout.h"
 #include "desktop/ResultsLayout.h"
+#include "desktop/ViewerLayouts.h"
 #include "desktop/Views.h"
 #include "platform/Platform.h"
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
 #include "screens/Results.h"
+#include "screens/Viewers.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -29,6 +31,8 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace velorix {
 namespace {
@@ -222,8 +226,9 @@ MainWindow::MainWindow()
     : Screens(new QStackedWidget)
     , WayOn(WayOnLine())
     , Picture(PicturePage(WayOn))
-    , InputScreen(InputScreenLayout())
-    , ResultsScreen(ResultsScreenLayout())
+    , Places{{&frmIRRView, IrrViewLayout()},       {&frmViewRoughness, RoughnessViewLayout()},
+             {&frmView, ProfileViewLayout()},      {&frmPumpView, PumpViewLayout()},
+             {&frmResults, ResultsScreenLayout()}, {&frmLCC, InputScreenLayout()}}
 {
     QAction* const Analyse = Command(MDIProject.mnuAnalyse, nullptr, QKeySequence("F5"));
     QAction* const Preferences = Command(MDIProject.mnuPreferences);
@@ -231,7 +236,8 @@ MainWindow::MainWindow()
                            Command(MDIProject.mnuRoughness), Preferences, HelpMenu(this)});
     FillStatusBar(statusBar());
 
-    for (QWidget* Each : {Picture, InputScreen, ResultsScreen}) Screens->addWidget(Each);
+    Screens->addWidget(Picture);
+    for (const Place& Each : Places) Screens->addWidget(Each.Layout);
     auto* const Middle = new QWidget;
     auto* const Layout = new QVBoxLayout(Middle);
     Layout->setContentsMargins(0, 0, 0, 0);
@@ -246,9 +252,10 @@ MainWindow::MainWindow()
     Follow(MDIProject.Caption, this,
            [this](const std::string& Title) { setWindowTitle(QString::fromStdString(Title)); });
     Follow(MDIProject.Visible, this, [this](bool Visible) { setVisible(Visible); });
-    for (Screen* Each : std::initializer_list<Screen*>{&frmLCC, &frmResults})
-        Follow(Each->Visible, this, [this](bool) { ShowScreen(); });
-    Follow(frmLCC.Enabled, InputScreen, [this](bool Enabled) { InputScreen->setEnabled(Enabled); });
+    for (const auto& [Record, Shown] : Places) {
+        Follow(Record->Visible, this, [this](bool) { ShowScreen(); });
+        Follow(Record->Enabled, Shown, [Page = Shown](bool Enabled) { Page->setEnabled(Enabled); });
+    }
 }
 
 // A display without room for window and frame is filled.
@@ -263,7 +270,9 @@ void MainWindow::TakeFirstSize()
 
 void MainWindow::ShowScreen()
 {
-    QWidget* const Top = frmResults.Visible ? ResultsScreen : frmLCC.Visible ? InputScreen : Picture;
+    const auto Shown = std::find_if(Places.begin(), Places.end(),
+                                    [](const Place& Each) { return Each.Record->Visible.Get(); });
+    QWidget* const Top = Shown == Places.end() ? Picture : Shown->Layout;
     if (Screens->currentWidget()->isAncestorOf(focusWidget()))
         Screens->setFocus(); // a page that goes would hand it to a tool button
     Screens->setCurrentWidget(Top);

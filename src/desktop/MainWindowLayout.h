@@ -5,11 +5,14 @@
 
 #include <filesystem>
 #include <functional>
+#include <vector>
 
 class QLabel;
 class QStackedWidget;
 
 namespace velorix {
+
+struct Screen;
 
 class MainWindow : public QMainWindow {
 public:
@@ -28,11 +31,16 @@ private:
     void TakeFirstSize();
     void ShowScreen();
 
+    // A screen that stands in the middle of the window while it is visible.
+    struct Place {
+        Screen* Record;
+        QWidget* Layout;
+    };
+
     QStackedWidget* const Screens;
     QLabel* const WayOn; // on the picture
     QWidget* const Picture;
-    QWidget* const InputScreen;
-    QWidget* const ResultsScreen;
+    const std::vector<Place> Places; // the first visible one is on top
 };
 
 } // namespace velorix

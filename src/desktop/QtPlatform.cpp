@@ -2,6 +2,8 @@
 #include "desktop/QtPlatform.h"
 
 #include "desktop/Binding.h"
+#include "paint/ImageFile.h"
+#include "paint/Painter.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -172,17 +174,14 @@ void DropInput()
     QCoreApplication::processEvents();
 }
 
+// The cross hair is the cursor of the surfaces themselves; only the hourglass stands over everything.
 void ChangePointer(PointerShape& Pointer, PointerShape Shape)
 {
-    const bool WasDefault = Pointer == PointerShape::Default;
+    const bool WasBusy = Pointer == PointerShape::Hourglass;
+    const bool IsBusy = Shape == PointerShape::Hourglass;
     Pointer = Shape;
-    const QCursor Cursor(Shape == PointerShape::Hourglass ? Qt::WaitCursor : Qt::CrossCursor);
-    if (Shape == PointerShape::Default) {
-        if (!WasDefault) QApplication::restoreOverrideCursor();
-    } else if (WasDefault)
-        QApplication::setOverrideCursor(Cursor);
-    else
-        QApplication::changeOverrideCursor(Cursor);
+    if (IsBusy && !WasBusy) QApplication::setOverrideCursor(Qt::WaitCursor);
+    if (!IsBusy && WasBusy) QApplication::restoreOverrideCursor();
 }
 
 // Shows the default pointer for as long as the user has to answer.
@@ -300,6 +299,25 @@ std::string QtPlatform::ClipboardText()
 void QtPlatform::SetClipboardText(const std::string& Text)
 {
     QApplication::clipboard()->setText(QString::fromStdString(Text));
+}
+
+void QtPlatform::SetClipboardPicture(const DisplayList& Image)
+{
+    constexpr double Scale = 2; // of the screen's resolution
+    const KeepArithmeticFlags Keep;
+    QApplication::clipboard()->setImage(ToImage(Image, Scale));
+}
+
+double QtPlatform::TextWidth(const std::string& Text, const Font& Face)
+{
+    const KeepArithmeticFlags Keep;
+    return PaintedTextWidth(QString::fromStdString(Text), Face);
+}
+
+double QtPlatform::TextHeight(const Font& Face)
+{
+    const KeepArithmeticFlags Keep;
+    return PaintedTextHeight(Face);
 }
 
 Date QtPlatform::Today()

@@ -44,6 +44,9 @@ public:
     void Repaint() override;
     std::string ClipboardText() override; // lines end by a carriage return and a line feed
     void SetClipboardText(const std::string& Text) override;
+    void SetClipboardPicture(const DisplayList& Image) override;
+    double TextWidth(const std::string& Text, const Font& Face) override;
+    double TextHeight(const Font& Face) override;
     Date Today() override;
     PixelSize ScreenSize() override;
     bool ShowSystemInformation() override;

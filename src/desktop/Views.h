@@ -10,6 +10,7 @@
 #include <vector>
 
 class QAction;
+class QCheckBox;
 class QComboBox;
 class QDateEdit;
 class QGroupBox;
@@ -40,6 +41,7 @@ QLineEdit* NumberView(TextBox& Record); // a number: right-aligned, tabular digi
 QPlainTextEdit* MultilineView(TextBox& Record);
 QComboBox* View(ComboBox& Record);
 QRadioButton* View(OptionButton& Record);
+QCheckBox* View(CheckBox& Record);
 QPushButton* View(CommandButton& Record);
 QToolButton* ToolView(CommandButton& Record, const QString& IconName); // icon only
 QProgressBar* View(ProgressBar& Record);

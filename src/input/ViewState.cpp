@@ -31,12 +31,19 @@ void RestoreScreens()
         MDIProject.tmrCurrency.Enabled = true;
 }
 
+void CloseViewers()
+{
+    for (Screen* Viewer :
+         std::initializer_list<Screen*>{&frmView, &frmPumpView, &frmIRRView, &frmViewRoughness})
+        if (Viewer->IsLoaded()) Viewer->Unload();
+    MDIProject.mnuRoughness.Visible = false;
+}
+
 void LeaveProjectScreens()
 {
     if (ProjectOpen != 1) return;
     frmLCC.Visible = false;
-    for (Screen* Viewer : std::initializer_list<Screen*>{&frmView, &frmPumpView})
-        if (Viewer->Visible) Viewer->Unload();
+    CloseViewers();
     if (Analysed == 1) frmResults.Visible = false;
 }
 

@@ -73,7 +73,7 @@ struct OptionButton : Control {
 void GroupOptions(const std::vector<OptionButton*>& Members);
 
 struct CheckBox : Control {
-    explicit CheckBox(std::string Text = {}, std::string Hint = {});
+    CheckBox(std::string Text = {}, std::string Hint = {});
     Property<std::string> Caption{*this};
     Property<bool> Value{*this, false};
     Handler Click;

@@ -15,7 +15,7 @@ Grid::Grid(int DesignRows, int DesignCols, std::string Hint)
 {
     SetRows(DesignRows);
     Keep(ColWidth, HeaderHeight, DataRowHeight, FixedRows, FixedCols, HeadingRows, MergeEqualCells, MergeCols,
-         Cells, CurrentRow, CurrentCol, ExtentRow, ExtentCol);
+         Cells, ColCount, CurrentRow, CurrentCol, ExtentRow, ExtentCol);
     DesignIsBack = [this] {
         History.clear();
         ShapeView();
@@ -40,6 +40,17 @@ void Grid::SetRows(int Count)
     if (Count == Rows()) return;
     Cells.resize(static_cast<std::size_t>(Count), std::vector<GridCell>(static_cast<std::size_t>(ColCount)));
     PutCurrent(std::clamp(CurrentRow, 0, std::max(0, Count - 1)), CurrentCol);
+    History.clear();
+    ShapeView();
+}
+
+void Grid::SetCols(int Count)
+{
+    if (Count < 1) throw SubscriptFailure(Count, 1, 32767);
+    if (Count == ColCount) return;
+    ColCount = Count;
+    for (auto& Each : Cells) Each.resize(static_cast<std::size_t>(Count));
+    PutCurrent(CurrentRow, std::min(CurrentCol, Count - 1));
     History.clear();
     ShapeView();
 }

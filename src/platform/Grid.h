@@ -44,6 +44,7 @@ struct Grid : Control {
 
     // Rows that stay keep their cells, new ones are empty. The current cell is kept inside the grid.
     void SetRows(int Count);
+    void SetCols(int Count); // the same of columns
 
     const std::string& Text(int Row, int Col) const { return At(Row, Col).Text; }
     void SetText(int Row, int Col, std::string Text);
@@ -100,7 +101,7 @@ private:
     GridCell& At(int Row, int Col);
     const GridCell& At(int Row, int Col) const;
 
-    const int ColCount;
+    int ColCount;
     std::vector<std::vector<GridCell>> Cells;
     int CurrentRow = 0;
     int CurrentCol = 0;

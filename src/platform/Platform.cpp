@@ -26,6 +26,11 @@ void Warn(const std::string& Text, const std::string& Title, const std::string& 
     System().Show({.Text = Text, .Title = Title, .Detail = Detail});
 }
 
+void Inform(const std::string& Text, const std::string& Title)
+{
+    System().Show({.Text = Text, .Title = Title, .Icon = MessageIcon::Information});
+}
+
 bool Confirm(const std::string& Text, const std::string& Title, const std::string& Detail)
 {
     return System().Show({.Text = Text,

@@ -3,6 +3,7 @@
 
 #include "base/Date.h"
 #include "platform/Controls.h"
+#include "platform/DisplayList.h"
 #include "platform/Screen.h"
 
 #include <filesystem>
@@ -76,6 +77,12 @@ public:
     virtual std::string ClipboardText() = 0;
     virtual void SetClipboardText(const std::string& Text) = 0;
 
+    virtual void SetClipboardPicture(const DisplayList& Image) = 0;
+
+    // Size of a text in the fonts that are drawn with (twips).
+    virtual double TextWidth(const std::string& Text, const Font& Face) = 0;
+    virtual double TextHeight(const Font& Face) = 0; // from one line to the next
+
     virtual Date Today() = 0;
     virtual PixelSize ScreenSize() = 0;
 
@@ -91,8 +98,20 @@ public:
 Platform& System();
 void InstallPlatform(Platform* InUse);
 
+// The hourglass for as long as the object lives.
+class BusyPointer {
+public:
+    BusyPointer() { System().SetPointer(PointerShape::Hourglass); }
+    ~BusyPointer() { System().SetPointer(PointerShape::Default); }
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+};
+
 // A message with the title "Velorix" and the exclamation icon.
 void Warn(const std::string& Text, const std::string& Title = "Velorix", const std::string& Detail = {});
+
+// A message with the information icon.
+void Inform(const std::string& Text, const std::string& Title = "Velorix");
 
 // A question with Yes and No, title "Velorix".
 bool Confirm(const std::string& Text, const std::string& Title = "Velorix", const std::string& Detail = {});

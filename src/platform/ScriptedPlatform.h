@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "platform/TextMetrics.h"
 
 #include <deque>
 #include <functional>
@@ -30,6 +31,7 @@ public:
     bool Ended = false;
 
     std::string Clipboard;
+    DisplayList ClipboardPicture;
     Date TodaysDate{2005, 3, 3};
     PixelSize Pixels;
     bool HasSystemInformation = false;
@@ -46,6 +48,12 @@ public:
     void Repaint() override {}
     std::string ClipboardText() override { return Clipboard; }
     void SetClipboardText(const std::string& Text) override { Clipboard = Text; }
+    void SetClipboardPicture(const DisplayList& Image) override { ClipboardPicture = Image; }
+    double TextWidth(const std::string& Text, const Font& Face) override
+    {
+        return FixedTextWidth(Text, Face);
+    }
+    double TextHeight(const Font& Face) override { return FixedTextHeight(Face); }
     Date Today() override { return TodaysDate; }
     PixelSize ScreenSize() override { return Pixels; }
     bool ShowSystemInformation() override { return HasSystemInformation; }

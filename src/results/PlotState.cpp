@@ -14,14 +14,24 @@ std::int16_t PlotYear = 1;
 std::int16_t HideGradeline = 0;
 std::int16_t HideComponents = 0;
 
-void FillCombos()
+int GradelinePoint(int Node)
+{
+    return IsPumping() ? Node : Node - 1;
+}
+
+void FillDistances(ComboBox& Begin, ComboBox& End)
 {
     std::vector<std::string> Distances;
     for (int Row = 1; Row <= NodeCount; ++Row) Distances.push_back(Format(Chainage[Row], "#0.000"));
-    frmResults.comBegin.List = Distances;
-    frmResults.comEnd.List = Distances;
-    frmResults.comBegin.ListIndex = 0;
-    frmResults.comEnd.ListIndex = NodeCount - 1;
+    Begin.List = Distances;
+    End.List = Distances;
+    Begin.ListIndex = 0;
+    End.ListIndex = NodeCount - 1;
+}
+
+void FillCombos()
+{
+    FillDistances(frmResults.comBegin, frmResults.comEnd);
     PlotYear = 1;
     HideGradeline = 0;
     HideComponents = 0;
@@ -34,7 +44,6 @@ void TakeProfileForPlot()
         Chainage[Row] = wAccLength[Row];
         GroundLevel[Row] = wElevation[Row];
     }
-    frmResults.hscYears.Max = wLife;
 }
 
 void ResetPlotState()

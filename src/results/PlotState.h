@@ -2,6 +2,7 @@
 #pragma once
 
 #include "hydraulics/HydraulicResults.h"
+#include "platform/Controls.h"
 
 namespace velorix {
 
@@ -11,12 +12,17 @@ extern std::int16_t PlotYear;       // year shown, 1 to wLife
 extern std::int16_t HideGradeline;  // 1: the plots leave the gradeline out
 extern std::int16_t HideComponents; // 1: the results plot leaves the symbols out
 
-// One entry for each node in comBegin and comEnd, the first and the last selected, and the starting state of
-// the plots. The entries are the chainages that the last plot copied.
+// The point of the gradeline that plot and table show for a node.
+int GradelinePoint(int Node);
+
+// One entry for each node, the chainages that the last plot copied; the first and the last are selected.
+void FillDistances(ComboBox& Begin, ComboBox& End);
+
+// FillDistances for the results screen, and the starting state of the plots.
 void FillCombos();
 
-// What every drawing of the hydraulic plot begins with: the nodes counted from the profile grid, the profile
-// copied to Chainage and GroundLevel, the range of hscYears.
+// What every drawing of a profile plot begins with: the nodes counted from the profile grid, the profile
+// copied to Chainage and GroundLevel.
 void TakeProfileForPlot();
 
 void ResetPlotState();

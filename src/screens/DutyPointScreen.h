@@ -2,7 +2,9 @@
 #pragma once
 
 #include "platform/Controls.h"
+#include "platform/DrawingSurface.h"
 #include "platform/Screen.h"
+#include "screens/Surfaces.h"
 
 namespace velorix {
 
@@ -10,8 +12,13 @@ struct DutyPointScreen : Screen {
     DutyPointScreen()
         : Screen("frmDutyPoint", "  PUMP AND SYSTEM CURVE")
     {
+        lblGridColor.Visible = false;
+        lblGridColor.BackColor = CurveGridColor;
         DesignEnds();
     }
+
+    DrawingSurface picDuty{GraphWidth, GraphHeight, "Pump curve and system curve of the year"};
+    Label lblGridColor; // hidden: its colour is that of the grid
 
     Label lblAdvice{"Choose a pump curve that reaches the head of the system curve between its first and its "
                     "sixth point,\n"

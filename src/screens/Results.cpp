@@ -6,17 +6,34 @@ namespace velorix {
 ResultsScreen::ResultsScreen()
     : Screen("frmResults", "  RESULTS")
 {
-    sstResults.TabVisible = std::vector<bool>{true, false, true}; // the second page comes with its plots
-    sstResults.Tab = 2;
-    fraDuty.Visible = false;
+    GroupOptions({&ssoDemandCapacity, &ssoIncomeExpenditure});
+    for (Frame* Each : {&fraComponents, &fraTable, &fraDuty, &fraViewTable, &fraIncomeLegend})
+        Each->Visible = false;
+    chkComponents.Value = chkGradeline.Value = true;
+    ssoDemandCapacity.Value = true;
     sscDutypoint.Visible = false;
-    sscDutypoint.Enabled = false; // until there is a plot of the duty points to show
+    for (CommandButton* Each :
+         {&sscPrintView, &sscPrintSystem, &sscPrintDutyYear, &sscHelp1, &sscHelp2, &sscHelp3})
+        Each->Enabled = false; // until there is paper to print on, and a guide to open
+    lblGridColor.Visible = false;
+    lblGridColor.BackColor = CurveGridColor;
+    msgHydraulic.ColWidth = {1050, 1450, 1450, 1450, 1450, 1700};
+    msgHydraulic.HeaderHeight = 500;
+    msgDuty.ColWidth = {950, 1150, 1150, 1050};
+    msgDuty.FixedRows = msgSystem.FixedRows = 2;
+    msgDuty.HeaderHeight = 600;
     msgCost.ColWidth = {3100, 1850};
     msgCost.DataRowHeight = msgCost.HeaderHeight = 350;
-    msgAnnualCost.ColWidth = {2350, 1250, 1850};
+    msgAnnualCost.ColWidth = {1700, 1100, 1800};
     msgAnnualCost.DataRowHeight = msgAnnualCost.HeaderHeight = 350;
     msgAnnualCost.MergeEqualCells = true;
     msgAnnualCost.MergeCols = {0, 1};
+
+    lblDemandColor.BackColor = picCapitalColor.BackColor = PureRed;
+    lblShortageColor.BackColor = picIncomeColor.BackColor = Rgb(0, 0, 255);
+    lblYieldColor.BackColor = picMaintenanceColor.BackColor = PureGreen;
+    picOperationalColor.BackColor = PureYellow;
+    picEnergyColor.BackColor = Rgb(255, 10, 240);
     DesignEnds();
 }
 

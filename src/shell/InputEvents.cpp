@@ -142,14 +142,6 @@ void ConnectPages()
     frmLCC.sscCancelLaying.Click = CloseLaying; // what was typed stays in the grid
 }
 
-void ConnectViews()
-{
-    frmLCC.sscViewProfile.Click = [] {
-        if (SaveToViewProfile()) ShowProfile();
-    };
-    frmLCC.sscViewCurve.Click = [] { ShowPumpCurve(); };
-}
-
 void ConnectRows()
 {
     frmLCC.sscAdd.Click = [] { ChangeProfileRows(InsertProfileRow); };
@@ -183,7 +175,6 @@ void ConnectInputScreen()
     ConnectOptions();
     ConnectHours();
     ConnectPages();
-    ConnectViews();
     ConnectRows();
     ConnectHelp();
 }

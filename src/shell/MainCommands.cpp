@@ -78,8 +78,7 @@ void DisableWhatIsMissing()
     const std::pair<Control*, const Handler*> Commands[] = {
         {&MDIProject.mnuPrint, &ShowPrintScreen},   {&MDIProject.sscPrint, &ShowPrintScreen},
         {&MDIProject.mnuImport, &ShowImportWizard}, {&MDIProject.mnuConvert, &ShowConverter},
-        {&MDIProject.mnuStep, &ShowGuide},          {&MDIProject.mnuRoughness, &ShowRoughness},
-        {&frmLCC.sscViewProfile, &ShowProfile},     {&frmLCC.sscViewCurve, &ShowPumpCurve}};
+        {&MDIProject.mnuStep, &ShowGuide},          {&MDIProject.mnuRoughness, &ShowRoughness}};
     for (const auto& [Command, Screen] : Commands) Command->Enabled = static_cast<bool>(*Screen);
 }
 

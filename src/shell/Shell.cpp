@@ -6,8 +6,6 @@
 #include "input/FileCommands.h"
 #include "model/WorkingSet.h"
 #include "platform/Platform.h"
-#include "results/CostTable.h"
-#include "results/PlotState.h"
 #include "screens/Analyse.h"
 #include "screens/Dialogs.h"
 #include "screens/DutyPointScreen.h"
@@ -21,6 +19,8 @@
 #include "shell/MainCommands.h"
 #include "shell/Notices.h"
 #include "shell/Preferences.h"
+#include "shell/ResultsEvents.h"
+#include "shell/ViewerEvents.h"
 
 namespace velorix {
 namespace {
@@ -43,20 +43,6 @@ void ConnectAnalyseDialog()
     HelpOn(frmAnalyse.sscHelp, 5000);
 }
 
-// The bar only chooses the year of the next plot.
-void YearOfPlotChosen()
-{
-    PlotYear = static_cast<std::int16_t>(frmResults.hscYears.Value.Get());
-    frmResults.lblYear.Caption = std::to_string(wSupplyStart + PlotYear - 1);
-}
-
-void ConnectResults()
-{
-    frmDutyPoint.sscOK.Click = [] { frmDutyPoint.Unload(); };
-    frmResults.hsbAnnual.Change = ShowAnnualCost;
-    frmResults.hscYears.Change = YearOfPlotChosen;
-}
-
 } // namespace
 
 Handler ShowPrintScreen;
@@ -64,8 +50,6 @@ Handler ShowImportWizard;
 Handler ShowConverter;
 Handler ShowGuide;
 Handler ShowRoughness;
-Handler ShowProfile;
-Handler ShowPumpCurve;
 
 void ConnectScreens()
 {
@@ -78,6 +62,7 @@ void ConnectScreens()
     ConnectKindOfSystem();
     ConnectAnalyseDialog();
     ConnectResults();
+    ConnectViewers();
 }
 
 bool StartProgram()

@@ -12,8 +12,6 @@ extern Handler ShowImportWizard;
 extern Handler ShowConverter;
 extern Handler ShowGuide;
 extern Handler ShowRoughness;
-extern Handler ShowProfile;
-extern Handler ShowPumpCurve;
 
 // Connects all screens. Called once, before the first of them is shown.
 void ConnectScreens();

@@ -2,6 +2,7 @@
 #include "ShellTest.h"
 
 #include "model/ProjectRecord.h"
+#include "platform/DrawingSurface.h"
 #include "platform/Grid.h"
 #include "results/PlotState.h"
 
@@ -39,6 +40,20 @@ Color Other(Color Value)
 {
     return {Value.Value + 1};
 }
+double Other(double Value)
+{
+    return Value + 1;
+}
+Pen Other(Pen Value)
+{
+    ++Value.Width;
+    return Value;
+}
+DisplayList Other(DisplayList Value)
+{
+    Value.Items.emplace_back(BoxItem{});
+    return Value;
+}
 template <typename T>
 std::vector<T> Other(std::vector<T> Value)
 {
@@ -57,8 +72,8 @@ bool WithItsType(AnyProperty& Target, const Action& What)
     const auto TryAll = [&]<typename... T>(std::tuple<T...>*) {
         return (Try(dynamic_cast<PropertyOf<T>*>(&Target)) || ...);
     };
-    using Types = std::tuple<bool, int, std::string, Date, Color, std::vector<bool>, std::vector<int>,
-                             std::vector<std::string>, std::vector<std::vector<GridCell>>>;
+    using Types = std::tuple<bool, int, double, std::string, Date, Color, Pen, DisplayList, std::vector<bool>,
+                             std::vector<int>, std::vector<std::string>, std::vector<std::vector<GridCell>>>;
     return TryAll(static_cast<Types*>(nullptr));
 }
 

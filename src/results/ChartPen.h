@@ -1,0 +1,54 @@
+// The pen work that all plots have in common: grid, axes, ticks, labels and titles.
+#pragma once
+
+#include "platform/DrawingSurface.h"
+#include "results/ChartFrame.h"
+
+#include <functional>
+
+namespace velorix {
+
+constexpr Color GridGrey = Rgb(128, 128, 128);
+
+// A plot on its way to the surface: where it is drawn, its frame and its ticks.
+struct Chart {
+    DrawingSurface& Surface;
+    ChartFrame Frame;
+    AxisTicks X;
+    AxisTicks Y;
+    int LabelColumn = 300; // where the labels of the y axis stand
+};
+
+// Wipes the surface and sets the frame's rectangle.
+void StartChart(Chart& Plot, int LeftMargin, int RightMargin);
+
+// Puts the pen on: a colour, one pixel wide.
+void TakePen(DrawingSurface& Surface, Color Ink, DrawStyle Style = DrawStyle::Solid);
+
+// Grid lines, dashed and thin; the font for what follows is set to size 8.
+void StartGrid(Chart& Plot, Color Ink = GridGrey);
+void DrawHorizontalGrid(Chart& Plot);
+void DrawVerticalGrid(Chart& Plot);
+
+void DrawAxes(Chart& Plot);
+
+// Labels and ticks of the y axis, of the x axis of a plot whose range ends at End, and of an x axis whose
+// labels are numbers in that format.
+void DrawYLabels(Chart& Plot);
+void DrawXLabels(Chart& Plot, Single End);
+void DrawXLabels(Chart& Plot, const char* Format);
+
+// A text whose width is centred on X; narrower or wider than the text that is shown.
+void PrintCentred(DrawingSurface& Surface, const std::string& Text, const std::string& Measured, int X,
+                  int Y);
+void DrawXTickMark(Chart& Plot, int X);
+
+// The title below the middle of the x axis, Below twips under the axis line, in the font in force. Width is
+// the width of the data.
+void DrawXTitle(Chart& Plot, const std::string& Title, double Width, int Below);
+
+// A line through the points (X(i), Y(i)), i from First to Last. The first only sets the pen.
+using PositionOf = std::function<int(int)>;
+void DrawCurve(DrawingSurface& Surface, int First, int Last, const PositionOf& X, const PositionOf& Y);
+
+} // namespace velorix

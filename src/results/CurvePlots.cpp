@@ -1,0 +1,248 @@
+// The two plots of head against flow.
+#include "results/CurvePlots.h"
+
+#include "base/Arithmetic.h"
+#include "base/Failure.h"
+#include "base/Format.h"
+#include "base/Text.h"
+#include "hydraulics/HydraulicResults.h"
+#include "model/WorkingSet.h"
+#include "platform/Platform.h"
+#include "results/ChartPen.h"
+#include "results/FlowCaptions.h"
+#include "screens/Lcc.h"
+#include "screens/Pictures.h"
+#include "screens/Results.h"
+#include "screens/Viewers.h"
+
+#include <algorithm>
+
+namespace velorix {
+namespace {
+
+constexpr int LeftMargin = 800;
+constexpr int RightMargin = 600;
+constexpr int RightMarginOfTwoAxes = 1050;
+constexpr int YTitleLeft = 11;
+constexpr int YTitleTop = 2200;
+constexpr Color CurveBlue = Rgb(0, 0, 255);
+constexpr int PumpPoints = 6;
+
+Single PumpHeadAt(int Row)
+{
+    return wPumpCurve[3 * Row - 2];
+}
+
+Single PumpFlowAt(int Row)
+{
+    return wPumpCurve[3 * Row - 1];
+}
+
+Single PumpEfficiencyAt(int Row)
+{
+    return wPumpCurve[3 * Row];
+}
+
+DataRange RangeOf(Single (*Value)(int))
+{
+    DataRange Found{Value(1), Value(1)};
+    for (int Row = 1; Row <= PumpPoints; ++Row) Found.Take(Value(Row));
+    return Found;
+}
+
+// The flows are taken as they stand: from the first row to the last.
+AxisTicks FlowTicks()
+{
+    return FindTicks(PumpFlowAt(1), PumpFlowAt(PumpPoints), Ladder::ToMillion);
+}
+
+void DrawPumpPoints(Chart& Plot)
+{
+    TakePen(Plot.Surface, CurveBlue);
+    for (int Row = 1; Row <= PumpPoints; ++Row) {
+        const int x = Plot.Frame.X(PumpFlowAt(Row));
+        const int y = Plot.Frame.Y(PumpHeadAt(Row));
+        const double FromX = Plot.Surface.CurrentX;
+        const double FromY = Plot.Surface.CurrentY;
+        Plot.Surface.DrawPicture(imgDot, x - imgDot.Width / 2, y - imgDot.Height / 2);
+        Plot.Surface.CurrentX = FromX;
+        Plot.Surface.CurrentY = FromY;
+        if (Row > 1) Plot.Surface.LineTo(x, y);
+        Plot.Surface.CurrentX = x;
+        Plot.Surface.CurrentY = y;
+    }
+}
+
+void DrawGrid(Chart& Plot, Color Ink)
+{
+    StartGrid(Plot, Ink);
+    DrawHorizontalGrid(Plot);
+    DrawVerticalGrid(Plot);
+}
+
+void SetLabelFont(DrawingSurface& Surface)
+{
+    Surface.SetFontBold(false);
+    Surface.SetFontSize(8);
+    Surface.SetFontName("Times New Roman");
+}
+
+void DrawLabelsAndTitles(Chart& Plot)
+{
+    DrawYLabels(Plot);
+    DrawXLabels(Plot, PumpFlowAt(PumpPoints));
+    Plot.Surface.SetFontBold(true);
+    DrawXTitle(Plot, "Flow rate ( " + PumpFlowUnit() + " )",
+               Plot.X.Step * Plot.X.Intervals * Plot.Frame.XScale, 270);
+    Plot.Surface.SetFontBold(false);
+    Plot.Surface.DrawPicture(wHeadUnits == 1 ? imgHeadft : imgHeadm, YTitleLeft, YTitleTop);
+}
+
+// The efficiency axis has labels of its own to the right of its line, but no grid.
+struct EfficiencyAxis {
+    AxisTicks Ticks;
+    SecondAxis Axis;
+};
+
+void DrawEfficiencyCurve(Chart& Plot, const EfficiencyAxis& Second)
+{
+    TakePen(Plot.Surface, PureGreen);
+    DrawCurve(
+        Plot.Surface, 1, PumpPoints, [&](int Row) { return Plot.Frame.X(PumpFlowAt(Row)); },
+        [&](int Row) { return Plot.Frame.Y2(PumpEfficiencyAt(Row), Second.Axis); });
+}
+
+void DrawEfficiencyAxis(Chart& Plot, const EfficiencyAxis& Second)
+{
+    const int x = Plot.Frame.XTick(Plot.X, Plot.X.Intervals + 1);
+    Plot.Surface.Line(x, Plot.Frame.YBottom, x, Plot.Frame.DataTop());
+    const std::string Pattern = LabelFormat(Second.Ticks.Step);
+    for (int n = 1; n <= Second.Ticks.Intervals + 1; ++n) {
+        Plot.Surface.CurrentX = Plot.Frame.XRight + 350;
+        Plot.Surface.CurrentY =
+            Plot.Frame.Place(Plot.Frame.DataBottom() - Second.Ticks.Step * Second.Axis.Y2Scale * (n - 1)) -
+            85;
+        Plot.Surface.PrintText(Format(Second.Ticks.Value(n), Pattern) + " %");
+    }
+}
+
+void StoreFrame(const ChartFrame& Frame)
+{
+    ResultsFrame = Frame;
+    CurveOrigin = Frame;
+}
+
+void DrawPumpAndEfficiency()
+{
+    Chart Plot{frmPumpView.picGraph, {}, {}, {}};
+    const DataRange Heads = RangeOf(PumpHeadAt);
+    const DataRange Efficiencies = RangeOf(PumpEfficiencyAt);
+    StartChart(Plot, LeftMargin, RightMarginOfTwoAxes);
+    Plot.X = FlowTicks();
+    Plot.Y = FindTicks(Heads.Least, Heads.Most, Ladder::ToMillion);
+    EfficiencyAxis Second;
+    Second.Ticks = FindTicks(Efficiencies.Least, Efficiencies.Most, Ladder::ToMillion);
+    Plot.Frame.SetAxes(Plot.X, Plot.Y);
+    Second.Axis = {AxisScale(Plot.Frame.YBottom - Plot.Frame.YTop, Second.Ticks), Second.Ticks.Origin};
+    StoreFrame(Plot.Frame);
+    CurveSecondAxis = Second.Axis;
+
+    DrawGrid(Plot, frmPumpView.lblGridColor.BackColor);
+    DrawPumpPoints(Plot);
+    DrawEfficiencyCurve(Plot, Second);
+    SetLabelFont(Plot.Surface);
+    DrawAxes(Plot);
+    DrawEfficiencyAxis(Plot, Second);
+    DrawLabelsAndTitles(Plot);
+    Plot.Surface.DrawPicture(imgEfficiency, Plot.Frame.XRight + 800, 2300);
+}
+
+// All points of the year count, computed or not.
+DataRange HeadsOfYear()
+{
+    DataRange Heads = RangeOf(PumpHeadAt);
+    for (const Single Head : SystemHeadByYear.Year(AnalysisYear)) Heads.Take(Single(Head / HeadFactor));
+    return Heads;
+}
+
+void DrawSystemCurve(Chart& Plot)
+{
+    const auto& Flows = SystemFlowByYear.Year(AnalysisYear);
+    const auto& Heads = SystemHeadByYear.Year(AnalysisYear);
+    TakePen(Plot.Surface, PureGreen);
+    DrawCurve(
+        Plot.Surface, 1, CurvePoints, [&](int i) { return Plot.Frame.X(Flows[i] / FlowFactor); },
+        [&](int i) { return Plot.Frame.Y(Heads[i] / HeadFactor); });
+}
+
+void DrawPumpAndSystem(DrawingSurface& Surface, Color GridInk)
+{
+    Chart Plot{Surface, {}, {}, {}};
+    const DataRange Heads = HeadsOfYear();
+    StartChart(Plot, LeftMargin, RightMargin);
+    Plot.X = FlowTicks();
+    Plot.Y = FindTicks(Heads.Least, Heads.Most, Ladder::ToMillion);
+    Plot.Frame.SetAxes(Plot.X, Plot.Y);
+    StoreFrame(Plot.Frame);
+
+    DrawGrid(Plot, GridInk);
+    DrawPumpPoints(Plot);
+    DrawSystemCurve(Plot);
+    SetLabelFont(Plot.Surface);
+    DrawAxes(Plot);
+    DrawLabelsAndTitles(Plot);
+}
+
+} // namespace
+
+std::string PumpFlowUnit()
+{
+    switch (wFlowUnits) {
+    case 0: return "m³/h";
+    case 1: return "m³/s";
+    default: return Trim(frmLCC.comFlowUnits.Text());
+    }
+}
+
+void DrawPumpCurve()
+{
+    ClearArithmeticFlags();
+    try {
+        DrawPumpAndEfficiency();
+    } catch (const Failure&) {
+        ClearArithmeticFlags();
+        Inform("Could not show the pump curve.  Please check the pump data !");
+        HydraulicsFailed = 1;
+        frmPumpView.Unload();
+    }
+}
+
+void DrawDutyCurves(DrawingSurface& Surface, Color GridInk)
+{
+    ClearArithmeticFlags();
+    try {
+        DrawPumpAndSystem(Surface, GridInk);
+    } catch (const Failure&) {
+        ClearArithmeticFlags();
+    }
+}
+
+void FillDutyTable()
+{
+    Grid& Table = frmResults.msgDuty;
+    Table.SetRows(wLife + 2);
+    const std::string Heads[] = {"Year", "Flow rate", "Pumping head", "Pump efficiency"};
+    const std::string Units[] = {"", Trim(frmLCC.comFlowUnits.Text()), Trim(frmLCC.comHeadUnits.Text()), "%"};
+    for (int Col = 0; Col < 4; ++Col) {
+        Table.SetText(0, Col, Heads[Col]);
+        Table.SetText(1, Col, Units[Col]);
+    }
+    for (int i = 1; i <= wLife; ++i) {
+        Table.SetText(i + 1, 0, std::to_string(wSupplyStart + i - 1));
+        Table.SetText(i + 1, 1, FigureText(PumpFlow[i], "#0.000"));
+        Table.SetText(i + 1, 2, FigureText(PumpHead[i], "#0.000"));
+        Table.SetText(i + 1, 3, FigureText(PumpEfficiencyByYear[i], "#0.00"));
+    }
+}
+
+} // namespace velorix

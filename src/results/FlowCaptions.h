@@ -1,0 +1,31 @@
+// Flow and pumping head of a year as screen and paper show them, and the unit texts beside the plots.
+#pragma once
+
+#include "base/Single.h"
+
+#include <string>
+
+namespace velorix {
+
+// Flow with the unit that the input screen's list shows now, as "12.500 l/s", and in a pumping system the
+// head over the pump station's water level; empty where a figure can't be worked out.
+struct FlowFacts {
+    std::string Flow;
+    std::string Head;
+};
+FlowFacts FactsOfYear(int Year);
+
+// "m", "km", "ft" or "miles"; empty for an index outside the list.
+std::string LengthUnit();
+std::string ElevationUnit();
+
+// From the unit of wKsNew to metres; 0 for an index outside the list.
+double KsNewFactor();
+
+// The unit in which the demand is entered, as its list shows it.
+std::string DemandUnit();
+
+// The figure in that format; empty when it can't be worked out or is no number.
+std::string FigureText(double Figure, const char* Pattern);
+
+} // namespace velorix

@@ -1,0 +1,185 @@
+// Plots, tables and frames of the results screen, the IRR graph, the dialog of a missing duty point.
+#include "shell/ResultsEvents.h"
+
+#include "base/Format.h"
+#include "hydraulics/HydraulicResults.h"
+#include "input/InputScreen.h"
+#include "input/Session.h"
+#include "input/ViewState.h"
+#include "model/WorkingSet.h"
+#include "platform/Platform.h"
+#include "results/CostTable.h"
+#include "results/CurvePlots.h"
+#include "results/IrrPlot.h"
+#include "results/PlotState.h"
+#include "results/ProfilePlot.h"
+#include "results/ReadOuts.h"
+#include "results/ResultTables.h"
+#include "results/SupplyPlots.h"
+#include "screens/DutyPointScreen.h"
+#include "screens/Lcc.h"
+#include "screens/Results.h"
+#include "screens/Viewers.h"
+#include "shell/Help.h"
+#include "shell/SurfaceEvents.h"
+
+namespace velorix {
+namespace {
+
+// Which screen the IRR graph has hidden.
+enum class Hidden { None, InputScreen, ResultsScreen };
+Hidden HiddenByGraph = Hidden::None;
+
+// The bar only chooses the year of the next plot.
+void YearOfPlotChosen()
+{
+    PlotYear = static_cast<std::int16_t>(frmResults.hscYears.Value.Get());
+    frmResults.lblYear.Caption = std::to_string(wSupplyStart + PlotYear - 1);
+}
+
+// A tick box of the plot keeps its flag, and the plot follows.
+void ConnectTick(CheckBox& Box, std::int16_t& Hide)
+{
+    Box.Click = [&Box, &Hide] {
+        Hide = Box.Value ? 0 : 1;
+        const BusyPointer Drawing;
+        DrawHydraulicPlot();
+    };
+}
+
+void ConnectFrame(CommandButton& Show, CommandButton& Hide, Frame& Target, void (*Fill)())
+{
+    Show.Click = [&Target, Fill] {
+        Target.Visible = true;
+        if (Fill) Fill();
+    };
+    Hide.Click = [&Target] { Target.Visible = false; };
+}
+
+void FillTableOfYear()
+{
+    frmResults.lblYear1.Caption = "Year: " + frmResults.lblYear.Caption.Get();
+    FillHydraulicTable();
+}
+
+void FillTableOfYears()
+{
+    frmResults.ssoDemandCapacity.Value ? FillDemandTable() : FillIncomeTable();
+}
+
+void DrawDutyOfYear()
+{
+    frmResults.lblDutyYear.Caption = "Year " + std::to_string(wSupplyStart + AnalysisYear - 1);
+    DrawDutyCurves(frmResults.picDuty, frmResults.lblGridColor.BackColor);
+}
+
+void YearOfDutyChosen()
+{
+    AnalysisYear = static_cast<std::int16_t>(frmResults.hscDuty.Value.Get());
+    DrawDutyOfYear();
+}
+
+void ShowDutyPoints()
+{
+    FillDutyTable();
+    AnalysisYear = 1;
+    frmResults.hscDuty.Min = 1;
+    frmResults.hscDuty.Max = wLife;
+    frmResults.hscDuty.Value.Restore(1); // drawn below, moved or not
+    DrawDutyOfYear();
+}
+
+void BackToInput()
+{
+    if (ProjectOpen != 1) return Warn("No project has been opened.", "Velorix Error");
+    CloseViewers();
+    ShowInputScreen();
+    frmLCC.Enabled = true;
+}
+
+void ConnectHydraulicPage()
+{
+    frmResults.hscYears.Change = YearOfPlotChosen;
+    ConnectRedraw(frmResults.sscView, DrawHydraulicPlot);
+    ConnectRedraw(frmResults.sscChangeView, DrawHydraulicPlot);
+    ConnectTick(frmResults.chkComponents, HideComponents);
+    ConnectTick(frmResults.chkGradeline, HideGradeline);
+    ConnectFrame(frmResults.sscComponents, frmResults.sscHide, frmResults.fraComponents, nullptr);
+    ConnectFrame(frmResults.sscViewHydraulicTable, frmResults.sscHideHydraulicTable, frmResults.fraTable,
+                 FillTableOfYear);
+    ConnectFrame(frmResults.sscDutypoint, frmResults.sscHideDuty, frmResults.fraDuty, ShowDutyPoints);
+    frmResults.hscDuty.Change = YearOfDutyChosen;
+    ConnectSurface(frmResults.picHydraulic, "The graph was copied to the clipboard", ReadHydraulicPlot);
+}
+
+void ConnectSystemPage()
+{
+    frmResults.ssoDemandCapacity.Click = DrawDemandCapacity;
+    frmResults.ssoIncomeExpenditure.Click = DrawIncomeExpenditure;
+    ConnectFrame(frmResults.sscViewTable, frmResults.sscHideTable, frmResults.fraViewTable, FillTableOfYears);
+    ConnectSurface(frmResults.picSystem, "The graph was copied to the clipboard");
+}
+
+void ConnectRateBar(ScrollBar& Bar, Label& Reading)
+{
+    Bar.Change = [&Bar, &Reading] { Reading.Caption = PercentCaption(Bar.Value); };
+}
+
+void ShowIrrGraph()
+{
+    HiddenByGraph = frmLCC.Visible       ? Hidden::InputScreen
+                    : frmResults.Visible ? Hidden::ResultsScreen
+                                         : Hidden::None;
+    frmIRRView.LoadHidden();
+    frmIRRView.hsbBegin.Value = 0;
+    frmIRRView.hsbEnd.Value = 20000;
+    for (const auto& [Bar, Reading] : {std::pair{&frmIRRView.hsbBegin, &frmIRRView.lblBeginIRR},
+                                       std::pair{&frmIRRView.hsbEnd, &frmIRRView.lblEndIRR}})
+        Reading->Caption = PercentCaption(Bar->Value);
+    DrawIrrGraph();
+    frmLCC.Visible = false;
+    frmResults.Visible = false;
+    frmIRRView.Visible = true;
+}
+
+void CloseIrrGraph()
+{
+    frmIRRView.Unload();
+    if (HiddenByGraph == Hidden::InputScreen) frmLCC.Visible = true;
+    if (HiddenByGraph == Hidden::ResultsScreen) frmResults.Visible = true;
+    HiddenByGraph = Hidden::None;
+}
+
+void ConnectIrrView()
+{
+    ConnectRateBar(frmIRRView.hsbBegin, frmIRRView.lblBeginIRR);
+    ConnectRateBar(frmIRRView.hsbEnd, frmIRRView.lblEndIRR);
+    frmIRRView.sscView.Click = DrawIrrGraph;
+    frmIRRView.sscOK.Click = CloseIrrGraph;
+    frmIRRView.Close = CloseIrrGraph;
+    HelpOn(frmIRRView.sscHelp, 5000);
+    ConnectSurface(frmIRRView.picIRR, "The Internal Rate of Return graph was copied to the clipboard",
+                   ReadIrrGraph);
+}
+
+void ConnectDutyDialog()
+{
+    frmDutyPoint.Load = [] { DrawDutyCurves(frmDutyPoint.picDuty, frmDutyPoint.lblGridColor.BackColor); };
+    frmDutyPoint.sscOK.Click = [] { frmDutyPoint.Unload(); };
+}
+
+} // namespace
+
+void ConnectResults()
+{
+    frmResults.sscInput.Click = BackToInput;
+    ConnectHydraulicPage();
+    ConnectSystemPage();
+    frmResults.hsbAnnual.Change = ShowAnnualCost;
+    frmResults.sscIRR.Click = ShowIrrGraph;
+    ConnectIrrView();
+    ConnectDutyDialog();
+    for (Screen* Each : std::initializer_list<Screen*>{&frmResults, &frmIRRView}) ConnectPointer(*Each);
+}
+
+} // namespace velorix
