@@ -42,14 +42,26 @@ bool Moves(const QKeyEvent& Key)
            !(Key.modifiers() & (Qt::AltModifier | Qt::MetaModifier));
 }
 
+// Whether the clipboard holds more than the text of one cell.
+bool ClipboardHoldsCells()
+{
+    const std::string Text = System().ClipboardText();
+    return Text.find_first_of("\t\n") < Text.find_last_not_of("\r\n");
+}
+
 } // namespace
 
 bool GridView::eventFilter(QObject* Watched, QEvent* Event)
 {
     if (Watched == Editor || Watched == List) {
         if (Event->type() == QEvent::KeyPress) {
-            HeldKey = SpecialKey(*static_cast<QKeyEvent*>(Event));
+            auto& Key = *static_cast<QKeyEvent*>(Event);
+            HeldKey = SpecialKey(Key);
             BringUpCurrent();
+            if (Watched == Editor && Key.matches(QKeySequence::Paste) && ClipboardHoldsCells()) {
+                Guarded([this] { Record.Paste(); });
+                return true;
+            }
         }
         return EditorEvent(*static_cast<QWidget*>(Watched), *Event);
     }

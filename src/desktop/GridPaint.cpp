@@ -105,7 +105,11 @@ void Cells::paint(QPainter* Painter, const QStyleOptionViewItem& Option, const Q
     const int Col = Model.ColOf(Index);
     const QPalette& Palette = View.palette();
     const bool Heading = View.Table().IsHeadingRow(Row);
-    const bool Told = !IsPaletteColor(Cell->BackColor) && View.isEnabled();
+    const bool Current = Option.rect == View.visualRect(View.currentIndex());
+    // A merged cell is painted as its first one, but the current one of them tells the colour.
+    const GridCell* const Chosen = Current ? Model.CellOf(View.currentIndex()) : Cell;
+    const Color Back = (Chosen ? Chosen : Cell)->BackColor;
+    const bool Told = !IsPaletteColor(Back) && View.isEnabled();
     const bool Fixed = !Model.IsData(Index);
     const bool OnButton = Heading || Fixed;
 
@@ -116,11 +120,10 @@ void Cells::paint(QPainter* Painter, const QStyleOptionViewItem& Option, const Q
     const QString Text = Index.data().toString();
     const int Lines = Model.Span(Row, Col).height() > 1 ? Qt::TextWordWrap : 0;
     DrawCell(*Painter, Option.rect,
-             Told ? ToQColor(Cell->BackColor) : Palette.color(OnButton ? QPalette::Button : QPalette::Base),
+             Told ? ToQColor(Back) : Palette.color(OnButton ? QPalette::Button : QPalette::Base),
              Heading ? Centred : AlignmentOf(Text, View.EditorView()) | Lines, Text);
 
     const QRect Inside = Option.rect.adjusted(0, 0, -1, -1);
-    const bool Current = Option.rect == View.visualRect(View.currentIndex());
     if (View.isEnabled() && !Fixed && !Current && View.Table().Selected().Holds(Row, Col)) {
         constexpr int Veil = 70; // of 255
         QColor Tint = Palette.color(QPalette::Highlight);

@@ -5,6 +5,8 @@
 #include "platform/Keys.h"
 #include "screens/MainWindow.h"
 
+#include <algorithm>
+
 namespace velorix {
 namespace {
 
@@ -35,9 +37,11 @@ bool Passes(const KeyFilter& Filter, int Key)
 
 void TellOfInserted(const KeyFilter& Filter, const std::string& Text)
 {
-    // The bytes of a foreign character are no digits either.
-    for (const char Each : Trim(Text))
-        if (!Passes(Filter, static_cast<unsigned char>(Each))) return;
+    // The bytes of a foreign character are no digits either; a line end behind the text comes from a table.
+    const std::string_view Line =
+        Trimmed(std::string_view(Text).substr(0, Text.find_last_not_of("\r\n") + 1));
+    const auto Taken = [&Filter](char Each) { return Filter.Takes(static_cast<unsigned char>(Each)); };
+    if (!std::all_of(Line.begin(), Line.end(), Taken)) MDIProject.StatusText.Caption = Filter.Sentence;
 }
 
 void FilterKeys(TextBox& Box, const KeyFilter& Filter)

@@ -166,6 +166,7 @@ void ChangeCells(const CellEditing& Editing, std::vector<CellText> New)
 void PasteCells(const CellEditing& Editing)
 {
     if (Editing.Table.IsFixed(Editing.Table.Row(), Editing.Table.Col())) return;
+    Editing.Editor.Visible = false; // a block that was meant for the open editor goes into the cells
     const std::string Clipboard = System().ClipboardText();
     PasteResult Pasted = Read(Editing, Clipboard);
     if (Pasted.Problem.empty())

@@ -303,6 +303,14 @@ TEST_F(SessionTest, WhatCannotBeTypedIsTold)
     Press(Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(Told(), NumbersOnly);
 
+    // A block goes into the cells, not into the editor of one.
+    const int Row = frmLCC.msgProfile.Row();
+    const int Col = frmLCC.msgProfile.Col();
+    QApplication::clipboard()->setText("9\t8\n");
+    Press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_FALSE(frmLCC.txtCell.Visible);
+    EXPECT_EQ(frmLCC.msgProfile.Text(Row, Col) + "|" + frmLCC.msgProfile.Text(Row, Col + 1), "9|8");
+
     frmLCC.sstInput.Tab = 3;
     Saving.SetFocus(frmLCC.hscMPipeline);
     Type("1,5");
