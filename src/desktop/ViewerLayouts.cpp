@@ -79,11 +79,11 @@ QWidget* ScenarioLegend()
     return InRow(All);
 }
 
-QWidget* Rate(const char* Name, ScrollBar& Bar, Label& Reading)
+// The bar's own field shows its rate.
+QWidget* Rate(const char* Name, ScrollBar& Bar)
 {
     QWidget* const Shown = HundredthsView(Bar, " %");
     NameField(Shown, Name);
-    View(Reading)->hide(); // the bar's own field says the same
     return InRow({Text(Name), Shown});
 }
 
@@ -119,13 +119,12 @@ QWidget* PumpViewLayout()
 
 QWidget* IrrViewLayout()
 {
-    return Viewer(
-        frmIRRView, View(frmIRRView.picIRR),
-        {InRow({Rate("From", frmIRRView.hsbBegin, frmIRRView.lblBeginIRR),
-                Rate("To", frmIRRView.hsbEnd, frmIRRView.lblEndIRR), View(frmIRRView.sscView), nullptr}),
-         InRow({Readings({}, {{"Rate", &frmIRRView.lblX}, {"Income less cost", &frmIRRView.lblY}}),
-                View(frmIRRView.sscPrintView), View(frmIRRView.sscOK),
-                ToolView(frmIRRView.sscHelp, "help")})});
+    return Viewer(frmIRRView, View(frmIRRView.picIRR),
+                  {InRow({Rate("From", frmIRRView.hsbBegin), Rate("To", frmIRRView.hsbEnd),
+                          View(frmIRRView.sscView), nullptr}),
+                   InRow({Readings({}, {{"Rate", &frmIRRView.lblX}, {"Income less cost", &frmIRRView.lblY}}),
+                          View(frmIRRView.sscPrintView), View(frmIRRView.sscOK),
+                          ToolView(frmIRRView.sscHelp, "help")})});
 }
 
 } // namespace velorix
