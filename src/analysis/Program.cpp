@@ -5,7 +5,10 @@
 #include "cost/CostResults.h"
 #include "input/Session.h"
 #include "model/WorkingSet.h"
+#include "platform/Printer.h"
 #include "platform/Screen.h"
+#include "reports/PageFrame.h"
+#include "reports/ResultReports.h"
 #include "results/ChartFrame.h"
 #include "results/PlotState.h"
 #include "results/ScenarioLines.h"
@@ -23,6 +26,9 @@ void ResetProgram()
     ResetPlotState();
     ResetChartFrames();
     ResetScenarioLines();
+    ResetPrinter();
+    ResetPageFrame();
+    ResetPrintYear();
 }
 
 void StartSession()
