@@ -47,6 +47,8 @@ std::optional<std::filesystem::path> Ask(const FileDialog& Dialog, QFileDialog::
         QObject::connect(&Window, &QFileDialog::filterSelected, &Window, SetSuffix);
     }
 
+    if (!Dialog.Name.empty()) Window.selectFile(QString::fromStdString(Dialog.Name));
+
     if (auto* const Entries = Window.findChild<QTreeView*>()) { // the toolkit's own dialog cuts size and date
         constexpr int KindOfFile = 2;
         Entries->header()->setSectionResizeMode(QHeaderView::ResizeToContents);

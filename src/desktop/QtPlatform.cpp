@@ -248,14 +248,25 @@ void QtPlatform::ShowModal(Screen& Shown)
     if (Shown.Visible) Open.exec();
 }
 
-std::optional<PrintChoice> QtPlatform::AskPrinter(const PrintDialog&)
+std::optional<PrintChoice> QtPlatform::AskPrinter(const PrintDialog& Dialog)
 {
-    return std::nullopt;
+    const KeepArithmeticFlags Keep;
+    const PointerPause Pause(Pointer);
+    return Prints.Ask(Dialog, TopWindow());
 }
 
-void QtPlatform::PrintPage(const PrintedPage&) {}
+void QtPlatform::PrintPage(const PrintedPage& Page)
+{
+    const KeepArithmeticFlags Keep;
+    Prints.Take(Page);
+}
 
-void QtPlatform::EndPrintRun() {}
+void QtPlatform::EndPrintRun()
+{
+    const KeepArithmeticFlags Keep;
+    const PointerPause Pause(Pointer);
+    Prints.End(TopWindow());
+}
 
 void QtPlatform::SetFocus(Control& Target)
 {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/HelpWindow.h"
+#include "desktop/PrintJobs.h"
 #include "platform/Platform.h"
 
 #include <QPointer>
@@ -35,7 +36,7 @@ public:
     std::optional<std::filesystem::path> AskFileToOpen(const FileDialog& Dialog) override;
     std::optional<std::filesystem::path> AskFileToSave(const FileDialog& Dialog) override;
 
-    // No printing yet: always cancelled.
+    // A printer of the system, a PDF file or the preview, as the user chose it.
     std::optional<PrintChoice> AskPrinter(const PrintDialog& Dialog) override;
     void PrintPage(const PrintedPage& Page) override;
     void EndPrintRun() override;
@@ -60,6 +61,7 @@ private:
     std::unordered_map<Screen*, DialogMaker> Dialogs;
     QPointer<HelpWindow> Help; // while it is open
     PointerShape Pointer = PointerShape::Default;
+    PrintJobs Prints;
     bool Ended = false;
 };
 

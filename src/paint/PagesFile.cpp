@@ -17,12 +17,6 @@ namespace {
 
 constexpr int DotsPerInch = 1200;
 
-QPageLayout LayoutOf(const PrintedPage& Page)
-{
-    const bool Wide = Page.Print.Width > Page.Print.Height;
-    return {QPageSize(QPageSize::A4), Wide ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()};
-}
-
 QByteArray PaintedPages(const std::vector<PrintedPage>& Pages)
 {
     QByteArray Bytes;
@@ -31,12 +25,12 @@ QByteArray PaintedPages(const std::vector<PrintedPage>& Pages)
     QPdfWriter Writer(&Target);
     Writer.setResolution(DotsPerInch);
     Writer.setCreator("Velorix");
-    Writer.setPageLayout(LayoutOf(Pages.front()));
+    Writer.setPageLayout(PaperOf(Pages.front()));
     QPainter Painter;
     if (!Painter.begin(&Writer)) throw Failure("The pages can't be drawn.");
     for (std::size_t Index = 0; Index < Pages.size(); ++Index) {
         if (Index > 0) {
-            Writer.setPageLayout(LayoutOf(Pages[Index]));
+            Writer.setPageLayout(PaperOf(Pages[Index]));
             Writer.newPage();
         }
         Paint(Painter, Pages[Index], QRectF(0, 0, Writer.width(), Writer.height()));
@@ -102,6 +96,12 @@ void AddBookmarks(QPDF& Document, const std::vector<PrintedPage>& Pages)
 }
 
 } // namespace
+
+QPageLayout PaperOf(const PrintedPage& Page)
+{
+    const bool Wide = Page.Print.Width > Page.Print.Height;
+    return {QPageSize(QPageSize::A4), Wide ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()};
+}
 
 std::string ToPdfBytes(const std::vector<PrintedPage>& Pages, const DocumentFacts& Facts)
 {

@@ -1,13 +1,18 @@
 // Printed pages as one PDF file.
 #pragma once
 
-#include "paint/DocumentFacts.h"
+#include "platform/DocumentFacts.h"
 #include "platform/PrintedPage.h"
+
+#include <QPageLayout>
 
 #include <string>
 #include <vector>
 
 namespace velorix {
+
+// The paper that the page is meant for, upright or on its side, without margins.
+QPageLayout PaperOf(const PrintedPage& Page);
 
 // Vectors and selectable text in embedded fonts, portrait and landscape as the pages are, a bookmark where a
 // section begins. Throws Failure when there is no page, or the bytes can't be made.

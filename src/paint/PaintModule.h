@@ -1,7 +1,7 @@
 // What velorix-batch finds in the module velorix-paint, which it loads when there is something to draw.
 #pragma once
 
-#include "paint/DocumentFacts.h"
+#include "platform/DocumentFacts.h"
 #include "platform/PrintedPage.h"
 
 #include <string>

@@ -32,6 +32,7 @@ struct FileDialog {
     std::string Filter;
     int FilterIndex = 1; // from 1
     bool OverwritePrompt = false;
+    std::string Name = {}; // of the file that is suggested
 };
 
 struct PrintDialog {

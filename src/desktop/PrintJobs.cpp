@@ -1,0 +1,109 @@
+// All pages go through the one painter.
+#include "desktop/PrintJobs.h"
+
+#include "base/Failure.h"
+#include "base/NewFile.h"
+#include "desktop/PreviewWindow.h"
+#include "input/FileCommands.h"
+#include "input/Session.h"
+#include "paint/PagesFile.h"
+#include "paint/Painter.h"
+#include "reports/ReportFacts.h"
+
+#include <QPainter>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+#include <utility>
+
+namespace velorix {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Beside the project's file and under its name, as a first suggestion.
+std::optional<fs::path> AskPdfFile()
+{
+    const fs::path Project = FileName;
+    const bool Named = HasFile();
+    return System().AskFileToSave({.Title = "Print to PDF File",
+                                   .Folder = Named ? Project.parent_path() : ProjectsFolder(),
+                                   .Filter = "PDF files|*.pdf|All files|*.*",
+                                   .OverwritePrompt = true,
+                                   .Name = (Named ? Project.stem().string() : "Velorix") + ".pdf"});
+}
+
+void WritePdf(const fs::path& Target, const std::vector<PrintedPage>& Pages)
+{
+    const std::string Bytes = ToPdfBytes(Pages, FactsOfProject());
+    NewFile File(Target);
+    File.Append(Bytes);
+    File.Commit();
+}
+
+// Asks for the file behind the preview. A failure there is the user's to mend: the pages still stand.
+void SavePreviewed(const std::vector<PrintedPage>& Pages)
+{
+    const std::optional<fs::path> Target = AskPdfFile();
+    if (!Target) return;
+    try {
+        WritePdf(*Target, Pages);
+    } catch (const Failure& Problem) {
+        Warn("Could not write the PDF file !", "Velorix", Problem.what());
+    }
+}
+
+void SendTo(const QString& Name, const PrintedPage& Page)
+{
+    const QPrinterInfo Info = QPrinterInfo::printerInfo(Name);
+    const std::string Shown = Name.toStdString();
+    if (Info.isNull()) throw FileFailure("The printer \"" + Shown + "\" isn't there.");
+    QPrinter Device(Info, QPrinter::HighResolution);
+    Device.setDocName(QString::fromStdString("Velorix: " + Page.Section));
+    Device.setFullPage(true);
+    Device.setPageLayout(PaperOf(Page));
+    QPainter Painter;
+    if (!Painter.begin(&Device)) throw FileFailure("The printer \"" + Shown + "\" takes no document.");
+    Paint(Painter, Page, QRectF(0, 0, Device.width(), Device.height()));
+    if (!Painter.end() || Device.printerState() == QPrinter::Error)
+        throw FileFailure("The printer \"" + Shown + "\" didn't take a page.");
+}
+
+} // namespace
+
+std::optional<PrintChoice> PrintJobs::Ask(const PrintDialog& Dialog, QWidget* Owner)
+{
+    Gathered.clear();
+    const auto Why = Dialog.Setup ? PrinterQuestion::Setup : PrinterQuestion::Print;
+    const auto Chosen = AskForPrinter(Owner, Settings ? *Settings : FirstSettings(), Why);
+    if (!Chosen) return std::nullopt;
+    Settings = *Chosen;
+    Settings->Copies = 1;
+    if (!Dialog.Setup && Chosen->Target == PrintTarget::PdfFile) {
+        const std::optional<fs::path> Target = AskPdfFile();
+        if (!Target) return std::nullopt;
+        PdfFile = *Target;
+    }
+    return PrintChoice{.Copies = Chosen->Copies};
+}
+
+void PrintJobs::Take(const PrintedPage& Page)
+{
+    if (!Settings) throw FileFailure("No printer has been chosen.");
+    if (Settings->Target == PrintTarget::Printer)
+        SendTo(Settings->Printer, Page);
+    else
+        Gathered.push_back(Page);
+}
+
+void PrintJobs::End(QWidget* Owner)
+{
+    const std::vector<PrintedPage> Pages = std::exchange(Gathered, {});
+    if (Pages.empty()) return;
+    if (Settings->Target == PrintTarget::PdfFile)
+        WritePdf(PdfFile, Pages);
+    else
+        ShowPreview(Owner, Pages, [&Pages] { SavePreviewed(Pages); });
+}
+
+} // namespace velorix

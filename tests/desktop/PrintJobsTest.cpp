@@ -1,0 +1,212 @@
+// Print runs through the dialogs that a user would see, into files and the preview.
+#include "desktop/PrintJobs.h"
+
+#include "base/Failure.h"
+#include "desktop/QtPlatform.h"
+#include "model/WorkingSet.h"
+
+#include <QComboBox>
+#include <QDialog>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QProcess>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <gmock/gmock.h>
+
+namespace velorix {
+namespace {
+
+using testing::HasSubstr;
+
+class PrintJobsTest : public testing::Test {
+protected:
+    PrintJobsTest()
+    {
+        InstallPlatform(&Windows);
+        wProject = "Witklip";
+        wDesigner = "P. Engineer";
+    }
+    ~PrintJobsTest() override { InstallPlatform(nullptr); }
+
+    template <typename Action>
+    static void WithTopDialog(Action Do)
+    {
+        QTimer::singleShot(0, qApp, [Do] {
+            auto* const Top = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(Top);
+            Do(*Top);
+        });
+    }
+
+    static void Press(const QDialog& Dialog, const QString& Text)
+    {
+        for (QPushButton* Each : Dialog.findChildren<QPushButton*>())
+            if (Each->text().remove('&') == Text) return Each->click();
+        FAIL() << "no button " << Text.toStdString();
+    }
+
+    static void EnterFile(const std::filesystem::path& Path)
+    {
+        WithTopDialog([Path](QDialog& Dialog) {
+            Dialog.findChild<QLineEdit*>()->setText(QString::fromStdString(Path.string()));
+            QTest::keyClick(Dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+        });
+    }
+
+    // Answers the printer dialog, whatever printers the machine has.
+    static void Choose(const QString& Target, int Copies = 1)
+    {
+        WithTopDialog([=](QDialog& Dialog) {
+            auto* const Targets = Dialog.findChild<QComboBox*>();
+            Targets->setCurrentText(Target);
+            ASSERT_EQ(Targets->currentText(), Target);
+            Dialog.findChild<QSpinBox*>()->setValue(Copies);
+            Press(Dialog, "OK");
+        });
+    }
+
+    std::optional<PrintChoice> ChoosePdf(const std::filesystem::path& Path, int Copies = 1)
+    {
+        WithTopDialog([=](QDialog& Dialog) {
+            EnterFile(Path);
+            Dialog.findChild<QComboBox*>()->setCurrentText("PDF file");
+            Dialog.findChild<QSpinBox*>()->setValue(Copies);
+            Press(Dialog, "OK");
+        });
+        return Windows.AskPrinter({});
+    }
+
+    void PrintPages(int Count)
+    {
+        constexpr int Short = 11906; // A4 in twips
+        constexpr int Long = 16838;
+        for (int Page = 0; Page < Count; ++Page) {
+            PrintedPage Made;
+            const bool Wide = Page % 2 == 1;
+            Made.Print.Width = Wide ? Long : Short;
+            Made.Print.Height = Wide ? Short : Long;
+            Made.Print.Items.push_back(
+                TextItem{900, 900, 900, "Sheet " + std::to_string(Page + 1), {"Times New Roman", 12}, Black});
+            Made.Section = Wide ? "Graph" : "Table";
+            Windows.PrintPage(Made);
+        }
+    }
+
+    static std::string OutputOf(const QString& Program, const QStringList& Words)
+    {
+        QProcess Reader;
+        Reader.start(Program, Words);
+        EXPECT_TRUE(Reader.waitForFinished()) << Program.toStdString();
+        return Reader.readAllStandardOutput().toStdString();
+    }
+
+    int FilesLeft() const
+    {
+        const std::filesystem::directory_iterator All(Folder);
+        return static_cast<int>(std::distance(begin(All), end(All)));
+    }
+
+    QtPlatform Windows;
+    const QTemporaryDir Temporary;
+    const std::filesystem::path Folder = Temporary.path().toStdString();
+};
+
+TEST_F(PrintJobsTest, ARunBecomesOneFileWithThePagesAsTheyAre)
+{
+    const auto Choice = ChoosePdf(Folder / "report", 3);
+    ASSERT_TRUE(Choice);
+    EXPECT_EQ(Choice->Copies, 3); // the run repeats itself
+    PrintPages(3);
+    EXPECT_EQ(FilesLeft(), 0);
+    Windows.EndPrintRun();
+
+    const QString File = QString::fromStdString((Folder / "report.pdf").string());
+    const std::string Facts = OutputOf("pdfinfo", {"-l", "3", File});
+    for (const char* Each :
+         {"Title:           Witklip\n", "Author:          P. Engineer\n", "Pages:           3\n",
+          "Page    1 size:  595 x 842", "Page    2 size:  842 x 595", "Page    3 size:  595 x 842"})
+        EXPECT_THAT(Facts, HasSubstr(Each));
+    EXPECT_THAT(OutputOf("pdftotext", {File, "-"}), HasSubstr("Sheet 3"));
+    Windows.EndPrintRun(); // of nothing
+    EXPECT_EQ(FilesLeft(), 1);
+}
+
+TEST_F(PrintJobsTest, WhatCannotBeWrittenOrHasNoPageLeavesNoFile)
+{
+    ASSERT_TRUE(ChoosePdf(Folder / "empty"));
+    Windows.EndPrintRun();
+    EXPECT_EQ(FilesLeft(), 0);
+
+    std::filesystem::create_directories(Folder / "gone");
+    ASSERT_TRUE(ChoosePdf(Folder / "gone" / "report"));
+    std::filesystem::remove(Folder / "gone");
+    PrintPages(1);
+    EXPECT_THROW(Windows.EndPrintRun(), FileFailure);
+    EXPECT_EQ(FilesLeft(), 0);
+}
+
+TEST_F(PrintJobsTest, CancelInEitherDialogGivesNothing)
+{
+    WithTopDialog([](QDialog& Dialog) { Press(Dialog, "Cancel"); });
+    EXPECT_FALSE(Windows.AskPrinter({}));
+    WithTopDialog([](QDialog& Dialog) {
+        WithTopDialog([](QDialog& File) { File.reject(); });
+        Dialog.findChild<QComboBox*>()->setCurrentText("PDF file");
+        Press(Dialog, "OK");
+    });
+    EXPECT_FALSE(Windows.AskPrinter({}));
+}
+
+TEST_F(PrintJobsTest, TheSetupPresetsTheNextPrintAndAsksForNoFile)
+{
+    Choose("PDF file");
+    EXPECT_TRUE(Windows.AskPrinter({.Setup = true}));
+    Choose("Preview", 2);
+    EXPECT_TRUE(Windows.AskPrinter({}));
+    WithTopDialog([](QDialog& Dialog) {
+        EXPECT_EQ(Dialog.findChild<QComboBox*>()->currentText(), "Preview");
+        EXPECT_EQ(Dialog.findChild<QSpinBox*>()->value(), 1);
+        Dialog.reject();
+    });
+    EXPECT_FALSE(Windows.AskPrinter({}));
+}
+
+TEST_F(PrintJobsTest, ThePreviewGoesThroughThePagesByKeysAndSavesThem)
+{
+    Choose("Preview");
+    ASSERT_TRUE(Windows.AskPrinter({}));
+    PrintPages(5);
+    bool Shown = false;
+    WithTopDialog([&](QDialog& Preview) {
+        Shown = true;
+        auto* const Number = Preview.findChild<QSpinBox*>();
+        const auto Key = [&](Qt::Key Pressed, Qt::KeyboardModifiers With = Qt::NoModifier) {
+            QTest::keyClick(Preview.focusWidget(), Pressed, With);
+            return Number->value();
+        };
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&Preview));
+        EXPECT_EQ(Key(Qt::Key_PageDown, Qt::ControlModifier), 2);
+        EXPECT_EQ(Key(Qt::Key_End), 5);
+        EXPECT_EQ(Key(Qt::Key_0, Qt::ControlModifier), 5); // the whole page
+        EXPECT_EQ(Key(Qt::Key_PageUp), 4);
+        EXPECT_EQ(Key(Qt::Key_PageDown), 5);
+        EXPECT_EQ(Key(Qt::Key_Home), 1);
+        EXPECT_EQ(Key(Qt::Key_Plus, Qt::ControlModifier), 1);
+        Number->setValue(3);
+        EXPECT_FALSE(Preview.grab().isNull());
+        EnterFile(Folder / "seen.pdf");
+        Press(Preview, "Save as PDF...");
+        Key(Qt::Key_Escape);
+    });
+    Windows.EndPrintRun();
+    EXPECT_TRUE(Shown);
+    EXPECT_TRUE(std::filesystem::exists(Folder / "seen.pdf"));
+}
+
+} // namespace
+} // namespace velorix
