@@ -13,6 +13,9 @@ void PrintPageFoot();
 void PrintGraphPageHead();
 void PrintGraphPageFoot();
 
+// The foot at a fixed place (mm). A page that holds more than it has room for is set smaller, to end there.
+void PrintPageFootAt(double Y);
+
 // The level line below the head, which tables have above and below their headings too.
 void PrintRule();
 
