@@ -71,7 +71,7 @@ void PagePrinter::Print(std::span<const PrintItem> Items)
 void PagePrinter::PrintCells(const Cells& Row)
 {
     const Font Face = InForce();
-    const double Gap = AverageCharacterWidth(Face) / 2;
+    const double Gap = 0.9 * AverageCharacterWidth(Face);
     for (std::size_t Index = 0; Index < Row.size(); ++Index) {
         Move(Tab{Row[Index].Column}, Face);
         const bool Last = Index + 1 == Row.size();

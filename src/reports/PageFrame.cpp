@@ -13,7 +13,6 @@
 #include "screens/Pictures.h"
 
 #include <span>
-#include <utility>
 
 namespace velorix {
 
@@ -74,13 +73,16 @@ void PrintLogoAndProject(double Size)
     Printer.FontUnderline = false;
 }
 
-// What is left of a long name stands on one line; so much that it couldn't be read there, on lines in small
-// type that begin at the same place.
-void PrintRest(int Column, const std::string& Rest, int MostCharacters)
+// What is left of a long name stands on one line; what couldn't be read there well, in small type on lines
+// that begin at the same place.
+void PrintRest(int Column, const std::string& Rest)
 {
-    constexpr double SmallType = 7;
-    if (CharacterCount(Rest) <= 2 * MostCharacters) return Printer.Print({Tab{7}, Tab{Column}, Rest});
-    const double Size = std::exchange(Printer.FontSize, SmallType);
+    constexpr double SmallType = 9;
+    const double Size = Printer.FontSize;
+    const Cells Line = {{Column, Rest}};
+    if (Printer.SizeThatFits(Size, {&Line, 1}) >= SmallType)
+        return Printer.Print({Tab{7}, Tab{Column}, Rest});
+    Printer.FontSize = SmallType;
     Printer.PrintWrapped(Tab{1 + RoundToInt32((Column - 1) * Size / SmallType)}, Rest);
     Printer.FontSize = Size;
 }
@@ -90,7 +92,7 @@ bool PrintSplit(const char* Caption, int Column, const std::string& Text, int Mo
 {
     const auto [First, Rest] = SplitAfter(Text, MostCharacters);
     Printer.Print({Tab{7}, Caption, Tab{Column}, std::string(First)});
-    if (!Rest.empty()) PrintRest(Column, std::string(Rest), MostCharacters);
+    if (!Rest.empty()) PrintRest(Column, std::string(Rest));
     return !Rest.empty();
 }
 
@@ -157,9 +159,14 @@ void PrintPageFoot()
     PrintFoot(UprightDisclaimer, UprightRule);
 }
 
-void PrintPageFootAt(double Y)
+void FitBodyAbove(double Y)
 {
     Printer.FitBetween(BodyTop, Y);
+}
+
+void PrintPageFootAt(double Y)
+{
+    FitBodyAbove(Y);
     Printer.SetCurrentY(Y);
     PrintPageFoot();
 }

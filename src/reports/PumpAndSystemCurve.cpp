@@ -25,6 +25,7 @@ void PrintCurves()
     BeginTitledPage("RESULTS: PUMP & SYSTEM CURVE");
     Printer.FontSize = 11;
     Printer.PrintCells({{8, frmResults.lblDutyYear.Caption}});
+    FitBodyAbove(100);
     Printer.PaintPicture(frmResults.picDuty.Image(), 16, 100, 170, 90);
     Printer.FontSize = 9;
     Printer.SetCurrentY(200);
