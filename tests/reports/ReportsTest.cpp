@@ -114,7 +114,9 @@ protected:
     // On each page the lines that begin with a number.
     std::vector<int> RowsOnPages() const
     {
-        const auto IsRow = [](const PageLine& Line) { return std::isdigit(Line[0].Text[0]) != 0; };
+        const auto IsRow = [](const PageLine& Line) {
+            return Line[0].Text[0] >= '0' && Line[0].Text[0] <= '9';
+        };
         std::vector<int> Counts;
         for (std::size_t Page = 0; Page < Windows.Pages.size(); ++Page) {
             const std::vector<PageLine> All = Body(Page);
@@ -220,6 +222,11 @@ TEST_F(ReportsTest, PumpingProjectStandsAtItsColumns)
          "|*[7]RESULTS: DUTY POINTS|*[7]Year[15]Flow rate[30]Pumping head[45]Pump efficiency|"
          "*[15]m³/s[30]m[45]%|[7]2003[15]"},
     });
+    frmLCC.optFlowrate.Value = true;
+    frmLCC.txtPumpOperatingFlowrate.Text = " 136 ";
+    Expect({{PrintGeneralData, 0,
+             "|[7]Preferred option:[30]Specified operating Flow rate|[9]Operating flow rate:[30]136 m³/h|"
+             "[9]Pump efficiency:[30]70 %|"}});
     Print(PrintDuty);
     EXPECT_EQ(Windows.Pages.at(0).Drawings.at(0).Drawn, frmResults.picDuty.Image());
     Print(PrintIncomeAndExpenditure);
