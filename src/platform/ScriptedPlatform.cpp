@@ -61,8 +61,9 @@ void ScriptedPlatform::PrintPage(const PrintedPage& Page)
     Pages.push_back(Page);
 }
 
-std::optional<PrintChoice> ScriptedPlatform::AskPrinter(const PrintDialog&)
+std::optional<PrintChoice> ScriptedPlatform::AskPrinter(const PrintDialog& Dialog)
 {
+    PrintDialogs.push_back(Dialog);
     return Next(Prints, std::optional<PrintChoice>());
 }
 

@@ -24,6 +24,7 @@ public:
     // What was shown, oldest first.
     std::vector<Message> Messages;
     std::vector<FileDialog> FileDialogs;
+    std::vector<PrintDialog> PrintDialogs;
     std::vector<std::string> ModalScreens;
     std::vector<int> HelpTopics;
     std::vector<PrintedPage> Pages;

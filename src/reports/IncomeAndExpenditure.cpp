@@ -7,6 +7,8 @@
 #include "reports/ResultReports.h"
 #include "results/SupplyPlots.h"
 
+#include <algorithm>
+
 namespace velorix {
 namespace {
 
@@ -36,14 +38,14 @@ void BeginIncomePage(double Size, const std::vector<Cells>& Rows)
     PrintTitle(27, "SYSTEM ANALYSIS (INCOME & EXPENDITURE)");
     Printer.FontSize = 6;
     Printer.Print();
-    UseType("Courier New", Size);
-    Printer.FontSize = Printer.SizeThatFits(Size, Rows);
     Cells Heading[] = {RowAt(Columns, {"Year", "Income", "Total", "Capital", "Maintenance", "Operational"}),
                        {{28, "expenditure"}, {44, "cost"}, {60, "cost"}, {76, "cost"}}};
     if (IsPumping()) {
         Heading[0].push_back({92, "Energy"});
         Heading[1].push_back({92, "cost"});
     }
+    UseType("Courier New", Size);
+    Printer.FontSize = std::min(Printer.SizeThatFits(Size, Heading), Printer.SizeThatFits(Size, Rows));
     PrintTableHeading(Heading);
 }
 

@@ -77,7 +77,7 @@ void PrintLogoAndProject(double Size)
 // that begin at the same place.
 void PrintRest(int Column, const std::string& Rest)
 {
-    constexpr double SmallType = 9;
+    constexpr double SmallType = 8;
     const double Size = Printer.FontSize;
     const Cells Line = {{Column, Rest}};
     if (Printer.SizeThatFits(Size, {&Line, 1}) >= SmallType)

@@ -26,8 +26,6 @@ namespace {
 constexpr int LeftMargin = 800;
 constexpr int RightMargin = 600;
 constexpr int YTitleLeft = 11;
-constexpr Color GroundGreen = Rgb(0, 64, 0);
-constexpr Color GradelineBlue = Rgb(0, 0, 255);
 
 // What differs between the three places.
 struct PlotPlace {
@@ -36,6 +34,7 @@ struct PlotPlace {
     ComboBox& End;
     Label& FlowCaption;
     Label& HeadCaption;
+    std::int16_t& YearDrawn;
     int YTitleTop;
     std::string LengthUnit; // as the x title shows it
     void (*StoreFrame)(const ChartFrame&);
@@ -97,7 +96,7 @@ void DrawSymbols(Chart& Plot, NodeRange Nodes)
 
 void DrawGround(Chart& Plot, NodeRange Nodes)
 {
-    TakePen(Plot.Surface, GroundGreen);
+    TakePen(Plot.Surface, GroundInk);
     DrawCurve(
         Plot.Surface, Nodes.First, Nodes.Last, [&](int i) { return Plot.Frame.X(Chainage[i]); },
         [&](int i) { return Plot.Frame.Y(GroundLevel[i]); });
@@ -119,7 +118,7 @@ void DrawTitles(Chart& Plot, const PlotPlace& Place)
 void DrawGradeline(Chart& Plot, NodeRange Nodes)
 {
     if (HideGradeline != 0) return;
-    TakePen(Plot.Surface, GradelineBlue);
+    TakePen(Plot.Surface, GradelineInk);
     DrawCurve(
         Plot.Surface, Nodes.First, Nodes.Last, [&](int i) { return Plot.Frame.X(Chainage[i]); },
         [&](int i) { return Plot.Frame.Y(Gradeline(GradelinePoint(i), PlotYear)); });
@@ -163,6 +162,7 @@ void DrawOn(const PlotPlace& Place, bool Symbols, bool StopsWhenFailed, LastLaye
     const std::optional<NodeRange> Nodes = ChosenRange(Place);
     if (!Nodes) return;
     Chart Plot{Place.Surface, {}, {}, {}};
+    Place.YearDrawn = PlotYear;
     DrawProfile(Plot, Place, *Nodes, Symbols);
     if (StopsWhenFailed && HydraulicsFailed == 1) {
         HydraulicsFailed = 0;
@@ -200,7 +200,7 @@ bool ViewerIsReady(ProfileViewer& Viewer)
 }
 
 template <typename LastLayer>
-void DrawInViewer(ProfileViewer& Viewer, Label& FlowCaption, LastLayer Overlay)
+void DrawInViewer(ProfileViewer& Viewer, Label& FlowCaption, std::int16_t& YearDrawn, LastLayer Overlay)
 {
     Guarded([&] {
         TakeProfileForPlot();
@@ -210,6 +210,7 @@ void DrawInViewer(ProfileViewer& Viewer, Label& FlowCaption, LastLayer Overlay)
                               Viewer.comEnd,
                               FlowCaption,
                               Viewer.lblPumping,
+                              YearDrawn,
                               2300,
                               "(" + LengthUnit() + ")",
                               [](const ChartFrame& Frame) { ProfileFrame = Frame; }};
@@ -255,6 +256,7 @@ void DrawHydraulicPlot()
                               frmResults.comEnd,
                               frmResults.lblMaxFlow,
                               frmResults.lblPumping,
+                              HydraulicYearDrawn,
                               1800,
                               "( " + LengthUnit() + " )",
                               [](const ChartFrame& Frame) {
@@ -267,12 +269,12 @@ void DrawHydraulicPlot()
 
 void DrawProfilePlot()
 {
-    DrawInViewer(frmView, frmView.lblFlowrate, NoOverlay);
+    DrawInViewer(frmView, frmView.lblFlowrate, ProfileYearDrawn, NoOverlay);
 }
 
 void DrawRoughnessProfilePlot()
 {
-    DrawInViewer(frmViewRoughness, frmViewRoughness.lblMaxFlow, DrawScenarios);
+    DrawInViewer(frmViewRoughness, frmViewRoughness.lblMaxFlow, RoughnessYearDrawn, DrawScenarios);
 }
 
 } // namespace velorix

@@ -19,6 +19,7 @@
 #include "shell/MainCommands.h"
 #include "shell/Notices.h"
 #include "shell/Preferences.h"
+#include "shell/PrintEvents.h"
 #include "shell/ResultsEvents.h"
 #include "shell/ViewerEvents.h"
 
@@ -54,6 +55,7 @@ Handler ShowRoughness;
 void ConnectScreens()
 {
     ConnectHints();
+    ConnectPrinting();
     ConnectMainWindow();
     ConnectInputScreen();
     ConnectGridEditors();
