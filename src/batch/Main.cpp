@@ -1,5 +1,5 @@
-// velorix-batch: analyses, checks and draws project files, and turns them into JSON and back, without a
-// screen.
+// velorix-batch: analyses, checks, draws and prints project files, and turns them into JSON and back, without
+// a screen.
 #include "base/Failure.h"
 #include "base/Version.h"
 #include "batch/AnalyseCommand.h"
@@ -8,6 +8,8 @@
 #include "batch/OutputFile.h"
 #include "batch/PlotCommand.h"
 #include "batch/ProjectCommands.h"
+#include "batch/ReportCommand.h"
+#include "batch/ReportSections.h"
 #include "batch/Tell.h"
 
 #include <CLI/CLI.hpp>
@@ -30,6 +32,9 @@ struct Arguments {
     std::string Plot;
     PlotView View;
     std::string Format;
+    std::string Pdf;
+    std::vector<std::string> Sections;
+    std::optional<int> Year;
     bool Force = false;
     int Jobs = 0; // 0 for as many as there are cores
     double Seconds = 60;
@@ -94,6 +99,38 @@ CLI::App* AddPlot(CLI::App& Program, Arguments& Given)
     return Command;
 }
 
+CLI::App* AddReport(CLI::App& Program, Arguments& Given)
+{
+    CLI::App* Command =
+        AddCommand(Program, Given, "report", "Print projects into PDF files as the desktop program does",
+                   "Project files");
+    Command
+        ->add_option("--pdf", Given.Pdf,
+                     "File to write, - for standard output; the folder of STEM.pdf for several files")
+        ->type_name("OUT")
+        ->required();
+    Command
+        ->add_option("--sections", Given.Sections,
+                     "What to print, with commas between (default: all that apply but the last three)")
+        ->type_name("NAME,...")
+        ->delimiter(',')
+        ->allow_extra_args(false)
+        ->check(CLI::IsMember(ReportSectionNames()));
+    Command
+        ->add_option("--year", Given.Year, "Year of the design life, from 1, of what shows one (default: 1)")
+        ->type_name("N");
+    return Command;
+}
+
+ReportOptions ReportOptionsOf(const Arguments& Given)
+{
+    return {.Files = OpenInputs(Given.Files),
+            .Pdf = Given.Pdf,
+            .Sections = Given.Sections,
+            .Year = Given.Year,
+            .Limits = LimitsOf(Given)};
+}
+
 PlotOptions PlotOptionsOf(const Arguments& Given)
 {
     return {.Project = OpenInputs({Given.Project}).front(),
@@ -151,9 +188,9 @@ Ending Run(int ArgumentCount, char** Words)
     Program.require_subcommand(1);
     Program.footer(
         "Exit status: 0 all is well; 2 an analysis ended with a message and did not stand, a plot\n"
-        "could not be drawn, or a project would not be saved; 1 wrong usage, a file that can't be\n"
-        "read or written, a time limit or a crash; 130 interrupted. The worst of them counts,\n"
-        "1 above 2.");
+        "or a section of a report could not be made, or a project would not be saved; 1 wrong\n"
+        "usage, a file that can't be read or written, a time limit or a crash; 130 interrupted.\n"
+        "The worst of them counts, 1 above 2.");
 
     Arguments Given;
     CLI::App* Analyse = AddCommand(Program, Given, "analyse",
@@ -167,6 +204,7 @@ Ending Run(int ArgumentCount, char** Words)
         ->type_name("DIR");
 
     CLI::App* PlotCommand = AddPlot(Program, Given);
+    CLI::App* ReportCommand = AddReport(Program, Given);
 
     CLI::App* Check =
         AddCommand(Program, Given, "check",
@@ -195,6 +233,7 @@ Ending Run(int ArgumentCount, char** Words)
     }
     if (*Analyse) return AnalyseFiles(AnalyseOptionsOf(Given));
     if (*PlotCommand) return PlotProject(PlotOptionsOf(Given));
+    if (*ReportCommand) return ReportFiles(ReportOptionsOf(Given));
     if (*Check) return CheckFiles(OpenInputs(Given.Files), LimitsOf(Given));
     return *ExportCommand ? Export(Given) : Import(Given);
 }

@@ -18,8 +18,9 @@ fs::path FindModule()
     const fs::path Library = (Program / VELORIX_LIBRARY_FOLDER).lexically_normal();
     for (const fs::path& Folder : {Program, Library})
         if (fs::exists(Folder / PaintModuleName, Unknown)) return Folder / PaintModuleName;
-    throw Failure(std::string("pictures are painted by ") + PaintModuleName + ", which is neither in \"" +
-                  Program.string() + "\" nor in \"" + Library.string() + "\"; json can do without");
+    throw Failure(std::string("pictures and pages are painted by ") + PaintModuleName +
+                  ", which is neither in \"" + Program.string() + "\" nor in \"" + Library.string() +
+                  "\"; plots as json can do without");
 }
 
 } // namespace

@@ -1,9 +1,7 @@
 // A worker draws and makes the bytes; the parent writes them.
 #include "batch/PlotCommand.h"
 
-#include "analysis/AnalyseProject.h"
 #include "analysis/Program.h"
-#include "base/Arithmetic.h"
 #include "base/Failure.h"
 #include "batch/DisplayListJson.h"
 #include "batch/DrawingPlatform.h"
@@ -11,7 +9,6 @@
 #include "batch/OutputFile.h"
 #include "batch/PaintLoader.h"
 #include "batch/PinnedFields.h"
-#include "input/Session.h"
 
 #include <algorithm>
 #include <cctype>
@@ -65,23 +62,6 @@ PlotBasis BasisOf(const std::vector<const Plot*>& Wanted)
     for (const Plot* Each : Wanted)
         if (Each->Applies()) Basis = std::max(Basis, Each->Basis);
     return Basis;
-}
-
-// Works it out for the open project. False when it doesn't stand, which the user has been told.
-bool WorkOut(PlotBasis Basis)
-{
-    if (Basis == PlotBasis::Inputs) return true;
-    if (Basis >= PlotBasis::Results) {
-        AnalyseProject(Basis == PlotBasis::ResultsWithTables ? Tables::Filled : Tables::LeftOut);
-        return Analysed == 1;
-    }
-    ClearArithmeticFlags();
-    try {
-        return SolveForProfile(Tables::LeftOut);
-    } catch (const Failure& Problem) {
-        Warn(Problem.what());
-        return false;
-    }
 }
 
 // Of all plots those that apply to the open project.

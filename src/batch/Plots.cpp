@@ -1,10 +1,12 @@
 // The desktop's own plots, each for one view of it.
 #include "batch/Plots.h"
 
+#include "analysis/AnalyseProject.h"
 #include "base/Arithmetic.h"
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "hydraulics/HydraulicResults.h"
+#include "input/Session.h"
 #include "model/WorkingSet.h"
 #include "results/CurvePlots.h"
 #include "results/IrrPlot.h"
@@ -24,13 +26,6 @@ void RequireWithin(const std::string& What, double Given, double Least, double M
     if (Given >= Least && Given <= Most) return; // a NaN is nowhere
     throw Failure(What + " " + GeneralText(Given) + " is outside " + GeneralText(Least) + " to " +
                   GeneralText(Most) + Unit);
-}
-
-int YearOf(const PlotView& View)
-{
-    const int Year = View.Year.value_or(1);
-    RequireWithin("the year", Year, 1, wLife, " of the design life");
-    return Year;
 }
 
 // The node that stands nearest to the chainage, of two the lower.
@@ -74,7 +69,8 @@ void DrawPump(const PlotView&)
 void DrawDuty(const PlotView& View)
 {
     AnalysisYear = static_cast<std::int16_t>(YearOf(View));
-    DrawDutyCurves(frmResults.picDuty, frmResults.lblGridColor.BackColor);
+    FillDutyTable(); // as whatever opens the plot does
+    DrawDutyYear();
 }
 
 void DrawDemand(const PlotView&)
@@ -136,6 +132,29 @@ const Plot Plots[] = {
 std::span<const Plot> AllPlots()
 {
     return Plots;
+}
+
+int YearOf(const PlotView& View)
+{
+    const int Year = View.Year.value_or(1);
+    RequireWithin("the year", Year, 1, wLife, " of the design life");
+    return Year;
+}
+
+bool WorkOut(PlotBasis Basis)
+{
+    if (Basis == PlotBasis::Inputs) return true;
+    if (Basis >= PlotBasis::Results) {
+        AnalyseProject(Basis == PlotBasis::ResultsWithTables ? Tables::Filled : Tables::LeftOut);
+        return Analysed == 1;
+    }
+    ClearArithmeticFlags();
+    try {
+        return SolveForProfile(Tables::LeftOut);
+    } catch (const Failure& Problem) {
+        Warn(Problem.what());
+        return false;
+    }
 }
 
 const DisplayList& DrawPlot(const Plot& Wanted, const PlotView& View, const ScriptedPlatform& Windows)

@@ -37,6 +37,12 @@ struct Plot {
 // In the order in which the desktop has them.
 std::span<const Plot> AllPlots();
 
+// The year of a view. Throws Failure for one that the open project's design life doesn't have.
+int YearOf(const PlotView& View);
+
+// Works the basis out for the open project. False when it doesn't stand, which the user has been told.
+bool WorkOut(PlotBasis Basis);
+
 // Draws the plot for the open project, whose basis has been worked out, before the window system in use.
 // Throws Failure with the reason when there is no picture: the plot doesn't apply, has no such view, or has
 // told the user why it can't be drawn.

@@ -2,6 +2,7 @@
 #include "batch/ProjectCommands.h"
 
 #include "base/Failure.h"
+#include "batch/Clock.h"
 #include "batch/FileJobs.h"
 #include "batch/OutputFile.h"
 #include "batch/ProjectJson.h"
@@ -9,22 +10,12 @@
 #include "platform/ScriptedPlatform.h"
 
 #include <algorithm>
-#include <ctime>
 
 namespace velorix {
 namespace {
 
 // More than any description of a project can need.
 constexpr std::size_t LargestJson = 16U << 20U;
-
-// The date by the machine's clock, in local time.
-Date TodayByTheClock()
-{
-    const std::time_t Now = std::time(nullptr);
-    std::tm Parts{};
-    ::localtime_r(&Now, &Parts);
-    return {Parts.tm_year + 1900, Parts.tm_mon + 1, Parts.tm_mday};
-}
 
 std::string ExportOne(const InputFile& Project)
 {

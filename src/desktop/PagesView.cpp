@@ -63,9 +63,9 @@ double PagesView::FittingScale() const
         Width = std::max<double>(Width, Each.Print.Width);
         Height = std::max<double>(Height, Each.Print.Height);
     }
-    const double TwipsPerPixel = TwipsPerInch / logicalDpiX();
-    const double ByWidth = (viewport()->width() - 2 * Around) * TwipsPerPixel / Width;
-    const double ByHeight = (viewport()->height() - 2 * Around) * TwipsPerPixel / Height;
+    const double PerPixel = TwipsPerInch / logicalDpiX();
+    const double ByWidth = (viewport()->width() - 2 * Around) * PerPixel / Width;
+    const double ByHeight = (viewport()->height() - 2 * Around) * PerPixel / Height;
     return Follows == PageFit::Width ? ByWidth : std::min(ByWidth, ByHeight);
 }
 

@@ -261,6 +261,12 @@ void DrawDutyCurves(DrawingSurface& Surface, Color GridInk)
     }
 }
 
+void DrawDutyYear()
+{
+    frmResults.lblDutyYear.Caption = "Year " + std::to_string(wSupplyStart + AnalysisYear - 1);
+    DrawDutyCurves(frmResults.picDuty, frmResults.lblGridColor.BackColor);
+}
+
 void FillDutyTable()
 {
     Grid& Table = frmResults.msgDuty;

@@ -17,6 +17,9 @@ void DrawPumpCurve();
 // point; GridInk is the grid's colour on that screen. A fault stops the drawing where it is.
 void DrawDutyCurves(DrawingSurface& Surface, Color GridInk);
 
+// The same on the results screen, under the caption of the year.
+void DrawDutyYear();
+
 // The unit of the pump curve's flows beside the plots.
 std::string PumpFlowUnit();
 

@@ -67,16 +67,10 @@ void FillTableOfYears()
     frmResults.ssoDemandCapacity.Value ? FillDemandTable() : FillIncomeTable();
 }
 
-void DrawDutyOfYear()
-{
-    frmResults.lblDutyYear.Caption = "Year " + std::to_string(wSupplyStart + AnalysisYear - 1);
-    DrawDutyCurves(frmResults.picDuty, frmResults.lblGridColor.BackColor);
-}
-
 void YearOfDutyChosen()
 {
     AnalysisYear = static_cast<std::int16_t>(frmResults.hscDuty.Value.Get());
-    DrawDutyOfYear();
+    DrawDutyYear();
 }
 
 void ShowDutyPoints()
@@ -86,7 +80,7 @@ void ShowDutyPoints()
     frmResults.hscDuty.Min = 1;
     frmResults.hscDuty.Max = wLife;
     frmResults.hscDuty.Value.Restore(1); // drawn below, moved or not
-    DrawDutyOfYear();
+    DrawDutyYear();
 }
 
 void BackToInput()
