@@ -122,13 +122,18 @@ QWidget* Pasting()
 QWidget* Reviewing()
 {
     constexpr int AdviceLines = 3;
+    constexpr int SignWidth = 32;
     QGroupBox* const Box = Step(frmImport.fraStep3, ReviewWidth);
     FormRows Rows(Box);
     Rows.AddWide(Wrapped(frmImport.lblReview));
     Rows.AddWide(View(frmImport.msgFImport), 1);
     QLabel* const Advice = KeepsRoom(Wrapped(frmImport.lblAdvice));
     Advice->setMinimumHeight(AdviceLines * Advice->fontMetrics().lineSpacing());
-    Rows.AddWide(Advice);
+    auto* const Sign = new PictureView("message-exclamation", SignWidth, QString());
+    WhenShown(Advice, [Sign](bool Shown) { Sign->setVisible(Shown); });
+    QWidget* const Line = InRow({Sign, Advice});
+    static_cast<QBoxLayout*>(Line->layout())->setStretchFactor(Advice, 1);
+    Rows.AddWide(Line);
     return Box;
 }
 
@@ -139,13 +144,13 @@ QDialog* ImportDialog(QWidget* Owner)
     auto* const Dialog = new WizardWindow(Owner);
     Dialog->setWindowTitle(QString::fromStdString(frmImport.Caption));
     QPushButton* const Next = View(frmImport.sscNext);
-    Next->setDefault(true);
     auto* const Layout = new QVBoxLayout(Dialog);
     Layout->setSizeConstraint(QLayout::SetFixedSize);
     for (QWidget* Each : {Instructions(), Pasting(), Reviewing(),
                           InRow({nullptr, View(frmImport.sscPrevious), Next, View(frmImport.sscCancel),
                                  View(frmImport.sscHelp)})})
         Layout->addWidget(Each);
+    Next->setDefault(true); // in its window: it stays the default one while a table has the focus
     Next->setFocus();
     return Dialog;
 }

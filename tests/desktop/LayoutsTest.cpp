@@ -325,10 +325,7 @@ TEST_F(LayoutsTest, DialogsAreCompleteAndFit)
 TEST_F(LayoutsTest, EveryStepOfTheImportFits)
 {
     frmImport.LoadHidden();
-    const auto& All = AllDialogs();
-    const auto Wizard = std::find_if(All.begin(), All.end(),
-                                     [](const DialogLayout& Each) { return Each.Shown == &frmImport; });
-    const std::unique_ptr<QDialog> Dialog(Wizard->Make(Main.get()));
+    const std::unique_ptr<QDialog> Dialog(ImportDialog(Main.get()));
     Dialog->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(Dialog.get()));
     QApplication::clipboard()->setText("12,5\t0\t600\t6\t90\t0\n");
