@@ -51,7 +51,7 @@ QLabel* KeepsRoom(QLabel* Words)
     return Words;
 }
 
-// Stays where it was on the screen, and whole, when a step has another width.
+// Widens to both sides, within the screen, when a step has another width.
 class WizardWindow : public QDialog {
 public:
     using QDialog::QDialog;
@@ -62,10 +62,11 @@ protected:
         QDialog::resizeEvent(Resize);
         if (!isVisible() || !Resize->oldSize().isValid()) return;
         const QRect Room = screen()->availableGeometry();
-        const QSize Frame = frameSize();
-        const int Left = x() - (Resize->size().width() - Resize->oldSize().width()) / 2;
-        move(std::max(Room.left(), std::min(Left, Room.right() - Frame.width())),
-             std::max(Room.top(), std::min(y(), Room.bottom() - Frame.height())));
+        QRect Place = geometry();
+        Place.moveLeft(Place.left() - (Place.width() - Resize->oldSize().width()) / 2);
+        Place.moveRight(std::min(Place.right(), Room.right() - Gap)); // with room for the frame
+        Place.moveLeft(std::max(Place.left(), Room.left() + Gap));
+        setGeometry(Place);
     }
 };
 
