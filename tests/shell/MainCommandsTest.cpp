@@ -5,6 +5,7 @@
 #include "input/ProfileTable.h"
 #include "platform/DrawingSurface.h"
 #include "platform/Platform.h"
+#include "screens/Viewers.h"
 
 #include <set>
 #include <sstream>
@@ -44,7 +45,10 @@ TEST_F(MainCommandsTest, ResultsAndInputTakeTurns)
     MDIProject.mnuResults.Click(); // not analysed
     EXPECT_TRUE(frmLCC.Visible);
     Analysed = 1;
+    frmPumpView.LoadHidden();
+    frmPumpView.Visible = true; // would stay in front
     MDIProject.mnuResults.Click();
+    EXPECT_FALSE(frmPumpView.Visible);
     EXPECT_TRUE(frmResults.Visible);
     EXPECT_FALSE(frmLCC.Visible);
     MDIProject.mnuGeneral.Click();
