@@ -6,6 +6,7 @@
 #include "platform/DrawingSurface.h"
 #include "platform/Platform.h"
 #include "screens/ImportWizard.h"
+#include "screens/Viewers.h"
 
 #include <set>
 #include <sstream>
@@ -45,7 +46,10 @@ TEST_F(MainCommandsTest, ResultsAndInputTakeTurns)
     MDIProject.mnuResults.Click(); // not analysed
     EXPECT_TRUE(frmLCC.Visible);
     Analysed = 1;
+    frmPumpView.LoadHidden();
+    frmPumpView.Visible = true; // would stay in front
     MDIProject.mnuResults.Click();
+    EXPECT_FALSE(frmPumpView.Visible);
     EXPECT_TRUE(frmResults.Visible);
     EXPECT_FALSE(frmLCC.Visible);
     MDIProject.mnuGeneral.Click();
