@@ -9,6 +9,7 @@
 #include "results/ChartFrame.h"
 #include "results/PlotState.h"
 #include "results/ScenarioLines.h"
+#include "tools/ProfileImport.h"
 
 namespace velorix {
 
@@ -23,6 +24,7 @@ void ResetProgram()
     ResetPlotState();
     ResetChartFrames();
     ResetScenarioLines();
+    ResetImport();
 }
 
 void StartSession()
