@@ -5,7 +5,10 @@
 #include "cost/CostResults.h"
 #include "input/Session.h"
 #include "model/WorkingSet.h"
+#include "platform/Printer.h"
 #include "platform/Screen.h"
+#include "reports/PageFrame.h"
+#include "reports/ResultReports.h"
 #include "results/ChartFrame.h"
 #include "results/PlotState.h"
 #include "results/ScenarioLines.h"
@@ -25,6 +28,9 @@ void ResetProgram()
     ResetChartFrames();
     ResetScenarioLines();
     ResetImport();
+    ResetPrinter();
+    ResetPageFrame();
+    ResetPrintYear();
 }
 
 void StartSession()

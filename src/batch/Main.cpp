@@ -1,4 +1,5 @@
 // velorix-batch: analyses and checks project files, and turns them into JSON and back, without a screen.
+#include "base/Version.h"
 #include "base/Failure.h"
 #include "batch/AnalyseCommand.h"
 #include "batch/CheckCommand.h"
@@ -98,7 +99,7 @@ Ending Run(int ArgumentCount, char** Words)
     CLI::App Program{"Life cycle costing of bulk water pipelines: work on project files without a screen.\n"
                      "A FILE of - is standard input.",
                      "velorix-batch"};
-    Program.set_version_flag("--version", "velorix-batch " VELORIX_VERSION);
+    Program.set_version_flag("--version", std::string("velorix-batch ") + ProgramVersion());
     Program.require_subcommand(1);
     Program.footer("Exit status: 0 all is well; 2 an analysis ended with a message and did not stand, or a\n"
                    "project would not be saved; 1 wrong usage, a file that can't be read or written, a time\n"

@@ -2,6 +2,7 @@
 #include "paint/PaintModule.h"
 
 #include "paint/ImageFile.h"
+#include "paint/PagesFile.h"
 #include "paint/Painter.h"
 
 #include <QGuiApplication>
@@ -37,7 +38,7 @@ std::string FileBytes(const DisplayList& Image, const std::string& Format, const
 const velorix::PaintServices* VelorixPaintServices()
 {
     static const velorix::PaintServices Services{velorix::TextWidth, velorix::PaintedTextHeight,
-                                                 velorix::FileBytes};
+                                                 velorix::FileBytes, velorix::ToPdfBytes};
     if (!qGuiApp) velorix::StartToolkit();
     return &Services;
 }

@@ -34,6 +34,7 @@ QFont Typeface(const Font& Face)
                                          : QStringList{QString::fromStdString(Face.Name)});
     Result.setPixelSize(static_cast<int>(std::lround(Face.Size * TwipsPerPoint)));
     Result.setBold(Face.Bold);
+    Result.setUnderline(Face.Underline);
     Result.setHintingPreference(QFont::PreferNoHinting);
     return Result;
 }
@@ -153,6 +154,17 @@ void Paint(QPainter& Painter, const DisplayList& Image, const QRectF& Target)
         }
     }
     Painter.restore();
+}
+
+void Paint(QPainter& Painter, const PrintedPage& Page, const QRectF& Target)
+{
+    Paint(Painter, Page.Print, Target);
+    const QRectF Place = PlaceOf(Page.Print, Target);
+    const double Scale = Place.width() / Page.Print.Width;
+    for (const PlacedDrawing& Each : Page.Drawings)
+        Paint(Painter, Each.Drawn,
+              {Place.left() + Each.X * Scale, Place.top() + Each.Y * Scale, Each.Width * Scale,
+               Each.Height * Scale});
 }
 
 double PaintedTextWidth(const QString& Text, const Font& Face)

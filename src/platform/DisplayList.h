@@ -17,6 +17,7 @@ struct Font {
     std::string Name; // empty for the program's own
     double Size = 8;  // points
     bool Bold = false;
+    bool Underline = false;
     bool operator==(const Font&) const = default;
 };
 
