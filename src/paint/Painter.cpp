@@ -13,8 +13,6 @@
 namespace velorix {
 namespace {
 
-constexpr double TwipsPerPixel = 15;
-
 // The ascent of a typeface begins above its tallest letter; a title at the foot of a sheet needs that room
 // for the letters that reach below the line.
 constexpr double LetterTop = 0.97;
