@@ -13,6 +13,7 @@
 #include "results/ChartFrame.h"
 #include "results/PlotState.h"
 #include "results/ScenarioLines.h"
+#include "tools/ProfileImport.h"
 
 namespace velorix {
 
@@ -27,6 +28,7 @@ void ResetProgram()
     ResetPlotState();
     ResetChartFrames();
     ResetScenarioLines();
+    ResetImport();
     ResetPrinter();
     ResetPageFrame();
     ResetPrintYear();

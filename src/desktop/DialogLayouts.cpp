@@ -10,6 +10,7 @@
 #include "screens/Analyse.h"
 #include "screens/Dialogs.h"
 #include "screens/DutyPointScreen.h"
+#include "screens/ImportWizard.h"
 #include "screens/Print.h"
 
 #include <QDialog>
@@ -235,7 +236,8 @@ const std::vector<DialogLayout>& AllDialogs()
         {&frmDeleteRow, DeleteRowDialog},   {&frmAnalyse, AnalyseDialog},
         {&frmDisclaimer, DisclaimerDialog}, {&frmAbout, AboutDialog},
         {&frmDutyPoint, DutyPointDialog},   {&frmPrint, PrintDialogWindow},
-        {&frmSelectYear, YearDialog},       {&frmSelectYear1, GraphYearDialog}};
+        {&frmSelectYear, YearDialog},       {&frmSelectYear1, GraphYearDialog},
+        {&frmImport, ImportDialog}};
     return Dialogs;
 }
 

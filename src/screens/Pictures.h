@@ -12,7 +12,7 @@ namespace velorix {
 inline const std::array<StoredPicture, 5> imgCPP = {{{"imgCPP(1)", 240, 320},
                                                      {"imgCPP(2)", 320, 200},
                                                      {"imgCPP(3)", 320, 200},
-                                                     {"imgCPP(4)", 440, 320},
+                                                     {"imgCPP(4)", 360, 260},
                                                      {"imgCPP(5)", 320, 320}}};
 
 inline const StoredPicture imgDot{"imgDot", 70, 70};

@@ -131,6 +131,7 @@ void ShowIrrGraph()
     frmLCC.Visible = false;
     frmResults.Visible = false;
     frmIRRView.Visible = true;
+    DrawIrrGraph();
 }
 
 void CloseIrrGraph()
