@@ -146,6 +146,7 @@ bool WorkOut(PlotBasis Basis)
     if (Basis == PlotBasis::Inputs) return true;
     if (Basis >= PlotBasis::Results) {
         AnalyseProject(Basis == PlotBasis::ResultsWithTables ? Tables::Filled : Tables::LeftOut);
+        if (Analysed == 1) RefreshResults(); // as the screen of the results opens
         return Analysed == 1;
     }
     ClearArithmeticFlags();

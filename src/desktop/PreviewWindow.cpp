@@ -49,7 +49,7 @@ PreviewWindow::PreviewWindow(QWidget* Owner, const std::vector<PrintedPage>& Sho
     , View(new PagesView(Shown))
 {
     setWindowTitle("Print Preview");
-    resize(WindowSize.boundedTo(screen()->availableSize() * 0.94));
+    resize(WindowSize.boundedTo(screen()->availableSize() * 0.9));
     NameField(View, "Pages");
 
     auto* const ToFile = new QPushButton("&Save as PDF...");

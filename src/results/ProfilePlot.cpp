@@ -127,7 +127,7 @@ void DrawGradeline(Chart& Plot, NodeRange Nodes)
 void DrawLift(Chart& Plot, NodeRange Nodes)
 {
     if (HideGradeline != 0 || Nodes.First != 1 || !IsPumping()) return;
-    TakePen(Plot.Surface, GradelineBlue);
+    TakePen(Plot.Surface, GradelineInk);
     const int x = Plot.Frame.X(Chainage[1]);
     Plot.Surface.Line(x, Plot.Frame.Y(GroundLevel[1]), x, Plot.Frame.Y(Gradeline(1, PlotYear)));
 }

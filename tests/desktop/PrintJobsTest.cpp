@@ -58,41 +58,28 @@ protected:
         });
     }
 
-    // Answers the printer dialog, whatever printers the machine has.
-    static void Choose(const QString& Target, int Copies = 1)
+    // Answers the printer dialog, whatever printers the machine has, and the question for the file.
+    std::optional<PrintChoice> Choose(const QString& Target, int Copies, const std::filesystem::path& File,
+                                      const PrintDialog& Asked = {})
     {
         WithTopDialog([=](QDialog& Dialog) {
-            auto* const Targets = Dialog.findChild<QComboBox*>();
-            Targets->setCurrentText(Target);
-            ASSERT_EQ(Targets->currentText(), Target);
+            if (!File.empty()) EnterFile(File);
+            Dialog.findChild<QComboBox*>()->setCurrentText(Target);
             Dialog.findChild<QSpinBox*>()->setValue(Copies);
             Press(Dialog, "OK");
         });
-    }
-
-    std::optional<PrintChoice> ChoosePdf(const std::filesystem::path& Path, int Copies = 1)
-    {
-        WithTopDialog([=](QDialog& Dialog) {
-            EnterFile(Path);
-            Dialog.findChild<QComboBox*>()->setCurrentText("PDF file");
-            Dialog.findChild<QSpinBox*>()->setValue(Copies);
-            Press(Dialog, "OK");
-        });
-        return Windows.AskPrinter({});
+        return Windows.AskPrinter(Asked);
     }
 
     void PrintPages(int Count)
     {
-        constexpr int Short = 11906; // A4 in twips
-        constexpr int Long = 16838;
+        constexpr int Sides[] = {11906, 16838}; // A4 in twips
         for (int Page = 0; Page < Count; ++Page) {
             PrintedPage Made;
-            const bool Wide = Page % 2 == 1;
-            Made.Print.Width = Wide ? Long : Short;
-            Made.Print.Height = Wide ? Short : Long;
-            Made.Print.Items.push_back(
-                TextItem{900, 900, 900, "Sheet " + std::to_string(Page + 1), {"Times New Roman", 12}, Black});
-            Made.Section = Wide ? "Graph" : "Table";
+            Made.Print.Width = Sides[Page % 2];
+            Made.Print.Height = Sides[1 - Page % 2];
+            const std::string Text = "Sheet " + std::to_string(Page + 1);
+            Made.Print.Items.push_back(TextItem{900, 900, 900, Text, {"Times New Roman", 12}, Black});
             Windows.PrintPage(Made);
         }
     }
@@ -118,7 +105,7 @@ protected:
 
 TEST_F(PrintJobsTest, ARunBecomesOneFileWithThePagesAsTheyAre)
 {
-    const auto Choice = ChoosePdf(Folder / "report", 3);
+    const auto Choice = Choose("PDF file", 3, Folder / "report");
     ASSERT_TRUE(Choice);
     EXPECT_EQ(Choice->Copies, 3); // the run repeats itself
     PrintPages(3);
@@ -138,12 +125,12 @@ TEST_F(PrintJobsTest, ARunBecomesOneFileWithThePagesAsTheyAre)
 
 TEST_F(PrintJobsTest, WhatCannotBeWrittenOrHasNoPageLeavesNoFile)
 {
-    ASSERT_TRUE(ChoosePdf(Folder / "empty"));
+    ASSERT_TRUE(Choose("PDF file", 1, Folder / "empty"));
     Windows.EndPrintRun();
     EXPECT_EQ(FilesLeft(), 0);
 
     std::filesystem::create_directories(Folder / "gone");
-    ASSERT_TRUE(ChoosePdf(Folder / "gone" / "report"));
+    ASSERT_TRUE(Choose("PDF file", 1, Folder / "gone" / "report"));
     std::filesystem::remove(Folder / "gone");
     PrintPages(1);
     EXPECT_THROW(Windows.EndPrintRun(), FileFailure);
@@ -164,10 +151,8 @@ TEST_F(PrintJobsTest, CancelInEitherDialogGivesNothing)
 
 TEST_F(PrintJobsTest, TheSetupPresetsTheNextPrintAndAsksForNoFile)
 {
-    Choose("PDF file");
-    EXPECT_TRUE(Windows.AskPrinter({.Setup = true}));
-    Choose("Preview", 2);
-    EXPECT_TRUE(Windows.AskPrinter({}));
+    EXPECT_TRUE(Choose("PDF file", 1, {}, {.Setup = true}));
+    EXPECT_TRUE(Choose("Preview", 2, {}));
     WithTopDialog([](QDialog& Dialog) {
         EXPECT_EQ(Dialog.findChild<QComboBox*>()->currentText(), "Preview");
         EXPECT_EQ(Dialog.findChild<QSpinBox*>()->value(), 1);
@@ -178,8 +163,7 @@ TEST_F(PrintJobsTest, TheSetupPresetsTheNextPrintAndAsksForNoFile)
 
 TEST_F(PrintJobsTest, ThePreviewGoesThroughThePagesByKeysAndSavesThem)
 {
-    Choose("Preview");
-    ASSERT_TRUE(Windows.AskPrinter({}));
+    ASSERT_TRUE(Choose("Preview", 1, {}));
     PrintPages(5);
     bool Shown = false;
     WithTopDialog([&](QDialog& Preview) {
