@@ -64,7 +64,9 @@ void FillTableOfYear()
 
 void FillTableOfYears()
 {
-    frmResults.ssoDemandCapacity.Value ? FillDemandTable() : FillIncomeTable();
+    const bool OfDemand = frmResults.ssoDemandCapacity.Value;
+    frmResults.fraViewTable.Caption = OfDemand ? "Demand and capacity" : "Income and expenditure";
+    OfDemand ? FillDemandTable() : FillIncomeTable();
 }
 
 void DrawDutyOfYear()
