@@ -11,7 +11,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -24,7 +23,7 @@
 namespace velorix {
 namespace {
 
-constexpr int SideWidth = 190;
+constexpr int SideWidth = 180;
 
 QWidget* Headline(const QString& Name, Label& Figure)
 {
@@ -134,10 +133,13 @@ QWidget* DutyPane()
 
 QWidget* HydraulicPage()
 {
+    constexpr int KeyBesideReadOuts = 80; // digits
     QWidget* const Content = PlotWithSide(
         {InRow({View(frmResults.lblMaxFlow), View(frmResults.lblPumping), nullptr}),
-         InRow({LineKey({{GroundInk, "Pipeline"}, {GradelineInk, "Hydraulic gradeline"}}), nullptr,
-                ReadOut("Distance", frmResults.lblX), ReadOut("Level", frmResults.lblY)})},
+         new TurningBox(
+             KeyBesideReadOuts,
+             {LineKey({{GroundInk, "Pipeline"}, {GradelineInk, "Hydraulic gradeline"}}),
+              InRow({nullptr, ReadOut("Distance", frmResults.lblX), ReadOut("Level", frmResults.lblY)})})},
         View(frmResults.picHydraulic),
         {YearOfPlot(), View(frmResults.sscChangeView), Choice("From", View(frmResults.comBegin)),
          Choice("To", View(frmResults.comEnd)), View(frmResults.sscView), View(frmResults.sscComponents),
@@ -163,22 +165,21 @@ QWidget* LegendRow(const std::vector<QWidget*>& Colors, const std::vector<QWidge
     return InRow(All);
 }
 
-// Rows under each other in columns, in a frame without a border. A row of which nothing shows takes no room
-// where it stands last.
-QWidget* Legend(Frame& Record, const std::vector<std::vector<QWidget*>>& Columns)
+// Groups of rows in a frame without a border, side by side from so many digits on.
+QWidget* Legend(Frame& Record, int RowFrom, const std::vector<std::vector<QWidget*>>& Groups)
 {
     QGroupBox* const Box = WithRole(View(Record), "rows");
-    auto* const Cells = new QGridLayout(Box);
-    Cells->setContentsMargins(0, 0, 0, 0);
-    Cells->setHorizontalSpacing(3 * Gap);
-    Cells->setVerticalSpacing(Gap / 2);
-    int Col = 0;
-    for (const auto& Rows : Columns) {
-        int Row = 0;
-        for (QWidget* Each : Rows) Cells->addWidget(Each, Row++, Col);
-        ++Col;
+    std::vector<QWidget*> Columns;
+    for (std::vector<QWidget*> Rows : Groups) {
+        Rows.push_back(nullptr);
+        QWidget* const Column = InColumn(Rows);
+        Column->layout()->setSpacing(Gap / 2);
+        Columns.push_back(Column);
     }
-    Cells->setColumnStretch(Col, 1);
+    auto* const Turning = new TurningBox(RowFrom, Columns);
+    auto* const Layout = new QVBoxLayout(Box);
+    Layout->setContentsMargins(0, 0, 0, 0);
+    Layout->addWidget(Turning);
     return Box;
 }
 
@@ -187,7 +188,7 @@ QWidget* DemandLegend()
 {
     QWidget* const Words = InRow({View(frmResults.lblDemandText), View(frmResults.lblDemand)});
     Words->layout()->setSpacing(0);
-    return Legend(frmResults.fraDemandLegend,
+    return Legend(frmResults.fraDemandLegend, 80,
                   {{LegendRow({View(frmResults.lblDemandColor), View(frmResults.lblShortageColor)}, {Words})},
                    {LegendRow({View(frmResults.lblYieldColor)}, {View(frmResults.lblYield)})}});
 }
@@ -196,7 +197,7 @@ QWidget* DemandLegend()
 QWidget* IncomeLegend()
 {
     const auto Row = [](Label& Field, Label& Words) { return LegendRow({View(Field)}, {View(Words)}); };
-    return Legend(frmResults.fraIncomeLegend,
+    return Legend(frmResults.fraIncomeLegend, 65,
                   {{Row(frmResults.picIncomeColor, frmResults.lblIncome),
                     Row(frmResults.picCapitalColor, frmResults.lblCapitalExpenditure)},
                    {Row(frmResults.picMaintenanceColor, frmResults.lblMaintenance),

@@ -17,7 +17,7 @@ namespace {
 
 constexpr double TwipsPerPixel = 15;
 constexpr int FrameWidth = 2;       // with the focus
-constexpr double LeastScale = 0.55; // below it the labels can't be read
+constexpr double LeastScale = 0.5; // below it the labels can't be read on any display
 
 } // namespace
 

@@ -20,6 +20,7 @@ namespace velorix {
 namespace {
 
 const std::vector<KeyEntry> ProfileLines = {{GroundInk, "Pipeline"}, {GradelineInk, "Hydraulic gradeline"}};
+constexpr int RowFrom = 91; // digits; with less room a row turns into two
 constexpr const char* WideAmounts = "No curve? Income less cost changes by more than 100 million:\n"
                                     "raise the first rate, and press View.";
 
@@ -30,14 +31,17 @@ using Pointed = std::vector<std::pair<const char*, Label*>>;
 QWidget* Viewer(const Screen& Record, const Pointed& ReadOuts, const std::vector<Label*>& Figures,
                 const std::vector<KeyEntry>& Lines, QWidget* Plot, const std::vector<QWidget*>& Below)
 {
-    std::vector<QWidget*> Top = {WithRole(Text(QString::fromStdString(Record.Caption).trimmed()), "screen"),
-                                 nullptr};
-    for (const auto& [Name, Value] : ReadOuts) Top.push_back(ReadOut(Name, *Value));
-    std::vector<QWidget*> Second;
-    for (Label* Each : Figures) Second.push_back(View(*Each));
-    Second.insert(Second.end(), {nullptr, LineKey(Lines)});
+    std::vector<QWidget*> Pointer = {nullptr};
+    for (const auto& [Name, Value] : ReadOuts) Pointer.push_back(ReadOut(Name, *Value));
+    std::vector<QWidget*> OfYear;
+    for (Label* Each : Figures) OfYear.push_back(View(*Each));
+    OfYear.push_back(nullptr);
 
-    std::vector<QWidget*> Parts = {InRow(Top), InRow(Second), Plot};
+    QLabel* const Title = WithRole(Text(QString::fromStdString(Record.Caption).trimmed()), "screen");
+    std::vector<QWidget*> Parts = {new TurningBox(RowFrom, {Title, InRow(Pointer)})};
+    if (!Lines.empty())
+        Parts.push_back(new TurningBox(RowFrom, {InRow(OfYear), InRow({nullptr, LineKey(Lines)})}));
+    Parts.push_back(Plot);
     Parts.insert(Parts.end(), Below.begin(), Below.end());
     QWidget* const Column = InColumn(Parts);
     Column->layout()->setContentsMargins(2 * Gap, Gap / 2, 2 * Gap, Gap);
@@ -56,11 +60,11 @@ QWidget* Range(ProfileViewer& Record)
 {
     QWidget* const Year = View(Record.hscYears);
     NameField(Year, "Year of analysis");
-    QWidget* const Row =
-        InRow({Named("From", View(Record.comBegin)), Named("To", View(Record.comEnd)), View(Record.sscView),
-               Text("Year"), Year, View(Record.lblYear), View(Record.sscChangeView)});
-    static_cast<QBoxLayout*>(Row->layout())->setStretchFactor(Year, 1);
-    return Row;
+    QWidget* const Years = InRow({Text("Year"), Year, View(Record.lblYear), View(Record.sscChangeView)});
+    static_cast<QBoxLayout*>(Years->layout())->setStretchFactor(Year, 1);
+    return new TurningBox(RowFrom, {InRow({Named("From", View(Record.comBegin)),
+                                           Named("To", View(Record.comEnd)), View(Record.sscView), nullptr}),
+                                    Years});
 }
 
 QWidget* Buttons(ProfileViewer& Record)
@@ -125,8 +129,10 @@ QWidget* IrrViewLayout()
 {
     return Viewer(frmIRRView, {{"Rate", &frmIRRView.lblX}, {"Income less cost", &frmIRRView.lblY}}, {}, {},
                   View(frmIRRView.picIRR),
-                  {Rates(), InRow({MutedText(WideAmounts), nullptr, View(frmIRRView.sscPrintView),
-                                   View(frmIRRView.sscOK), ToolView(frmIRRView.sscHelp, "help")})});
+                  {Rates(), new TurningBox(RowFrom, {MutedText(WideAmounts),
+                                                     InRow({nullptr, View(frmIRRView.sscPrintView),
+                                                            View(frmIRRView.sscOK),
+                                                            ToolView(frmIRRView.sscHelp, "help")})})});
 }
 
 } // namespace velorix
