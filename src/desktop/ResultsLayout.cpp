@@ -1,6 +1,7 @@
 // Pages of the results screen: a plot with its controls beside it, and the tables that stand in for it.
 #include "desktop/ResultsLayout.h"
 
+#include "desktop/Binding.h"
 #include "desktop/ChartParts.h"
 #include "desktop/FormRows.h"
 #include "desktop/GridView.h"
@@ -123,11 +124,11 @@ QWidget* DutyPane()
     auto* const Both = new TurningBox(RowFrom);
     Both->Add(Curves, 1);
     Both->Add(Table);
-    Rows.AddWide(InRow({LineKey({{PumpCurveInk, "Pump curve"}, {SystemCurveInk, "System curve"}}), nullptr}));
-    Rows.AddWide(Both, 1);
     Rows.AddWide(Stretched(InRow({View(frmResults.lblDutyYear), Year, View(frmResults.sscPrintDutyYear),
                                   View(frmResults.sscHideDuty)}),
                            Year));
+    Rows.AddWide(InRow({LineKey({{PumpCurveInk, "Pump curve"}, {SystemCurveInk, "System curve"}}), nullptr}));
+    Rows.AddWide(Both, 1);
     return Pane;
 }
 
@@ -148,7 +149,8 @@ QWidget* HydraulicPage()
     QWidget* const Table = TablePane(frmResults.fraTable, {View(frmResults.lblYear1)},
                                      frmResults.msgHydraulic, frmResults.sscHideHydraulicTable);
     QWidget* const Duty = DutyPane();
-    return PageOf(Content, {Table, Duty}, {Table, Duty});
+    return PageOf(Content, {Table, Duty},
+                  {FocusTarget(frmResults.msgHydraulic), FocusTarget(frmResults.hscDuty)});
 }
 
 // A coloured field with what it stands for.
@@ -214,7 +216,7 @@ QWidget* SystemPage()
          InRow({View(frmResults.sscPrintSystem), ToolView(frmResults.sscHelp2, "help"), nullptr})});
     QWidget* const Table =
         TablePane(frmResults.fraViewTable, {}, frmResults.msgSystem, frmResults.sscHideTable);
-    return PageOf(Content, {Table}, {Table});
+    return PageOf(Content, {Table}, {FocusTarget(frmResults.msgSystem)});
 }
 
 QWidget* WholeTable(Grid& Record, const QString& Name)

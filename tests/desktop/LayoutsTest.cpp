@@ -303,6 +303,21 @@ TEST_F(LayoutsTest, OneScreenStandsAtATime)
         frmResults.sstResults.Tab = Page;
         Examine(frmResults, "results, page " + std::to_string(Page));
     }
+    struct {
+        int Page;
+        CommandButton& Show;
+        Control& First;
+        CommandButton& Hide;
+    } const Panes[] = {
+        {0, frmResults.sscViewHydraulicTable, frmResults.msgHydraulic, frmResults.sscHideHydraulicTable},
+        {0, frmResults.sscDutypoint, frmResults.hscDuty, frmResults.sscHideDuty},
+        {1, frmResults.sscViewTable, frmResults.msgSystem, frmResults.sscHideTable}};
+    for (const auto& Each : Panes) {
+        frmResults.sstResults.Tab = Each.Page;
+        Each.Show.Click();
+        EXPECT_TRUE(FocusTarget(Each.First)->hasFocus()) << Each.Show.ToolTip;
+        Each.Hide.Click();
+    }
 }
 
 TEST_F(LayoutsTest, DialogsAreCompleteAndFit)
