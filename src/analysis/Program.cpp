@@ -5,10 +5,14 @@
 #include "cost/CostResults.h"
 #include "input/Session.h"
 #include "model/WorkingSet.h"
+#include "platform/Printer.h"
 #include "platform/Screen.h"
+#include "reports/PageFrame.h"
+#include "reports/ResultReports.h"
 #include "results/ChartFrame.h"
 #include "results/PlotState.h"
 #include "results/ScenarioLines.h"
+#include "tools/ProfileImport.h"
 
 namespace velorix {
 
@@ -23,6 +27,10 @@ void ResetProgram()
     ResetPlotState();
     ResetChartFrames();
     ResetScenarioLines();
+    ResetImport();
+    ResetPrinter();
+    ResetPageFrame();
+    ResetPrintYear();
 }
 
 void StartSession()

@@ -11,6 +11,7 @@
 #include "screens/Analyse.h"
 #include "screens/Dialogs.h"
 #include "screens/DutyPointScreen.h"
+#include "screens/ImportWizard.h"
 
 #include <QDialog>
 #include <QFrame>
@@ -242,7 +243,7 @@ const std::vector<DialogLayout>& AllDialogs()
         {&frmLCCType, LccTypeDialog},       {&frmPref, PreferencesDialog},
         {&frmDeleteRow, DeleteRowDialog},   {&frmAnalyse, AnalyseDialog},
         {&frmDisclaimer, DisclaimerDialog}, {&frmAbout, AboutDialog},
-        {&frmDutyPoint, DutyPointDialog}};
+        {&frmDutyPoint, DutyPointDialog},   {&frmImport, ImportDialog}};
     return Dialogs;
 }
 

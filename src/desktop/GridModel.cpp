@@ -63,8 +63,8 @@ QVariant GridModel::data(const QModelIndex& Index, int Role) const
 
 QString GridModel::Heading(int Col) const
 {
-    if (Col >= Record.Cols()) return {};
     QStringList Lines;
+    if (Col >= Record.Cols()) return {}; // gone, and not told yet
     for (int Row = 0; Row < std::min(HeadRows(), Record.Rows()); ++Row) Lines += Shown(Record.Text(Row, Col));
     Lines.removeAll(QString());
     return Lines.join('\n');
@@ -75,7 +75,9 @@ QVariant GridModel::headerData(int Section, Qt::Orientation Direction, int Role)
     if (Role != Qt::DisplayRole) return {};
     if (Direction == Qt::Horizontal) return Heading(Section + HeadCols());
     const int Row = Section + HeadRows();
-    return HeadCols() > 0 && Row < Record.Rows() ? Shown(Record.Text(Row, HeadCols() - 1)) : QString();
+    return HeadCols() > 0 && HeadCols() <= Record.Cols() && Row < Record.Rows()
+               ? Shown(Record.Text(Row, HeadCols() - 1))
+               : QString();
 }
 
 Qt::ItemFlags GridModel::flags(const QModelIndex& Index) const

@@ -15,8 +15,7 @@
 namespace velorix {
 namespace {
 
-constexpr double TwipsPerPixel = 15;
-constexpr int FrameWidth = 2;       // with the focus
+constexpr int FrameWidth = 2;      // with the focus
 constexpr double LeastScale = 0.5; // below it the labels can't be read on any display
 
 } // namespace
@@ -27,7 +26,6 @@ SurfaceView::SurfaceView(DrawingSurface& Shown)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
-    setCursor(Qt::CrossCursor);
     Attach(Record, this);
     Record.View = [Alive = QPointer<SurfaceView>(this)] {
         if (!Alive) return; // a dialog's view goes before its record does
@@ -73,6 +71,12 @@ void SurfaceView::paintEvent(QPaintEvent*)
     Painter.setRenderHint(QPainter::Antialiasing);
     Painter.setPen(QPen(hasFocus() ? Colors().Accent : Colors().Border, Width));
     Painter.drawRect(Place.adjusted(-Width / 2, -Width / 2, Width / 2, Width / 2));
+}
+
+void SurfaceView::enterEvent(QEnterEvent* Enter)
+{
+    setCursor(Record.PointerMoved ? Qt::CrossCursor : Qt::ArrowCursor); // a cross where it can be read out
+    QWidget::enterEvent(Enter);
 }
 
 void SurfaceView::mouseMoveEvent(QMouseEvent* Move)

@@ -15,6 +15,7 @@
 #include "shell/GridEditor.h"
 #include "shell/Help.h"
 #include "shell/Hints.h"
+#include "shell/ImportEvents.h"
 #include "shell/InputEvents.h"
 #include "shell/MainCommands.h"
 #include "shell/Notices.h"
@@ -54,6 +55,7 @@ Handler ShowRoughness;
 void ConnectScreens()
 {
     ConnectHints();
+    ConnectImportWizard();
     ConnectMainWindow();
     ConnectInputScreen();
     ConnectGridEditors();
