@@ -44,7 +44,6 @@ void PrintGraphTitle(const char* Title)
 
 void BeginUprightPage(const char* Title)
 {
-    Printer.Orientation = PaperOrientation::Portrait;
     PrintPageHead();
     PrintGraphTitle(Title);
 }
