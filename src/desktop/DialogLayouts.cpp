@@ -12,6 +12,7 @@
 #include "screens/Dialogs.h"
 #include "screens/DutyPointScreen.h"
 #include "screens/ImportWizard.h"
+#include "screens/Print.h"
 
 #include <QDialog>
 #include <QFrame>
@@ -28,32 +29,6 @@ namespace {
 
 constexpr int DialogMargin = 16;
 constexpr const char* PictureText = "Pipeline between two reservoirs";
-
-// A window with its parts under each other.
-QDialog* Window(const Screen& Record, QWidget* Owner, const std::vector<QWidget*>& Parts)
-{
-    auto* const Dialog = new QDialog(Owner);
-    Dialog->setWindowTitle(QString::fromStdString(Record.Caption));
-    auto* const Layout = new QVBoxLayout(Dialog);
-    Layout->setContentsMargins(DialogMargin, DialogMargin, DialogMargin, DialogMargin);
-    Layout->setSpacing(DialogMargin - 4);
-    for (QWidget* Each : Parts) Layout->addWidget(Each);
-    return Dialog;
-}
-
-QDialog* FixedWindow(const Screen& Record, QWidget* Owner, const std::vector<QWidget*>& Parts)
-{
-    QDialog* const Dialog = Window(Record, Owner, Parts);
-    Dialog->layout()->setSizeConstraint(QLayout::SetFixedSize);
-    return Dialog;
-}
-
-QPushButton* DefaultButton(CommandButton& Record)
-{
-    QPushButton* const Button = View(Record);
-    Button->setDefault(true);
-    return Button;
-}
 
 QGroupBox* Card(const QString& Heading, const std::vector<QWidget*>& Content)
 {
@@ -236,6 +211,25 @@ QDialog* DutyPointDialog(QWidget* Owner)
 
 } // namespace
 
+QDialog* FixedWindow(const Screen& Record, QWidget* Owner, const std::vector<QWidget*>& Parts)
+{
+    auto* const Dialog = new QDialog(Owner);
+    Dialog->setWindowTitle(QString::fromStdString(Record.Caption));
+    auto* const Layout = new QVBoxLayout(Dialog);
+    Layout->setContentsMargins(DialogMargin, DialogMargin, DialogMargin, DialogMargin);
+    Layout->setSpacing(DialogMargin - 4);
+    for (QWidget* Each : Parts) Layout->addWidget(Each);
+    Layout->setSizeConstraint(QLayout::SetFixedSize);
+    return Dialog;
+}
+
+QPushButton* DefaultButton(CommandButton& Record)
+{
+    QPushButton* const Button = View(Record);
+    Button->setDefault(true);
+    return Button;
+}
+
 const std::vector<DialogLayout>& AllDialogs()
 {
     static const std::vector<DialogLayout> Dialogs = {
@@ -243,7 +237,9 @@ const std::vector<DialogLayout>& AllDialogs()
         {&frmLCCType, LccTypeDialog},       {&frmPref, PreferencesDialog},
         {&frmDeleteRow, DeleteRowDialog},   {&frmAnalyse, AnalyseDialog},
         {&frmDisclaimer, DisclaimerDialog}, {&frmAbout, AboutDialog},
-        {&frmDutyPoint, DutyPointDialog},   {&frmImport, ImportDialog}};
+        {&frmDutyPoint, DutyPointDialog},   {&frmImport, ImportDialog},
+        {&frmPrint, PrintDialogWindow},     {&frmSelectYear, YearDialog},
+        {&frmSelectYear1, GraphYearDialog}};
     return Dialogs;
 }
 

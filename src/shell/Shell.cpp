@@ -20,6 +20,7 @@
 #include "shell/MainCommands.h"
 #include "shell/Notices.h"
 #include "shell/Preferences.h"
+#include "shell/PrintEvents.h"
 #include "shell/ResultsEvents.h"
 #include "shell/ViewerEvents.h"
 
@@ -56,6 +57,7 @@ void ConnectScreens()
 {
     ConnectHints();
     ConnectImportWizard();
+    ConnectPrinting();
     ConnectMainWindow();
     ConnectInputScreen();
     ConnectGridEditors();
