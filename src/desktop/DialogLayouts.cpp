@@ -1,6 +1,7 @@
 // Opening dialogs, kind of system, preferences, row deletion and notices.
 #include "desktop/DialogLayouts.h"
 
+#include "desktop/ChartParts.h"
 #include "desktop/FormRows.h"
 #include "desktop/Icons.h"
 #include "desktop/QtPlatform.h"
@@ -204,7 +205,8 @@ QDialog* DutyPointDialog(QWidget* Owner)
     Curves->setFixedSize(RoomForCurves);
     return FixedWindow(
         frmDutyPoint, Owner,
-        {Curves, View(frmDutyPoint.lblAdvice), InRow({nullptr, DefaultButton(frmDutyPoint.sscOK)})});
+        {InRow({LineKey({{PumpCurveInk, "Pump curve"}, {SystemCurveInk, "System curve"}}), nullptr}), Curves,
+         View(frmDutyPoint.lblAdvice), InRow({nullptr, DefaultButton(frmDutyPoint.sscOK)})});
 }
 
 } // namespace
@@ -235,9 +237,9 @@ const std::vector<DialogLayout>& AllDialogs()
         {&frmLCCType, LccTypeDialog},       {&frmPref, PreferencesDialog},
         {&frmDeleteRow, DeleteRowDialog},   {&frmAnalyse, AnalyseDialog},
         {&frmDisclaimer, DisclaimerDialog}, {&frmAbout, AboutDialog},
-        {&frmDutyPoint, DutyPointDialog},   {&frmPrint, PrintDialogWindow},
-        {&frmSelectYear, YearDialog},       {&frmSelectYear1, GraphYearDialog},
-        {&frmImport, ImportDialog}};
+        {&frmDutyPoint, DutyPointDialog},   {&frmImport, ImportDialog},
+        {&frmPrint, PrintDialogWindow},     {&frmSelectYear, YearDialog},
+        {&frmSelectYear1, GraphYearDialog}};
     return Dialogs;
 }
 

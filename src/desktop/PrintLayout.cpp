@@ -1,4 +1,5 @@
 // The windows of printing.
+#include "desktop/Binding.h"
 #include "desktop/DialogLayouts.h"
 #include "desktop/FormRows.h"
 #include "desktop/Views.h"
@@ -75,10 +76,14 @@ QDialog* SelectYearDialog(SelectYearScreen& Record, QWidget* Owner)
 QDialog* PrintDialogWindow(QWidget* Owner)
 {
     QToolButton* const Icon = ToolView(frmPrint.sscPrint1, "print");
-    return FixedWindow(frmPrint, Owner,
-                       {WithRole(View(frmPrint.lblSelect), "screen"), Input(), Results(),
-                        InRow({nullptr, DefaultButton(frmPrint.sscPrint), Icon, View(frmPrint.sscCancel),
-                               View(frmPrint.sscSetup), View(frmPrint.sscHelp)})});
+    QPushButton* const Setup = View(frmPrint.sscSetup);
+    Setup->setMinimumWidth(Setup->sizeHint().width() + 2 * Gap);
+    QDialog* const Dialog = FixedWindow(frmPrint, Owner,
+                                        {WithRole(View(frmPrint.lblSelect), "screen"), Input(), Results(),
+                                         InRow({nullptr, DefaultButton(frmPrint.sscPrint), Icon,
+                                                View(frmPrint.sscCancel), Setup, View(frmPrint.sscHelp)})});
+    RaiseEvents(frmPrint.lblSelect, Dialog); // between the controls too
+    return Dialog;
 }
 
 QDialog* YearDialog(QWidget* Owner)

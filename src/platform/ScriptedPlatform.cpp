@@ -61,6 +61,12 @@ void ScriptedPlatform::PrintPage(const PrintedPage& Page)
     Pages.push_back(Page);
 }
 
+void ScriptedPlatform::EndPrintRun()
+{
+    ++PrintRuns;
+    if (PrintRunsFail) throw FileFailure("The disk is full.");
+}
+
 std::optional<PrintChoice> ScriptedPlatform::AskPrinter(const PrintDialog& Dialog)
 {
     PrintDialogs.push_back(Dialog);

@@ -9,9 +9,9 @@
 #include "reports/PageFrame.h"
 #include "results/FlowCaptions.h"
 #include "results/PlotState.h"
-#include "results/ProfilePlot.h"
 #include "screens/Pictures.h"
 #include "screens/Results.h"
+#include "screens/Surfaces.h"
 #include "screens/Viewers.h"
 
 #include <algorithm>
@@ -44,7 +44,6 @@ void PrintGraphTitle(const char* Title)
 
 void BeginUprightPage(const char* Title)
 {
-    Printer.Orientation = PaperOrientation::Portrait;
     PrintPageHead();
     PrintGraphTitle(Title);
 }

@@ -79,7 +79,6 @@ void PrintTicked()
     }
     const char* FailureText = Sections.front().Failure;
     RunPrinter(FailureText, [&] {
-        Printer.Orientation = PaperOrientation::Portrait;
         PageNo = 0;
         for (const PrintSection& Each : Sections) {
             if (!IsTicked(Each)) continue;

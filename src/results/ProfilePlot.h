@@ -2,12 +2,7 @@
 // in the profile viewer and in the roughness viewer.
 #pragma once
 
-#include "platform/Color.h"
-
 namespace velorix {
-
-constexpr Color GroundInk = Rgb(0, 64, 0);
-constexpr Color GradelineInk = Rgb(0, 0, 255);
 
 // Each redraws its surface for PlotYear between the chosen begin and end nodes. A choice that makes no range
 // is told to the user, and the old picture stays. Any other fault stops the drawing where it is.

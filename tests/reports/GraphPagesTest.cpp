@@ -17,33 +17,44 @@
 namespace velorix {
 namespace {
 
-// What stands on a page, with the graph's texts where they come to lie.
+// A text, or a symbol by its name.
 struct Placed {
     double Left, Top, Right, Bottom;
-    std::string Text; // or the name of a picture
-    Font Face;
+    std::string Text;
+    bool OfGraph;
 };
 
-void AddItems(std::vector<Placed>& All, const DisplayList& List, double X, double Y, double Scale)
+void AddItems(std::vector<Placed>& All, const DisplayList& List, const PlacedDrawing& Place, bool OfGraph)
 {
-    const auto Add = [&](double Left, double Top, double Width, double Height, const std::string& Text,
-                         const Font& Face) {
-        All.push_back({X + Left * Scale, Y + Top * Scale, X + (Left + Width) * Scale,
-                       Y + (Top + Height) * Scale, Text, Face});
+    const double Scale = Place.Height / List.Height / TwipsPerMillimetre;
+    const double X = Place.X / TwipsPerMillimetre;
+    const double Y = Place.Y / TwipsPerMillimetre;
+    const auto Add = [&](const auto& Item, double Height, const std::string& Text) {
+        All.push_back({X + Item.X * Scale, Y + Item.Y * Scale, X + (Item.X + Item.Width) * Scale,
+                       Y + (Item.Y + Height) * Scale, Text, OfGraph});
     };
-    for (const DisplayItem& Each : List.Items) {
+    for (const DisplayItem& Each : List.Items)
         if (const auto* Text = std::get_if<TextItem>(&Each))
-            Add(Text->X, Text->Y, Text->Width, FixedTextHeight(Text->Face), Text->Text, Text->Face);
-        if (const auto* Picture = std::get_if<PictureItem>(&Each))
-            Add(Picture->X, Picture->Y, Picture->Width, Picture->Height, Picture->Name, {});
-    }
+            Add(*Text, FixedTextHeight(Text->Face), Text->Text);
+        else if (const auto* Picture = std::get_if<PictureItem>(&Each))
+            Add(*Picture, Picture->Height, Picture->Name);
 }
 
-std::vector<Placed> Print(const PrintedPage& Page)
+// No text on another, be it the graph's, and none off the paper. The graph's own are its own affair.
+void ExpectReadable(const std::vector<Placed>& Items, double PaperWidth)
 {
-    std::vector<Placed> All;
-    AddItems(All, Page.Print, 0, 0, 1 / TwipsPerMillimetre);
-    return All;
+    constexpr double Touch = 0.01;
+    constexpr double Leading = 1.4; // white between the letters of two lines
+    for (const Placed& One : Items) {
+        EXPECT_LE(One.Right, PaperWidth) << One.Text;
+        for (const Placed& Other : Items) {
+            const double Across = std::min(One.Right, Other.Right) - std::max(One.Left, Other.Left);
+            const double Down = std::min(One.Bottom, Other.Bottom) - std::max(One.Top, Other.Top);
+            EXPECT_FALSE(&One != &Other && !One.OfGraph && Across > Touch && Down > Leading &&
+                         !Other.Text.starts_with("imgCPP"))
+                << One.Text << " on " << Other.Text;
+        }
+    }
 }
 
 class GraphPagesTest : public AnalysisTest {
@@ -53,7 +64,8 @@ protected:
     {
         Analyse(Record);
         FillCombos();
-        frmLCC.lblFileName.Caption = "sample.vlx";
+        frmResults.ssoDemandCapacity.Value = true;
+        frmLCC.lblFileName.Caption = std::string(120, 'x');
         for (ProfileViewer* Each : std::initializer_list<ProfileViewer*>{&frmView, &frmViewRoughness}) {
             Each->LoadHidden();
             FillDistances(Each->comBegin, Each->comEnd);
@@ -65,206 +77,114 @@ protected:
         OpenIrrGraphForPaper();
     }
 
-    // The page's own items; nothing when it isn't one page.
-    std::vector<Placed> Printed(void (*Page)())
+    // Prints the page, which is one, and examines it.
+    const PrintedPage& Print(void (*Page)())
     {
         Windows.Pages.clear();
         Page();
         EXPECT_EQ(Windows.Pages.size(), 1U);
-        return Print(Windows.Pages.back());
+        const PrintedPage& Result = Windows.Pages.back();
+        Items.clear();
+        AddItems(Items, Result.Print, {0, 0, 0, double(Result.Print.Height), {}}, false);
+        std::vector<Placed> All = Items;
+        AddItems(All, Result.Drawings.at(0).Drawn, Result.Drawings[0], true);
+        ExpectReadable(All, Result.Print.Width / TwipsPerMillimetre);
+        return Result;
     }
 
-    static const Placed* Find(const std::vector<Placed>& All, const std::string& Text)
+    const Placed* Find(const std::string& Text, std::size_t Behind = 0) const
     {
-        const auto Found = std::find_if(All.begin(), All.end(), [&](const Placed& Each) {
-            return Each.Text.find(Text) != std::string::npos;
-        });
-        return Found == All.end() ? nullptr : &*Found;
+        for (const Placed& Each : Items)
+            if (Each.Text.find(Text) != std::string::npos) return &Each + Behind;
+        return nullptr;
+    }
+    std::string FactOf(const std::string& Caption) const
+    {
+        return Find(Caption) ? Find(Caption, 1)->Text : "";
     }
 
-    // The text behind it on its line.
-    static std::string Behind(const std::vector<Placed>& All, const std::string& Caption)
-    {
-        const Placed* const Found = Find(All, Caption);
-        return Found ? (Found + 1)->Text : "nowhere";
-    }
+    std::vector<Placed> Items; // of the page printed last
 };
 
-constexpr void (*Pages[])() = {PrintHydraulicGraph,        PrintPumpCurveGraph, PrintProfileGraph,
-                               PrintRoughnessProfileGraph, PrintIrrGraph,       PrintSystemGraph};
-
-TEST_F(GraphPagesTest, EachPictureStandsInItsPlaceUnderItsTitle)
+TEST_F(GraphPagesTest, EachPictureStandsInItsPlaceUnderItsTitleAndHidesNothing)
 {
     DrawAll(PumpCurveRecord());
+    for (ComboBox* Each : {&frmResults.comEnd, &frmView.comEnd, &frmViewRoughness.comEnd})
+        Each->List = std::vector<std::string>(Each->List.Get().size(), "128600.500");
+    frmLCC.comFlowUnits.ListIndex = static_cast<int>(frmLCC.comFlowUnits.List.Get().size()) - 1;
     const struct {
+        void (*Page)();
         const DrawingSurface& Surface;
         const char* Title;
-        bool Upright;
         double X, Y, Width, Height;
-    } Expected[] = {
-        {frmResults.picHydraulic, "PROFILE PLOT:", true, 16, 115, 170, 90},
-        {frmPumpView.picGraph, "PUMP CURVE:", true, 16, 100, 170, 90},
-        {frmView.picGraph, "PROFILE PLOT:", false, 50, 55, 215, 98},
-        {frmViewRoughness.picGraph, "PROFILE PLOT:", false, 50, 55, 215, 98},
-        {frmIRRView.picIRR, "IRR GRAPH:", false, 50, 55, 190, 100},
-        {frmResults.picSystem, "System Analysis: Demand & Capacity", false, 10, 57, 97 * 17 / 9.0, 97}};
-    std::size_t Index = 0;
-    for (const auto& [Surface, Title, Upright, X, Y, Width, Height] : Expected) {
-        SCOPED_TRACE(Index);
-        const auto Items = Printed(Pages[Index++]);
-        const PrintedPage& Page = Windows.Pages.back();
-        EXPECT_EQ(Page.Print.Width < Page.Print.Height, Upright);
-        ASSERT_EQ(Page.Drawings.size(), 1U);
-        EXPECT_EQ(Page.Drawings[0].Drawn, Surface.Image());
-        EXPECT_GT(Surface.Image().Items.size(), 20U);
-        EXPECT_DOUBLE_EQ(Page.Drawings[0].X, X * TwipsPerMillimetre);
-        EXPECT_DOUBLE_EQ(Page.Drawings[0].Y, Y * TwipsPerMillimetre);
-        EXPECT_NEAR(Page.Drawings[0].Width, Width * TwipsPerMillimetre, 1);
-        EXPECT_NEAR(Page.Drawings[0].Height, Height * TwipsPerMillimetre, 1);
-        const Placed* const Found = Find(Items, Title);
-        ASSERT_TRUE(Found);
-        EXPECT_TRUE(Found->Face.Bold && Found->Face.Size == 13);
-        EXPECT_GT(Find(Items, "The software program")->Top, Y + Height);
+    } Expected[] = {{PrintHydraulicGraph, frmResults.picHydraulic, "PROFILE PLOT:", 16, 115, 170, 90},
+                    {PrintPumpCurveGraph, frmPumpView.picGraph, "PUMP CURVE:", 16, 100, 170, 90},
+                    {PrintProfileGraph, frmView.picGraph, "PROFILE PLOT:", 50, 55, 215, 98},
+                    {PrintRoughnessProfileGraph, frmViewRoughness.picGraph, "PROFILE PLOT:", 50, 55, 215, 98},
+                    {PrintIrrGraph, frmIRRView.picIRR, "IRR GRAPH:", 50, 55, 190, 100},
+                    {PrintSystemGraph, frmResults.picSystem, "Demand & Capacity", 10, 57, 97 * 17 / 9.0, 97}};
+    for (const auto& [Page, Surface, Title, X, Y, Width, Height] : Expected) {
+        SCOPED_TRACE(Surface.ToolTip);
+        const PlacedDrawing Graph = Print(Page).Drawings[0];
+        EXPECT_EQ(Graph.Drawn, Surface.Image());
+        EXPECT_GT(Graph.Drawn.Items.size(), 20U);
+        EXPECT_NEAR(Graph.X, X * TwipsPerMillimetre, 1);
+        EXPECT_NEAR(Graph.Y, Y * TwipsPerMillimetre, 1);
+        EXPECT_NEAR(Graph.Width, Width * TwipsPerMillimetre, 1);
+        EXPECT_NEAR(Graph.Height, Height * TwipsPerMillimetre, 1);
+        EXPECT_TRUE(Find(Title));
+        EXPECT_GT(Find("The software program")->Top, Y + Height);
     }
 }
 
-// No text on another, be it of the graph, on a symbol or off the paper: with long names, lengths and units.
-TEST_F(GraphPagesTest, NothingOnAPageHidesAText)
-{
-    for (ProjectFields Record : {GravityRecord(), PumpCurveRecord()}) {
-        SetProfile(Record, 12, 120, 190, 128600.5);
-        SetText(Record.Project, "A main of some length for the regional scheme");
-        DrawAll(Record);
-        frmLCC.comVaryingDemandUnits.ListIndex = frmLCC.comGFlowrateUnits.ListIndex =
-            frmLCC.comFlowUnits.ListIndex = static_cast<int>(frmLCC.comFlowUnits.List.Get().size()) - 1;
-        for (const std::size_t NameLength : {20, 130}) {
-            frmLCC.lblFileName.Caption = std::string(NameLength, 'x');
-            for (int Index = 0; Index < 7; ++Index) {
-                if (Index == 6) DrawIncomeExpenditure(), frmResults.ssoIncomeExpenditure.Value = true;
-                std::vector<Placed> Items = Printed(Pages[std::min(Index, 5)]);
-                const PrintedPage& Page = Windows.Pages.back();
-                const PlacedDrawing& Graph = Page.Drawings[0];
-                const double Scale = Graph.Height / Graph.Drawn.Height / TwipsPerMillimetre;
-                AddItems(Items, Graph.Drawn, Graph.X / TwipsPerMillimetre, Graph.Y / TwipsPerMillimetre,
-                         Scale);
-                for (const Placed& One : Items) {
-                    if (One.Text.starts_with("img")) continue; // symbols lie on labels of the graph
-                    EXPECT_LE(One.Right, Page.Print.Width / TwipsPerMillimetre) << One.Text;
-                    for (const Placed& Other : Items) {
-                        constexpr double Leading = 0.7; // white above and below the letters of a line
-                        const bool GraphsOwn = &Other - Items.data() > &One - Items.data() &&
-                                               Other.Face.Name.empty() && One.Face.Name.empty();
-                        if (&One == &Other || GraphsOwn || Other.Text.starts_with("imgCPP")) continue;
-                        EXPECT_FALSE(One.Left < Other.Right && Other.Left < One.Right &&
-                                     One.Top + Leading < Other.Bottom - Leading &&
-                                     Other.Top + Leading < One.Bottom - Leading)
-                            << Index << ": " << One.Text << " on " << Other.Text;
-                    }
-                }
-            }
-        }
-        frmResults.ssoDemandCapacity.Value = true;
-    }
-}
-
-// The facts are those of the picture, whatever the bar says since. By hand: the distances of the sample's
-// ends.
-TEST_F(GraphPagesTest, TheHydraulicPageTellsTheYearThatIsDrawn)
+// The facts are those of the picture, whatever the bar says since; the captions of a legend are the screen's.
+TEST_F(GraphPagesTest, FactsAndLegendsFollowWhatIsDrawn)
 {
     for (const ProjectFields& Record : {GravityRecord(), PumpCurveRecord()}) {
         DrawAll(Record);
+        Print(PrintSystemGraph);
+        EXPECT_EQ(FactOf("Demand (Supplied + shortage") + FactOf("(l/s)"), ") (l/s)Yield (l/s)");
+        frmResults.ssoIncomeExpenditure.Value = true;
+        DrawIncomeExpenditure();
+        Print(PrintSystemGraph);
+        EXPECT_TRUE(Find("Income & Expenditure") && Find("Maintenance costs (R/year)"));
+        EXPECT_EQ(Find("Energy costs") != nullptr, IsPumping());
+
         PlotYear = 4;
         DrawHydraulicPlot();
         PlotYear = 9;
-        HideGradeline = 1; // changes nothing in the legend
-        const auto Items = Printed(PrintHydraulicGraph);
-        EXPECT_EQ(Behind(Items, "Begin distance:"), "0.000 m");
-        EXPECT_EQ(Behind(Items, "End distance:"), frmResults.comEnd.List.Get().back() + " m");
-        EXPECT_EQ("Flow rate: " + Behind(Items, "Flow rate:"), frmResults.lblMaxFlow.Caption.Get());
-        const Placed* const Year = Find(Items, "Year: 2006");
-        ASSERT_TRUE(Year);
-        EXPECT_EQ(Year->Top, Find(Items, IsPumping() ? "Pumping head:" : "Flow rate:")->Top);
-        EXPECT_EQ(Find(Items, "Pumping head:") != nullptr, IsPumping());
-        const double Left[] = {15, 65, 115, 15, 65};
-        for (int Symbol = 1; Symbol <= 5; ++Symbol) {
-            const Placed* const Found = Find(Items, "imgCPP(" + std::to_string(Symbol) + ")");
-            ASSERT_TRUE(Found);
-            EXPECT_NEAR(Found->Left, Left[Symbol - 1], 0.01);
-            EXPECT_NEAR(Found->Top, Symbol <= 3 ? 206 : 213, 0.01);
+        HideGradeline = 1; // leaves this legend
+        Print(PrintHydraulicGraph);
+        EXPECT_EQ(FactOf("End distance:"), frmResults.comEnd.List.Get().back() + " m");
+        EXPECT_EQ("Flow rate: " + FactOf("Flow rate:"), frmResults.lblMaxFlow.Caption.Get());
+        ASSERT_TRUE(Find("Year: 2006") && Find("imgCPP(5)") && Find("- Pumpstation"));
+        EXPECT_EQ(Find("Year: 2006")->Top, Find(IsPumping() ? "Pumping head:" : "Flow rate:")->Top);
+
+        KsYear[1] = 0.00015; // m
+        for (const std::int16_t Hidden : {0, 1}) {
+            HideGradeline = wUnits = Hidden;
+            Print(PrintProfileGraph);
+            EXPECT_EQ(FactOf("Absolute roughness:"), Hidden ? "" : "0.150 mm");
+            for (const char* Each : {"Year: 2003", "Flow rate:", "Hydraulic", "gradeline"})
+                EXPECT_EQ(Find(Each) == nullptr, Hidden == 1) << Each;
+            EXPECT_TRUE(Find("LEGEND:") && Find("Pipeline"));
         }
+        HideGradeline = 0;
+        Print(PrintRoughnessProfileGraph);
+        EXPECT_EQ(FactOf("Absolute roughness:"), "0.006 ''");
     }
 }
 
-TEST_F(GraphPagesTest, TheProfilePageDropsWhatTellsOfAHiddenGradeline)
-{
-    DrawAll(GravityRecord());
-    KsYear[1] = 0.00015; // m
-    auto Items = Printed(PrintProfileGraph);
-    EXPECT_EQ(Behind(Items, "Absolute roughness:"), "0.150 mm");
-    EXPECT_TRUE(Find(Items, "Year: 2003") && Find(Items, "Hydraulic") && Find(Items, "gradeline"));
-    EXPECT_LT(Find(Items, "Year: 2003")->Right, 50);
-    const double Legend = Find(Items, "LEGEND:")->Top;
-    EXPECT_NEAR(Legend, 102, 0.01);
-    wUnits = 1;
-    EXPECT_EQ(Behind(Printed(PrintRoughnessProfileGraph), "Absolute roughness:"), "0.006 ''");
-
-    HideGradeline = 1;
-    Items = Printed(PrintProfileGraph);
-    for (const char* Each : {"Absolute roughness:", "Year: 2003", "Flow rate:", "Hydraulic", "gradeline"})
-        EXPECT_FALSE(Find(Items, Each)) << Each;
-    EXPECT_TRUE(Find(Items, "Pipeline"));
-    EXPECT_NEAR(Find(Items, "LEGEND:")->Top, Legend, 0.01);
-}
-
-// The captions are the screen's own; a gravity system has no energy.
-TEST_F(GraphPagesTest, TheLegendOfASystemGraphFollowsTheOption)
-{
-    constexpr Color Violet = Rgb(255, 10, 240);
-    for (const ProjectFields& Record : {GravityRecord(), PumpCurveRecord()}) {
-        DrawAll(Record);
-        auto Items = Printed(PrintSystemGraph);
-        EXPECT_EQ(Behind(Items, "Demand (Supplied + shortage"), ") (l/s)");
-        EXPECT_TRUE(Find(Items, "Yield (l/s)"));
-        frmResults.ssoIncomeExpenditure.Value = true;
-        DrawIncomeExpenditure();
-        Items = Printed(PrintSystemGraph);
-        EXPECT_TRUE(Find(Items, "System Analysis: Income & Expenditure"));
-        for (const char* Each :
-             {"Income (R/year)", "Capital expenditure (R/year)", "Maintenance costs", "Operational costs"})
-            EXPECT_TRUE(Find(Items, Each)) << Each;
-        EXPECT_EQ(Find(Items, "Energy costs") != nullptr, IsPumping());
-        std::vector<std::pair<int, int>> Boxes;
-        bool Energy = false;
-        for (const DisplayItem& Each : Windows.Pages.back().Print.Items)
-            if (const auto* Box = std::get_if<BoxItem>(&Each)) {
-                Boxes.emplace_back(Box->X1, Box->Y1);
-                Energy = Energy || Box->Fill == Violet;
-            }
-        std::vector<std::pair<int, int>> Expected = {{1701, 8787}, {5669, 8787}, {9638, 8787}, {1701, 9071}};
-        if (IsPumping()) Expected.emplace_back(5669, 9071); // twips of 100, 160
-        EXPECT_EQ(Boxes, Expected);
-        EXPECT_EQ(Energy, IsPumping());
-        frmResults.ssoDemandCapacity.Value = true;
-    }
-}
-
-// Amounts that span more than the axis has steps for leave out what is far from the rate of return, and the
-// facts say so.
+// Amounts that span more than the axis has steps for leave out what is far from the rate of return.
 TEST_F(GraphPagesTest, TheGraphOfRatesShowsTheReturnWithWhatFits)
 {
-    const std::pair<double, bool> Cases[] = {
-        {0.01, true}, {1, false}, {10, false}}; // factor, whether all fits
-    for (const auto& [Times, All] : Cases) {
+    for (const double Times : {0.01, 1.0, 10.0}) { // the tariff; all fits the first
         ProjectFields Record = GravityRecord();
         Record.WaterSales = Times * Record.WaterSales;
         DrawAll(Record);
-        const auto Items = Printed(PrintIrrGraph);
-        EXPECT_EQ(Behind(Items, "Begin IRR:") == "0 %" && Behind(Items, "End IRR:") == "200 %", All);
-        EXPECT_LE(frmIRRView.hsbBegin.Value, 100 * Irr);
-        EXPECT_GE(frmIRRView.hsbEnd.Value, 100 * Irr);
-        EXPECT_FALSE(Windows.Pages.back().Drawings[0].Drawn.Items.empty());
-        EXPECT_EQ(LastMessage().find("Could not show"), std::string::npos);
-        EXPECT_TRUE(Behind(Items, "Calculated IRR:").ends_with(" %"));
+        EXPECT_FALSE(Print(PrintIrrGraph).Drawings[0].Drawn.Items.empty());
+        EXPECT_EQ(FactOf("Begin IRR:") + FactOf("End IRR:") == "0 %200 %", Times < 1);
+        EXPECT_TRUE(frmIRRView.hsbBegin.Value <= 100 * Irr && 100 * Irr <= frmIRRView.hsbEnd.Value);
     }
 }
 
