@@ -35,7 +35,6 @@ private:
     const std::vector<PrintedPage>& Pages;
     PagesView* const View;
     QSpinBox* const Number = new QSpinBox;
-    QLabel* const Section = MutedText("");
     QLabel* const Scale = Text("");
     QToolButton* ToWidth = nullptr;
     QToolButton* ToPage = nullptr;
@@ -48,7 +47,6 @@ PreviewWindow::PreviewWindow(QWidget* Owner, const std::vector<PrintedPage>& Sho
     , Pages(Shown)
     , View(new PagesView(Shown))
 {
-    setWindowTitle("Print Preview");
     resize(WindowSize.boundedTo(screen()->availableSize() * 0.9));
     NameField(View, "Pages");
 
@@ -60,9 +58,8 @@ PreviewWindow::PreviewWindow(QWidget* Owner, const std::vector<PrintedPage>& Sho
 
     auto* const Layout = new QVBoxLayout(this);
     Layout->setContentsMargins(0, Gap, 0, 0);
-    QWidget* const Bar = InRow({PageButtons(), Elided(Section), SizeButtons(), ToFile, Close});
+    QWidget* const Bar = InRow({PageButtons(), nullptr, SizeButtons(), nullptr, ToFile, Close});
     Bar->layout()->setContentsMargins(Gap, 0, Gap, 0);
-    static_cast<QBoxLayout*>(Bar->layout())->setStretchFactor(Section, 1);
     Layout->addWidget(Bar);
     Layout->addWidget(View, 1);
     View->Changed = [this] { Follow(); };
@@ -118,13 +115,13 @@ QWidget* PreviewWindow::SizeButtons()
     return InRow({Smaller, Scale, Larger, ToWidth, ToPage});
 }
 
-// What the bar tells of page and size.
+// What title and bar tell of page and size.
 void PreviewWindow::Follow()
 {
     const int Page = View->CurrentPage();
     const QSignalBlocker Silent(Number);
     Number->setValue(Page + 1);
-    Section->setText(QString::fromStdString(Pages[static_cast<std::size_t>(Page)].Section));
+    setWindowTitle("Print Preview: " + QString::fromStdString(Pages[static_cast<std::size_t>(Page)].Section));
     Scale->setText(QString("%1 %").arg(std::lround(100 * View->Scale())));
     ToWidth->setChecked(View->Fit() == PageFit::Width);
     ToPage->setChecked(View->Fit() == PageFit::WholePage);
