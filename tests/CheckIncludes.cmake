@@ -16,7 +16,7 @@ set(floors
   "shell"
   "paint"
   "batch|desktop")
-set(toolkit_folders src/batch src/desktop src/paint tests/desktop)
+set(toolkit_folders src/batch src/desktop src/paint tests/desktop bench/desktop)
 
 set(level 0)
 foreach(floor IN LISTS floors)

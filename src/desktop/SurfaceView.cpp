@@ -13,7 +13,6 @@
 namespace velorix {
 namespace {
 
-constexpr double TwipsPerPixel = 15;
 constexpr double LeastScale = 0.55; // below it the labels can't be read
 
 } // namespace

@@ -7,10 +7,18 @@
 
 #include <QGuiApplication>
 
+#include <cstdio>
+
 extern "C" [[gnu::visibility("default")]] const velorix::PaintServices* VelorixPaintServices();
 
 namespace velorix {
 namespace {
+
+// What the toolkit remarks about a session without a desktop is of no use to the user; a reason to end is.
+void TellEnd(QtMsgType Kind, const QMessageLogContext&, const QString& Text)
+{
+    if (Kind == QtFatalMsg) std::fprintf(stderr, "velorix-batch: %s\n", qUtf8Printable(Text));
+}
 
 // Lives until the process ends.
 void StartToolkit()
@@ -18,6 +26,7 @@ void StartToolkit()
     static int Count = 1;
     static char Name[] = "velorix-batch";
     static char* Arguments[] = {Name, nullptr};
+    qInstallMessageHandler(TellEnd);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     new QGuiApplication(Count, Arguments);
 }

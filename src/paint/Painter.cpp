@@ -13,8 +13,6 @@
 namespace velorix {
 namespace {
 
-constexpr double TwipsPerPixel = 15;
-
 QColor Shade(Color Value)
 {
     return {Value.Red(), Value.Green(), Value.Blue()};
