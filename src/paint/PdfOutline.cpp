@@ -33,8 +33,11 @@ QPDFObjectHandle BookmarkObject(QPDF& Document, const PdfBookmark& Mark, const Q
 {
     QPDFObjectHandle Result = Document.makeIndirectObject(QPDFObjectHandle::newDictionary());
     QPDFObjectHandle Destination = QPDFObjectHandle::newArray();
+    const double Top = QPDFPageObjectHelper(Page).getMediaBox().getArrayAsRectangle().ury;
     Destination.appendItem(Page);
-    Destination.appendItem(QPDFObjectHandle::newName("/Fit"));
+    Destination.appendItem(QPDFObjectHandle::newName("/XYZ"));
+    for (const double Each : {0.0, Top, 0.0}) // the left, the top, the zoom as it is
+        Destination.appendItem(QPDFObjectHandle::newReal(Each));
     Result.replaceKey("/Title", TextObject(Mark.Title));
     Result.replaceKey("/Parent", Parent);
     Result.replaceKey("/Dest", Destination);
