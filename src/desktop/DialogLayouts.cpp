@@ -10,6 +10,7 @@
 #include "screens/Analyse.h"
 #include "screens/Dialogs.h"
 #include "screens/DutyPointScreen.h"
+#include "screens/Guide.h"
 
 #include <QDialog>
 #include <QFrame>
@@ -240,7 +241,7 @@ const std::vector<DialogLayout>& AllDialogs()
         {&frmLCCType, LccTypeDialog},       {&frmPref, PreferencesDialog},
         {&frmDeleteRow, DeleteRowDialog},   {&frmAnalyse, AnalyseDialog},
         {&frmDisclaimer, DisclaimerDialog}, {&frmAbout, AboutDialog},
-        {&frmDutyPoint, DutyPointDialog}};
+        {&frmDutyPoint, DutyPointDialog},   {&frmPDFView, GuideDialog}};
     return Dialogs;
 }
 

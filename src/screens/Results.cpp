@@ -12,9 +12,8 @@ ResultsScreen::ResultsScreen()
     chkComponents.Value = chkGradeline.Value = true;
     ssoDemandCapacity.Value = true;
     sscDutypoint.Visible = false;
-    for (CommandButton* Each :
-         {&sscPrintView, &sscPrintSystem, &sscPrintDutyYear, &sscHelp1, &sscHelp2, &sscHelp3})
-        Each->Enabled = false; // until there is paper to print on, and a guide to open
+    for (CommandButton* Each : {&sscPrintView, &sscPrintSystem, &sscPrintDutyYear})
+        Each->Enabled = false; // until there is paper to print on
     lblGridColor.Visible = false;
     lblGridColor.BackColor = CurveGridColor;
     msgHydraulic.ColWidth = {1050, 1450, 1450, 1450, 1450, 1700};
