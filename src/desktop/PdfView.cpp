@@ -103,7 +103,10 @@ void PdfPages::Fit(ZoomMode Chosen)
 {
     const double Before = Top();
     setZoomMode(Chosen);
-    SetTop(Before);
+    if (Chosen == ZoomMode::FitInView)
+        GoTo(CurrentPage());
+    else
+        SetTop(Before);
 }
 
 void PdfPages::showEvent(QShowEvent* Event)
@@ -145,6 +148,7 @@ PdfView::PdfView(PdfViewer& Shown)
     auto* const Layout = new QVBoxLayout(this);
     Layout->setContentsMargins(0, 0, 0, 0);
     Layout->addWidget(Pages);
+    setFocusProxy(Pages);
     Attach(Record, this, Pages);
     connect(Pages->pageNavigator(), &QPdfPageNavigator::currentPageChanged, this, &PdfView::ShowPage);
     Follow(Record.File, this, [this](const std::string& Path) { Open(Path); });
@@ -159,6 +163,7 @@ PdfView::~PdfView()
 QWidget* PdfView::MakeTools()
 {
     Chapters = new QComboBox;
+    Chapters->setPlaceholderText("Chapters"); // ahead of the first
     NameField(Chapters, "Chapter");
     connect(Chapters, &QComboBox::activated, this,
             [this](int Row) { Pages->GoTo(Chapters->itemData(Row).toInt()); });
@@ -169,7 +174,7 @@ QWidget* PdfView::MakeTools()
     connect(Page, &QSpinBox::valueChanged, this, [this](int Number) { Pages->GoTo(Number - 1); });
     for (const auto& [Keys, Step] : {std::pair{"Ctrl+PgUp", -1}, std::pair{"Ctrl+PgDown", 1}})
         connect(new QShortcut(QKeySequence(Keys), this), &QShortcut::activated, this,
-                [this, Step = Step] { Page->stepBy(Step); });
+                [this, Step = Step] { Page->setValue(Page->value() + Step); });
 
     const auto Fit = [this](PdfPages::ZoomMode Chosen) { return [this, Chosen] { Pages->Fit(Chosen); }; };
     return InRow(

@@ -3,8 +3,9 @@
 
 #include "base/Failure.h"
 
-#include <QFileInfo>
+#include <QFile>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QTextImageFormat>
 
 namespace velorix {
@@ -13,10 +14,15 @@ namespace {
 
 std::unique_ptr<QSvgRenderer> ReadDrawing(const QString& Name, const QStringList& Folders)
 {
-    auto Drawing = std::make_unique<QSvgRenderer>();
-    for (const QString& Folder : Folders)
-        if (const QString Path = Folder + "/" + Name; QFileInfo::exists(Path) && Drawing->load(Path))
-            return Drawing;
+    // The toolkit takes a list of typefaces for the name of one, which it doesn't have.
+    static const QRegularExpression Typefaces("font-family=\"([^\",]+),[^\"]*\"");
+    for (const QString& Folder : Folders) {
+        QFile Source(Folder + "/" + Name);
+        if (!Source.open(QIODevice::ReadOnly)) continue;
+        const QString Text = QString::fromUtf8(Source.readAll()).replace(Typefaces, "font-family=\"\\1\"");
+        auto Drawing = std::make_unique<QSvgRenderer>();
+        if (Drawing->load(Text.toUtf8())) return Drawing;
+    }
     throw Failure("There is no figure " + Name.toStdString() + ".");
 }
 

@@ -54,8 +54,9 @@ bool IsFigure(const QTextBlock& Each)
 // Leads to what follows.
 bool LeadsOn(const QTextBlock& Each)
 {
-    const bool AheadOfTable = !QTextCursor(Each).currentTable() && QTextCursor(Each.next()).currentTable();
-    return IsHeading(Each) || IsFigure(Each) || AheadOfTable || Each.text().endsWith(':');
+    if (IsFigure(Each.previous())) return false; // its caption ends it
+    return IsHeading(Each) || IsFigure(Each) || IsFigure(Each.next()) ||
+           QTextCursor(Each.next()).currentTable() || Each.text().endsWith(':');
 }
 
 bool GoesOn(const QTextBlock& Each, const QTextBlock& Next)
