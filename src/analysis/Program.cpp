@@ -12,6 +12,7 @@
 #include "results/ChartFrame.h"
 #include "results/PlotState.h"
 #include "results/ScenarioLines.h"
+#include "tools/ProfileImport.h"
 
 namespace velorix {
 
@@ -26,6 +27,7 @@ void ResetProgram()
     ResetPlotState();
     ResetChartFrames();
     ResetScenarioLines();
+    ResetImport();
     ResetPrinter();
     ResetPageFrame();
     ResetPrintYear();

@@ -1,6 +1,7 @@
 // Opening dialogs, kind of system, preferences, row deletion and notices.
 #include "desktop/DialogLayouts.h"
 
+#include "desktop/ChartParts.h"
 #include "desktop/FormRows.h"
 #include "desktop/Icons.h"
 #include "desktop/QtPlatform.h"
@@ -11,6 +12,7 @@
 #include "screens/Dialogs.h"
 #include "screens/DutyPointScreen.h"
 #include "screens/Guide.h"
+#include "screens/ImportWizard.h"
 
 #include <QDialog>
 #include <QFrame>
@@ -229,7 +231,8 @@ QDialog* DutyPointDialog(QWidget* Owner)
     Curves->setFixedSize(RoomForCurves);
     return FixedWindow(
         frmDutyPoint, Owner,
-        {Curves, View(frmDutyPoint.lblAdvice), InRow({nullptr, DefaultButton(frmDutyPoint.sscOK)})});
+        {InRow({LineKey({{PumpCurveInk, "Pump curve"}, {SystemCurveInk, "System curve"}}), nullptr}), Curves,
+         View(frmDutyPoint.lblAdvice), InRow({nullptr, DefaultButton(frmDutyPoint.sscOK)})});
 }
 
 } // namespace
@@ -241,7 +244,8 @@ const std::vector<DialogLayout>& AllDialogs()
         {&frmLCCType, LccTypeDialog},       {&frmPref, PreferencesDialog},
         {&frmDeleteRow, DeleteRowDialog},   {&frmAnalyse, AnalyseDialog},
         {&frmDisclaimer, DisclaimerDialog}, {&frmAbout, AboutDialog},
-        {&frmDutyPoint, DutyPointDialog},   {&frmPDFView, GuideDialog}};
+        {&frmDutyPoint, DutyPointDialog},   {&frmImport, ImportDialog},
+        {&frmPDFView, GuideDialog}};
     return Dialogs;
 }
 

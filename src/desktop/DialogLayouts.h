@@ -21,6 +21,7 @@ const std::vector<DialogLayout>& AllDialogs();
 
 QDialog* AnalyseDialog(QWidget* Owner);
 QDialog* GuideDialog(QWidget* Owner);
+QDialog* ImportDialog(QWidget* Owner);
 
 // Tells the platform which factory makes which screen's window.
 void RegisterDialogs(QtPlatform& Windows);

@@ -46,6 +46,7 @@ public:
 private:
     struct Shape {
         int Rows = 0;
+        int Cols = 0;
         int HeadRows = 0;
         int HeadCols = 0;
         bool Merging = false;

@@ -15,17 +15,17 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
-    bool hasHeightForWidth() const override { return true; }
-    int heightForWidth(int Width) const override;
 
 protected:
     void paintEvent(QPaintEvent* Event) override;
+    void enterEvent(QEnterEvent* Enter) override;
     void mouseMoveEvent(QMouseEvent* Move) override;
     void mousePressEvent(QMouseEvent* Press) override;
     void keyPressEvent(QKeyEvent* Key) override;
 
 private:
-    QRectF Sheet() const; // where the picture stands in the widget
+    QRectF
+    Sheet() const; // where the picture stands in the widget: at its top, on whole pixels of the display
 
     DrawingSurface& Record;
     QPixmap Drawn; // the list as it was last painted, at the size and density of then

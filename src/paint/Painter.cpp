@@ -13,6 +13,10 @@
 namespace velorix {
 namespace {
 
+// The ascent of a typeface begins above its tallest letter; a title at the foot of a sheet needs that room
+// for the letters that reach below the line.
+constexpr double LetterTop = 0.97;
+
 QColor Shade(Color Value)
 {
     return {Value.Red(), Value.Green(), Value.Blue()};
@@ -108,7 +112,7 @@ struct Draw {
         const QFont Face = Typeface(Text.Face);
         Painter.setFont(Face);
         Painter.setPen(Shade(Text.Ink));
-        Painter.drawText(QPointF(Text.X, Text.Y + QFontMetricsF(Face).ascent()),
+        Painter.drawText(QPointF(Text.X, Text.Y + LetterTop * QFontMetricsF(Face).ascent()),
                          QString::fromStdString(Text.Text));
     }
     void operator()(const PictureItem& Picture) const

@@ -130,6 +130,12 @@ struct PdfViewer : Control {
     Property<std::string> Bookmark{*this}; // the document opens there; empty for its first page
 };
 
+// A picture of the program, by its name.
+struct Image : Control {
+    Image(std::string Name = {});
+    Property<std::string> Picture{*this};
+};
+
 // Raises Tick every Interval milliseconds while it is enabled, from the event loop only.
 struct Timer : Control {
     explicit Timer(int Milliseconds);

@@ -8,6 +8,7 @@
 #include <span>
 #include <string>
 #include <variant>
+#include <vector>
 
 namespace velorix {
 
@@ -16,6 +17,13 @@ struct Tab {
     int Column;
 };
 using PrintItem = std::variant<Tab, std::string>;
+
+// A row of a table: texts at their columns, from left to right.
+struct Cell {
+    int Column;
+    std::string Text;
+};
+using Cells = std::vector<Cell>;
 
 enum class PaperScale { Twips = 1, Millimetres = 6 };
 enum class PaperOrientation { Portrait = 1, Landscape = 2 };
@@ -44,6 +52,19 @@ public:
     void Print(std::initializer_list<PrintItem> Items = {}) { Print(std::span(Items.begin(), Items.size())); }
     void Print(std::span<const PrintItem> Items);
 
+    // Writes a row as one line, whatever its texts: one that would reach the next column is set smaller.
+    void PrintCells(const Cells& Row);
+
+    // Writes a text from the column on, on as many lines as it takes.
+    void PrintWrapped(Tab Target, const std::string& Text);
+
+    // The size, the wanted one at the most, in which the last text of each row ends on the paper.
+    double SizeThatFits(double Wanted, std::span<const Cells> Rows) const;
+
+    // Moves all that stands below Top together, and sets it smaller, when the current position is beyond
+    // Bottom, so that it comes to stand there.
+    void FitBetween(double Top, double Bottom);
+
     // A level line that begins Right of and Below the current position, which moves to its end.
     void Line(double Right, double Below, double Length);
 
@@ -65,7 +86,8 @@ private:
     int ToTwips(double Length) const;
     Font InForce() const { return {FontName, FontSize, FontBold, FontUnderline}; }
     void Move(Tab Target, const Font& Face);
-    void Write(const std::string& Text, Font Face);
+    void Write(const std::string& Text, const Font& Face, double End);
+    double RightEdge() const;
     void EndLine(const Font& Face);
 
     PrintedPage Page;

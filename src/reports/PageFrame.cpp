@@ -20,6 +20,8 @@ std::int16_t PageNo = 0;
 
 namespace {
 
+double BodyTop = 0; // where the last page head ended (mm)
+
 constexpr Color HeadBlue = Rgb(0, 0, 255);
 constexpr double UprightRule = 185; // mm
 constexpr double WideRule = 265;
@@ -71,12 +73,26 @@ void PrintLogoAndProject(double Size)
     Printer.FontUnderline = false;
 }
 
+// What is left of a long name stands on one line; what couldn't be read there well, in small type on lines
+// that begin at the same place.
+void PrintRest(int Column, const std::string& Rest)
+{
+    constexpr double SmallType = 8;
+    const double Size = Printer.FontSize;
+    const Cells Line = {{Column, Rest}};
+    if (Printer.SizeThatFits(Size, {&Line, 1}) >= SmallType)
+        return Printer.Print({Tab{7}, Tab{Column}, Rest});
+    Printer.FontSize = SmallType;
+    Printer.PrintWrapped(Tab{1 + RoundToInt32((Column - 1) * Size / SmallType)}, Rest);
+    Printer.FontSize = Size;
+}
+
 // A name of some length in the second column; what is too long for a line follows on the next.
 bool PrintSplit(const char* Caption, int Column, const std::string& Text, int MostCharacters)
 {
     const auto [First, Rest] = SplitAfter(Text, MostCharacters);
     Printer.Print({Tab{7}, Caption, Tab{Column}, std::string(First)});
-    if (!Rest.empty()) Printer.Print({Tab{7}, Tab{Column}, std::string(Rest)});
+    if (!Rest.empty()) PrintRest(Column, std::string(Rest));
     return !Rest.empty();
 }
 
@@ -93,6 +109,7 @@ void EndHead(int PageColumn, double RuleLength)
     Printer.Print({Tab{10}, "Printed: " + LongDate(System().Today()), Tab{PageColumn}, "Page ",
                    std::to_string(PageNo)});
     DrawRule(RuleLength);
+    BodyTop = Printer.CurrentY();
 }
 
 void PrintFoot(std::span<const char* const> Disclaimer, double RuleLength)
@@ -142,6 +159,18 @@ void PrintPageFoot()
     PrintFoot(UprightDisclaimer, UprightRule);
 }
 
+void FitBodyAbove(double Y)
+{
+    Printer.FitBetween(BodyTop, Y);
+}
+
+void PrintPageFootAt(double Y)
+{
+    FitBodyAbove(Y);
+    Printer.SetCurrentY(Y);
+    PrintPageFoot();
+}
+
 void PrintGraphPageHead()
 {
     Printer.Orientation = PaperOrientation::Landscape;
@@ -167,6 +196,7 @@ void PrintRule()
 void ResetPageFrame()
 {
     PageNo = 0;
+    BodyTop = 0;
 }
 
 } // namespace velorix

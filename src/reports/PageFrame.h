@@ -13,6 +13,12 @@ void PrintPageFoot();
 void PrintGraphPageHead();
 void PrintGraphPageFoot();
 
+// Sets what stands below the head smaller, if need be, so that it ends above Y (mm).
+void FitBodyAbove(double Y);
+
+// The foot at a fixed place (mm), the body fitted above it.
+void PrintPageFootAt(double Y);
+
 // The level line below the head, which tables have above and below their headings too.
 void PrintRule();
 

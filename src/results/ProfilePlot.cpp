@@ -26,8 +26,6 @@ namespace {
 constexpr int LeftMargin = 800;
 constexpr int RightMargin = 600;
 constexpr int YTitleLeft = 11;
-constexpr Color GroundGreen = Rgb(0, 64, 0);
-constexpr Color GradelineBlue = Rgb(0, 0, 255);
 
 // What differs between the three places.
 struct PlotPlace {
@@ -97,7 +95,7 @@ void DrawSymbols(Chart& Plot, NodeRange Nodes)
 
 void DrawGround(Chart& Plot, NodeRange Nodes)
 {
-    TakePen(Plot.Surface, GroundGreen);
+    TakePen(Plot.Surface, GroundInk);
     DrawCurve(
         Plot.Surface, Nodes.First, Nodes.Last, [&](int i) { return Plot.Frame.X(Chainage[i]); },
         [&](int i) { return Plot.Frame.Y(GroundLevel[i]); });
@@ -115,15 +113,20 @@ void DrawTitles(Chart& Plot, const PlotPlace& Place)
                                  Place.YTitleTop);
 }
 
-// In a pumping system with a riser at the station, from the ground up to the head of the first row.
 void DrawGradeline(Chart& Plot, NodeRange Nodes)
 {
     if (HideGradeline != 0) return;
-    TakePen(Plot.Surface, GradelineBlue);
+    TakePen(Plot.Surface, GradelineInk);
     DrawCurve(
         Plot.Surface, Nodes.First, Nodes.Last, [&](int i) { return Plot.Frame.X(Chainage[i]); },
         [&](int i) { return Plot.Frame.Y(Gradeline(GradelinePoint(i), PlotYear)); });
-    if (Nodes.First != 1 || !IsPumping()) return;
+}
+
+// The riser at the pump station, from the ground up to the head of the first row.
+void DrawLift(Chart& Plot, NodeRange Nodes)
+{
+    if (HideGradeline != 0 || Nodes.First != 1 || !IsPumping()) return;
+    TakePen(Plot.Surface, GradelineInk);
     const int x = Plot.Frame.X(Chainage[1]);
     Plot.Surface.Line(x, Plot.Frame.Y(GroundLevel[1]), x, Plot.Frame.Y(Gradeline(1, PlotYear)));
 }
@@ -155,8 +158,8 @@ void ShowCaptions(const PlotPlace& Place)
     Place.HeadCaption.Caption = Facts.Head.empty() ? Facts.Head : "Pumping head: " + Facts.Head;
 }
 
-// The whole drawing; Overlay comes last. A viewer of the input stops after the axes when the hydraulics has
-// failed, once.
+// The whole drawing; Overlay comes upon the gradeline. A viewer of the input stops after the axes when the
+// hydraulics has failed, once.
 template <typename LastLayer>
 void DrawOn(const PlotPlace& Place, bool Symbols, bool StopsWhenFailed, LastLayer Overlay)
 {
@@ -170,6 +173,7 @@ void DrawOn(const PlotPlace& Place, bool Symbols, bool StopsWhenFailed, LastLaye
     }
     DrawGradeline(Plot, *Nodes);
     Overlay(Plot, *Nodes);
+    DrawLift(Plot, *Nodes);
     ShowCaptions(Place);
 }
 

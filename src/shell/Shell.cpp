@@ -16,6 +16,7 @@
 #include "shell/GuideEvents.h"
 #include "shell/Help.h"
 #include "shell/Hints.h"
+#include "shell/ImportEvents.h"
 #include "shell/InputEvents.h"
 #include "shell/MainCommands.h"
 #include "shell/Notices.h"
@@ -56,6 +57,7 @@ void ConnectScreens()
 {
     ConnectHints();
     ConnectGuide();
+    ConnectImportWizard();
     ConnectMainWindow();
     ConnectInputScreen();
     ConnectGridEditors();

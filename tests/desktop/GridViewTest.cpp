@@ -118,6 +118,18 @@ TEST_F(GridViewTest, ToldSizesAreKeptUnlessAHeadingNeedsMore)
     EXPECT_EQ(Shown->CellRect(1, 4).width(), 55);
 }
 
+TEST_F(GridViewTest, ColumnsComeAndGoWhileTheTableIsHidden)
+{
+    for (int Cols : {5, 8, 3}) {
+        Shown->hide();
+        Table.SetCols(Cols);
+        Shown->show();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(Shown->horizontalHeader()->count(), Cols - 1);
+        EXPECT_EQ(Shown->CellRect(1, Cols - 1).right(), Shown->viewport()->rect().right());
+    }
+}
+
 TEST_F(GridViewTest, HeadingsStayWhereTheyAreWhileTheCellsScroll)
 {
     Host->resize(420, 300);
@@ -407,6 +419,18 @@ TEST_F(GridViewTest, RowsThatGoTakeNothingElseAlong)
 }
 
 // The whole table is on the screen within the blink of an eye; ten times the aim allows for a loaded machine.
+TEST_F(GridViewTest, ATableThatIsShownWithFewerColumnsScrollsAsBefore)
+{
+    const int Before = Shown->verticalScrollBar()->maximum();
+    Table.Visible = false;
+    Table.SetCols(5);
+    Table.Visible = true; // laid out before the grid has told its new shape
+    QTest::qWait(1);
+    EXPECT_THAT(Windows.Messages, IsEmpty());
+    EXPECT_EQ(Shown->verticalScrollBar()->maximum(), Before);
+    EXPECT_EQ(Shown->model()->columnCount(), 4);
+}
+
 TEST_F(GridViewTest, FillingAndPaintingAFullTableTakesNoTime)
 {
     QElapsedTimer Watch;

@@ -5,6 +5,8 @@
 #include "input/ProfileTable.h"
 #include "platform/DrawingSurface.h"
 #include "platform/Platform.h"
+#include "screens/ImportWizard.h"
+#include "screens/Viewers.h"
 
 #include <set>
 #include <sstream>
@@ -44,7 +46,10 @@ TEST_F(MainCommandsTest, ResultsAndInputTakeTurns)
     MDIProject.mnuResults.Click(); // not analysed
     EXPECT_TRUE(frmLCC.Visible);
     Analysed = 1;
+    frmPumpView.LoadHidden();
+    frmPumpView.Visible = true; // would stay in front
     MDIProject.mnuResults.Click();
+    EXPECT_FALSE(frmPumpView.Visible);
     EXPECT_TRUE(frmResults.Visible);
     EXPECT_FALSE(frmLCC.Visible);
     MDIProject.mnuGeneral.Click();
@@ -75,11 +80,11 @@ std::string Footprint(const ScriptedPlatform& Windows)
 TEST_F(MainCommandsTest, WhateverCanBePressedDoesSomething)
 {
     const std::set<const Control*> Idle = {
-        &MDIProject.mnuFile,      &MDIProject.munImportExport, &MDIProject.mnuExport,    &MDIProject.mnuView,
-        &MDIProject.mnuHelp,      &MDIProject.mnuFGridRows,    &frmResults.sscDutypoint, &frmResults.sscView,
-        &frmResults.sscChangeView}; // the last three need an analysis
-    Handler* const Missing[] = {&ShowPrintScreen, &ShowImportWizard, &ShowConverter, &ShowGuide,
-                                &ShowRoughness};
+        &MDIProject.mnuFile,       &MDIProject.munImportExport, &MDIProject.mnuExport,    &MDIProject.mnuView,
+        &MDIProject.mnuHelp,       &MDIProject.mnuFGridRows,    &frmResults.sscDutypoint, &frmResults.sscView,
+        &frmResults.sscChangeView, // these three need an analysis
+        &frmImport.sscPrevious};   // hidden on the first step
+    Handler* const Missing[] = {&ShowPrintScreen, &ShowConverter, &ShowGuide, &ShowRoughness};
     for (Handler* Each : Missing) *Each = [] { Warn("shown"); };
     const auto Presses = [this](Screen& Owner, const Control& Pressed, const Handler& Click, bool Panes) {
         ResetProgram();
