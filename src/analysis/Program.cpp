@@ -9,6 +9,7 @@
 #include "platform/Screen.h"
 #include "reports/PageFrame.h"
 #include "reports/ResultReports.h"
+#include "reports/Sections.h"
 #include "results/ChartFrame.h"
 #include "results/PlotState.h"
 #include "results/ScenarioLines.h"
@@ -31,6 +32,7 @@ void ResetProgram()
     ResetPrinter();
     ResetPageFrame();
     ResetPrintYear();
+    ResetPrintGraphYear();
 }
 
 void StartSession()

@@ -13,6 +13,7 @@
 #include "screens/DutyPointScreen.h"
 #include "screens/Guide.h"
 #include "screens/ImportWizard.h"
+#include "screens/Print.h"
 
 #include <QDialog>
 #include <QFrame>
@@ -29,32 +30,6 @@ namespace {
 
 constexpr int DialogMargin = 16;
 constexpr const char* PictureText = "Pipeline between two reservoirs";
-
-// A window with its parts under each other.
-QDialog* Window(const Screen& Record, QWidget* Owner, const std::vector<QWidget*>& Parts)
-{
-    auto* const Dialog = new QDialog(Owner);
-    Dialog->setWindowTitle(QString::fromStdString(Record.Caption));
-    auto* const Layout = new QVBoxLayout(Dialog);
-    Layout->setContentsMargins(DialogMargin, DialogMargin, DialogMargin, DialogMargin);
-    Layout->setSpacing(DialogMargin - 4);
-    for (QWidget* Each : Parts) Layout->addWidget(Each);
-    return Dialog;
-}
-
-QDialog* FixedWindow(const Screen& Record, QWidget* Owner, const std::vector<QWidget*>& Parts)
-{
-    QDialog* const Dialog = Window(Record, Owner, Parts);
-    Dialog->layout()->setSizeConstraint(QLayout::SetFixedSize);
-    return Dialog;
-}
-
-QPushButton* DefaultButton(CommandButton& Record)
-{
-    QPushButton* const Button = View(Record);
-    Button->setDefault(true);
-    return Button;
-}
 
 QGroupBox* Card(const QString& Heading, const std::vector<QWidget*>& Content)
 {
@@ -237,6 +212,25 @@ QDialog* DutyPointDialog(QWidget* Owner)
 
 } // namespace
 
+QDialog* FixedWindow(const Screen& Record, QWidget* Owner, const std::vector<QWidget*>& Parts)
+{
+    auto* const Dialog = new QDialog(Owner);
+    Dialog->setWindowTitle(QString::fromStdString(Record.Caption));
+    auto* const Layout = new QVBoxLayout(Dialog);
+    Layout->setContentsMargins(DialogMargin, DialogMargin, DialogMargin, DialogMargin);
+    Layout->setSpacing(DialogMargin - 4);
+    for (QWidget* Each : Parts) Layout->addWidget(Each);
+    Layout->setSizeConstraint(QLayout::SetFixedSize);
+    return Dialog;
+}
+
+QPushButton* DefaultButton(CommandButton& Record)
+{
+    QPushButton* const Button = View(Record);
+    Button->setDefault(true);
+    return Button;
+}
+
 const std::vector<DialogLayout>& AllDialogs()
 {
     static const std::vector<DialogLayout> Dialogs = {
@@ -245,7 +239,8 @@ const std::vector<DialogLayout>& AllDialogs()
         {&frmDeleteRow, DeleteRowDialog},   {&frmAnalyse, AnalyseDialog},
         {&frmDisclaimer, DisclaimerDialog}, {&frmAbout, AboutDialog},
         {&frmDutyPoint, DutyPointDialog},   {&frmImport, ImportDialog},
-        {&frmPDFView, GuideDialog}};
+        {&frmPrint, PrintDialogWindow},     {&frmSelectYear, YearDialog},
+        {&frmSelectYear1, GraphYearDialog}, {&frmPDFView, GuideDialog}};
     return Dialogs;
 }
 

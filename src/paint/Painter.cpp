@@ -121,23 +121,12 @@ struct Draw {
     }
 };
 
-} // namespace
-
-QRectF PlaceOf(const DisplayList& Image, const QRectF& Target)
+// Replays the list on whatever is there.
+void Replay(QPainter& Painter, const DisplayList& Image, const QRectF& Place)
 {
-    const QSizeF Size = QSizeF(Image.Width, Image.Height).scaled(Target.size(), Qt::KeepAspectRatio);
-    QRectF Place(QPointF(), Size);
-    Place.moveCenter(Target.center());
-    return Place;
-}
-
-void Paint(QPainter& Painter, const DisplayList& Image, const QRectF& Target)
-{
-    const QRectF Place = PlaceOf(Image, Target);
     Painter.save();
     Painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     Painter.setClipRect(Place);
-    Painter.fillRect(Place, Qt::white);
     Painter.translate(Place.topLeft());
     Painter.scale(Place.width() / Image.Width, Place.height() / Image.Height);
     {
@@ -154,15 +143,33 @@ void Paint(QPainter& Painter, const DisplayList& Image, const QRectF& Target)
     Painter.restore();
 }
 
+} // namespace
+
+QRectF PlaceOf(const DisplayList& Image, const QRectF& Target)
+{
+    const QSizeF Size = QSizeF(Image.Width, Image.Height).scaled(Target.size(), Qt::KeepAspectRatio);
+    QRectF Place(QPointF(), Size);
+    Place.moveCenter(Target.center());
+    return Place;
+}
+
+void Paint(QPainter& Painter, const DisplayList& Image, const QRectF& Target)
+{
+    const QRectF Place = PlaceOf(Image, Target);
+    Painter.fillRect(Place, Qt::white);
+    Replay(Painter, Image, Place);
+}
+
 void Paint(QPainter& Painter, const PrintedPage& Page, const QRectF& Target)
 {
     Paint(Painter, Page.Print, Target);
     const QRectF Place = PlaceOf(Page.Print, Target);
     const double Scale = Place.width() / Page.Print.Width;
-    for (const PlacedDrawing& Each : Page.Drawings)
-        Paint(Painter, Each.Drawn,
-              {Place.left() + Each.X * Scale, Place.top() + Each.Y * Scale, Each.Width * Scale,
-               Each.Height * Scale});
+    for (const PlacedDrawing& Each : Page.Drawings) {
+        const QRectF Room(Place.left() + Each.X * Scale, Place.top() + Each.Y * Scale, Each.Width * Scale,
+                          Each.Height * Scale);
+        Replay(Painter, Each.Drawn, PlaceOf(Each.Drawn, Room));
+    }
 }
 
 double PaintedTextWidth(const QString& Text, const Font& Face)

@@ -13,7 +13,7 @@ namespace velorix {
 // Draws the list scaled to the target, its proportions kept, on white paper.
 void Paint(QPainter& Painter, const DisplayList& Image, const QRectF& Target);
 
-// The same of a printed page: what was written, and over it the drawings in their places.
+// The same of a printed page: what was written, and over it the drawings in their places, which hide nothing.
 void Paint(QPainter& Painter, const PrintedPage& Page, const QRectF& Target);
 
 // Where the list stands within the target: as large as its proportions allow, in the middle.

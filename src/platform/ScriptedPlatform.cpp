@@ -61,8 +61,15 @@ void ScriptedPlatform::PrintPage(const PrintedPage& Page)
     Pages.push_back(Page);
 }
 
-std::optional<PrintChoice> ScriptedPlatform::AskPrinter(const PrintDialog&)
+void ScriptedPlatform::EndPrintRun()
 {
+    ++PrintRuns;
+    if (PrintRunsFail) throw FileFailure("The disk is full.");
+}
+
+std::optional<PrintChoice> ScriptedPlatform::AskPrinter(const PrintDialog& Dialog)
+{
+    PrintDialogs.push_back(Dialog);
     return Next(Prints, std::optional<PrintChoice>());
 }
 

@@ -24,6 +24,7 @@ public:
     // What was shown, oldest first.
     std::vector<Message> Messages;
     std::vector<FileDialog> FileDialogs;
+    std::vector<PrintDialog> PrintDialogs;
     std::vector<std::string> ModalScreens;
     std::vector<int> HelpTopics;
     std::vector<PrintedPage> Pages;
@@ -38,6 +39,7 @@ public:
     PixelSize Pixels;
     bool HasSystemInformation = false;
     std::optional<std::size_t> PagesUntilPrinterFails; // and none printed after them
+    bool PrintRunsFail = false;                        // at their end
     std::filesystem::path Folder;
 
     Answer Show(const Message& Box) override;
@@ -46,7 +48,7 @@ public:
     std::optional<std::filesystem::path> AskFileToSave(const FileDialog& Dialog) override;
     std::optional<PrintChoice> AskPrinter(const PrintDialog& Dialog) override;
     void PrintPage(const PrintedPage& Page) override;
-    void EndPrintRun() override { ++PrintRuns; }
+    void EndPrintRun() override;
     void SetFocus(Control& Target) override;
     bool IsInReach(const Control& Target) override { return Target.Visible && Target.Enabled; }
     void SetPointer(PointerShape Shape) override { Pointer = Shape; }

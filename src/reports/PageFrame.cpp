@@ -138,6 +138,7 @@ void PrintFoot(std::span<const char* const> Disclaimer, double RuleLength)
 
 void PrintPageHead()
 {
+    Printer.Orientation = PaperOrientation::Portrait; // also behind a page on its side
     constexpr int MostCharacters = 70;
     BeginHead(21, 24);
     Printer.FontSize = 16;

@@ -1,25 +1,48 @@
 // The order of the rows is the order on paper.
 #include "reports/Sections.h"
 
+#include "input/Session.h"
+#include "model/WorkingSet.h"
 #include "reports/GraphPages.h"
 #include "reports/InputReports.h"
 #include "reports/ResultReports.h"
+#include "results/IrrPlot.h"
 #include "results/PlotState.h"
 #include "results/ProfilePlot.h"
 #include "results/SupplyPlots.h"
 #include "screens/Results.h"
+#include "screens/Viewers.h"
+
+#include <functional>
 
 namespace velorix {
+
+std::int16_t PrintGraphYear = 1;
+
 namespace {
+
+// Undoes something at the end of a section, however it ends.
+class AtEnd {
+public:
+    explicit AtEnd(std::function<void()> Work)
+        : Undo(std::move(Work))
+    {
+    }
+    ~AtEnd() { Undo(); }
+    AtEnd(const AtEnd&) = delete;
+    AtEnd& operator=(const AtEnd&) = delete;
+
+private:
+    const std::function<void()> Undo;
+};
 
 // The graph of PrintYear; the screen keeps the year of its next plot.
 void PrintHydraulicSection()
 {
-    const std::int16_t Shown = PlotYear;
+    const AtEnd Back([Shown = PlotYear] { PlotYear = Shown; });
     PlotYear = PrintYear;
     DrawHydraulicPlot();
     PrintHydraulicGraph();
-    PlotYear = Shown;
 }
 
 // Switching the option draws its graph; one that stands already is drawn anew.
@@ -35,6 +58,14 @@ void PrintIncomeSection()
     frmResults.ssoIncomeExpenditure.Value = true;
     DrawIncomeExpenditure();
     PrintSystemGraph();
+}
+
+// The graph's own screen has gone when the selection shows.
+void PrintIrrSection()
+{
+    const AtEnd Close([] { frmIRRView.Unload(); });
+    OpenIrrGraphForPaper();
+    PrintIrrGraph();
 }
 
 } // namespace
@@ -65,11 +96,42 @@ std::span<const PrintSection, SectionCount> PrintSections()
          "Could not print the Demand & Capacity Analysis graph ! Check the obtained results."},
         {"income-graph", "Income and expenditure graph", frmPrint.chkIncome, Needs::Analysis, PrintIncomeSection,
          "Could not print the Income & Expenditure Analysis graph ! Check the obtained results."},
-        {"irr-graph", "Internal rate of return graph", frmPrint.chkIRR, Needs::Analysis, PrintIrrGraph,
+        {"irr-graph", "Internal rate of return graph", frmPrint.chkIRR, Needs::Analysis, PrintIrrSection,
          "Could not print the IRR graph ! Check the obtained results."},
     };
     // clang-format on
     return Sections;
+}
+
+std::span<const DirectPrint, DirectPrintCount> DirectPrints()
+{
+    // clang-format off
+    static const DirectPrint Prints[DirectPrintCount] = {
+        {"hydraulic-graph", "Hydraulic graph", frmResults.sscPrintView, 1, PrintHydraulicGraph},
+        {"system-graph", "System graph", frmResults.sscPrintSystem, 0, PrintSystemGraph},
+        {"duty", "Pump and system curve", frmResults.sscPrintDutyYear, 1, PrintPumpAndSystemCurve},
+        {"pump-curve", "Pump curve", frmPumpView.sscPrintView, 1, PrintPumpCurveGraph},
+        {"profile-graph", "Pipeline profile graph", frmView.sscPrintView, 0, PrintProfileGraph, DrawProfilePlot},
+        {"roughness-graph", "Pipeline profile with measured data", frmViewRoughness.sscPrintView, 0, PrintRoughnessProfileGraph},
+        {"irr-graph", "Internal rate of return graph", frmIRRView.sscPrintView, 0, PrintIrrGraph, DrawIrrGraph},
+    };
+    // clang-format on
+    return Prints;
+}
+
+bool Stands(Needs Needed)
+{
+    switch (Needed) {
+    case Needs::Project: return ProjectOpen == 1;
+    case Needs::PumpingProject: return ProjectOpen == 1 && IsPumping();
+    case Needs::Analysis: break;
+    }
+    return Analysed == 1;
+}
+
+void ResetPrintGraphYear()
+{
+    PrintGraphYear = 1;
 }
 
 } // namespace velorix

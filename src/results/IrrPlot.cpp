@@ -9,16 +9,54 @@
 #include "screens/Pictures.h"
 #include "screens/Viewers.h"
 
+#include <utility>
+
 namespace velorix {
 namespace {
 
 constexpr double BarUnitsPerPercent = 100;
 
-AxisTicks DifferenceTicks(int Begin, int End)
+DataRange DifferencesBetween(int Begin, int End)
 {
     DataRange Differences{IrrDifference[Begin], IrrDifference[Begin]};
     for (int i = Begin; i <= End; ++i) Differences.Take(IrrDifference[i]);
+    return Differences;
+}
+
+AxisTicks DifferenceTicks(int Begin, int End)
+{
+    const DataRange Differences = DifferencesBetween(Begin, End);
     return FindTicks(Differences.Least, Differences.Most, Ladder::ToTenMillion, OriginWidth::Double);
+}
+
+// Amounts that span too much have no step on the axis, or lie below its origin.
+bool HasAxis(int Begin, int End)
+{
+    try {
+        return DifferenceTicks(Begin, End).Origin <= DifferencesBetween(Begin, End).Least;
+    } catch (const Failure&) { // tells that there is none, and ends nothing
+        ClearArithmeticFlags();
+        return false;
+    }
+}
+
+// All rates, or else those around the rate of return, as many whole percent on both sides as have an axis.
+std::pair<int, int> RangeForPaper()
+{
+    constexpr int Percent = 100;
+    const int Least = frmIRRView.hsbBegin.Min;
+    const int Most = frmIRRView.hsbEnd.Max;
+    ClearArithmeticFlags();
+    if (HasAxis(Least, Most) || !(Irr >= 0 && Irr < Most / BarUnitsPerPercent)) return {Least, Most};
+    int Begin = static_cast<int>(Irr) * Percent;
+    int End = Begin + Percent;
+    if (!HasAxis(Begin, End)) return {Least, Most};
+    for (bool Wider = true; Wider;) {
+        Wider = false;
+        if (Begin > Least && HasAxis(Begin - Percent, End)) Begin -= Percent, Wider = true;
+        if (End < Most && HasAxis(Begin, End + Percent)) End += Percent, Wider = true;
+    }
+    return {Begin, End};
 }
 
 void DrawBetween(int Begin, int End)
@@ -67,6 +105,23 @@ void DrawIrrGraph()
         ClearArithmeticFlags();
         Inform("Could not show the Internal Rate of Return graph.");
     }
+}
+
+void OpenIrrGraph()
+{
+    frmIRRView.LoadHidden();
+    frmIRRView.hsbBegin.Value = frmIRRView.hsbBegin.Min;
+    frmIRRView.hsbEnd.Value = frmIRRView.hsbEnd.Max;
+    DrawIrrGraph();
+}
+
+void OpenIrrGraphForPaper()
+{
+    const auto [Begin, End] = RangeForPaper();
+    frmIRRView.LoadHidden();
+    frmIRRView.hsbBegin.Value = Begin;
+    frmIRRView.hsbEnd.Value = End;
+    DrawIrrGraph();
 }
 
 } // namespace velorix

@@ -11,6 +11,9 @@ namespace velorix {
 ByRow Chainage;
 ByRow GroundLevel;
 std::int16_t PlotYear = 1;
+std::int16_t HydraulicYearDrawn = 1;
+std::int16_t ProfileYearDrawn = 1;
+std::int16_t RoughnessYearDrawn = 1;
 std::int16_t HideGradeline = 0;
 std::int16_t HideComponents = 0;
 
@@ -50,7 +53,7 @@ void ResetPlotState()
 {
     Chainage.Fill(0.0);
     GroundLevel.Fill(0.0);
-    PlotYear = 1;
+    PlotYear = HydraulicYearDrawn = ProfileYearDrawn = RoughnessYearDrawn = 1;
     HideGradeline = 0;
     HideComponents = 0;
 }

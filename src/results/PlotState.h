@@ -6,9 +6,15 @@
 
 namespace velorix {
 
-extern ByRow Chainage;              // accumulated length of a node, in the project's unit
-extern ByRow GroundLevel;           // ground level of a node, in the project's unit
-extern std::int16_t PlotYear;       // year shown, 1 to wLife
+extern ByRow Chainage;        // accumulated length of a node, in the project's unit
+extern ByRow GroundLevel;     // ground level of a node, in the project's unit
+extern std::int16_t PlotYear; // year shown, 1 to wLife
+
+// The year that stands on a plot since it was last drawn; PlotYear may have gone on.
+extern std::int16_t HydraulicYearDrawn; // frmResults
+extern std::int16_t ProfileYearDrawn;   // frmView
+extern std::int16_t RoughnessYearDrawn; // frmViewRoughness
+
 extern std::int16_t HideGradeline;  // 1: the plots leave the gradeline out
 extern std::int16_t HideComponents; // 1: the results plot leaves the symbols out
 

@@ -34,6 +34,7 @@ struct PlotPlace {
     ComboBox& End;
     Label& FlowCaption;
     Label& HeadCaption;
+    std::int16_t& YearDrawn;
     int YTitleTop;
     std::string LengthUnit; // as the x title shows it
     void (*StoreFrame)(const ChartFrame&);
@@ -166,6 +167,7 @@ void DrawOn(const PlotPlace& Place, bool Symbols, bool StopsWhenFailed, LastLaye
     const std::optional<NodeRange> Nodes = ChosenRange(Place);
     if (!Nodes) return;
     Chart Plot{Place.Surface, {}, {}, {}};
+    Place.YearDrawn = PlotYear;
     DrawProfile(Plot, Place, *Nodes, Symbols);
     if (StopsWhenFailed && HydraulicsFailed == 1) {
         HydraulicsFailed = 0;
@@ -204,7 +206,7 @@ bool ViewerIsReady(ProfileViewer& Viewer)
 }
 
 template <typename LastLayer>
-void DrawInViewer(ProfileViewer& Viewer, Label& FlowCaption, LastLayer Overlay)
+void DrawInViewer(ProfileViewer& Viewer, Label& FlowCaption, std::int16_t& YearDrawn, LastLayer Overlay)
 {
     Guarded([&] {
         TakeProfileForPlot();
@@ -214,6 +216,7 @@ void DrawInViewer(ProfileViewer& Viewer, Label& FlowCaption, LastLayer Overlay)
                               Viewer.comEnd,
                               FlowCaption,
                               Viewer.lblPumping,
+                              YearDrawn,
                               2300,
                               "(" + LengthUnit() + ")",
                               [](const ChartFrame& Frame) { ProfileFrame = Frame; }};
@@ -259,6 +262,7 @@ void DrawHydraulicPlot()
                               frmResults.comEnd,
                               frmResults.lblMaxFlow,
                               frmResults.lblPumping,
+                              HydraulicYearDrawn,
                               1800,
                               "( " + LengthUnit() + " )",
                               [](const ChartFrame& Frame) {
@@ -271,12 +275,12 @@ void DrawHydraulicPlot()
 
 void DrawProfilePlot()
 {
-    DrawInViewer(frmView, frmView.lblFlowrate, NoOverlay);
+    DrawInViewer(frmView, frmView.lblFlowrate, ProfileYearDrawn, NoOverlay);
 }
 
 void DrawRoughnessProfilePlot()
 {
-    DrawInViewer(frmViewRoughness, frmViewRoughness.lblMaxFlow, DrawScenarios);
+    DrawInViewer(frmViewRoughness, frmViewRoughness.lblMaxFlow, RoughnessYearDrawn, DrawScenarios);
 }
 
 } // namespace velorix

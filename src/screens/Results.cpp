@@ -12,8 +12,6 @@ ResultsScreen::ResultsScreen()
     chkComponents.Value = chkGradeline.Value = true;
     ssoDemandCapacity.Value = true;
     sscDutypoint.Visible = false;
-    for (CommandButton* Each : {&sscPrintView, &sscPrintSystem, &sscPrintDutyYear})
-        Each->Enabled = false; // until there is paper to print on
     lblGridColor.Visible = false;
     lblGridColor.BackColor = CurveGridColor;
     msgHydraulic.ColWidth = {1050, 1450, 1450, 1450, 1450, 1700};

@@ -37,7 +37,6 @@ struct ProfileViewScreen : ProfileViewer {
         : ProfileViewer("frmView", "  PIPELINE PROFILE")
     {
         chkHydraulic.Value = true;
-        sscPrintView.Enabled = false; // until there is paper to print on
         DesignEnds();
     }
 
@@ -54,7 +53,6 @@ struct RoughnessViewScreen : ProfileViewer {
             Rgb(0xC0, 0x00, 0x00), Rgb(0xE6, 0x9F, 0x00), Rgb(0x7B, 0x3F, 0x00), Rgb(0x00, 0x9E, 0x73),
             Rgb(0x00, 0xA0, 0xC0), Rgb(0x80, 0x00, 0x80), Rgb(0xCC, 0x79, 0xA7), Rgb(0x60, 0x60, 0x60)};
         chkHydraulic.Value = true;
-        sscPrintView.Enabled = false;
         for (int Index = 0; Index < ScenarioCount; ++Index) {
             chkScenario[Index].Caption = "Scenario " + std::to_string(Index + 1);
             chkScenario[Index].Value = true;
@@ -74,7 +72,6 @@ struct PumpViewScreen : Screen {
     {
         lblGridColor.Visible = false;
         lblGridColor.BackColor = CurveGridColor;
-        sscPrintView.Enabled = false;
         DesignEnds();
     }
 
@@ -92,7 +89,6 @@ struct IrrViewScreen : Screen {
     IrrViewScreen()
         : Screen("frmIRRView", "  INTERNAL RATE OF RETURN")
     {
-        sscPrintView.Enabled = false;
         DesignEnds();
     }
 

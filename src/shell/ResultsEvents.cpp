@@ -137,9 +137,7 @@ void ShowIrrGraph()
     HiddenByGraph = frmLCC.Visible       ? Hidden::InputScreen
                     : frmResults.Visible ? Hidden::ResultsScreen
                                          : Hidden::None;
-    frmIRRView.LoadHidden();
-    frmIRRView.hsbBegin.Value = 0;
-    frmIRRView.hsbEnd.Value = 20000;
+    OpenIrrGraph();
     for (const auto& [Bar, Reading] : {std::pair{&frmIRRView.hsbBegin, &frmIRRView.lblBeginIRR},
                                        std::pair{&frmIRRView.hsbEnd, &frmIRRView.lblEndIRR}})
         Reading->Caption = PercentCaption(Bar->Value);

@@ -21,6 +21,7 @@
 #include "shell/MainCommands.h"
 #include "shell/Notices.h"
 #include "shell/Preferences.h"
+#include "shell/PrintEvents.h"
 #include "shell/ResultsEvents.h"
 #include "shell/ViewerEvents.h"
 
@@ -58,6 +59,7 @@ void ConnectScreens()
     ConnectHints();
     ConnectGuide();
     ConnectImportWizard();
+    ConnectPrinting();
     ConnectMainWindow();
     ConnectInputScreen();
     ConnectGridEditors();

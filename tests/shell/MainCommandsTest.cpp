@@ -62,8 +62,8 @@ std::string Footprint(const ScriptedPlatform& Windows)
 {
     std::ostringstream Seen;
     Seen << Windows.Messages.size() << " " << Windows.ModalScreens.size() << " " << Windows.FileDialogs.size()
-         << " " << Windows.HelpTopics.size() << " " << Windows.Focused << " " << Saved << " "
-         << frmLCC.msgProfile.Rows() << "\n";
+         << " " << Windows.PrintDialogs.size() << " " << Windows.HelpTopics.size() << " " << Windows.Focused
+         << " " << Saved << " " << frmLCC.msgProfile.Rows() << "\n";
     for (const Screen* Each : AllScreens()) {
         Seen << Each->Visible << Each->IsLoaded();
         for (const Control* Member : Each->Controls) {
