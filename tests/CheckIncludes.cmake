@@ -16,8 +16,8 @@ set(floors
   "analysis"
   "shell"
   "paint"
-  "batch|desktop")
-set(toolkit_folders src/batch src/desktop src/paint tests/desktop bench/desktop)
+  "batch|desktop|guide")
+set(toolkit_folders src/batch src/desktop src/guide src/paint tests/desktop bench/desktop)
 
 set(level 0)
 foreach(floor IN LISTS floors)

@@ -11,6 +11,7 @@
 #include "screens/Analyse.h"
 #include "screens/Dialogs.h"
 #include "screens/DutyPointScreen.h"
+#include "screens/Guide.h"
 #include "screens/ImportWizard.h"
 #include "screens/Print.h"
 
@@ -239,7 +240,7 @@ const std::vector<DialogLayout>& AllDialogs()
         {&frmDisclaimer, DisclaimerDialog}, {&frmAbout, AboutDialog},
         {&frmDutyPoint, DutyPointDialog},   {&frmImport, ImportDialog},
         {&frmPrint, PrintDialogWindow},     {&frmSelectYear, YearDialog},
-        {&frmSelectYear1, GraphYearDialog}};
+        {&frmSelectYear1, GraphYearDialog}, {&frmPDFView, GuideDialog}};
     return Dialogs;
 }
 

@@ -22,6 +22,7 @@ struct DialogLayout {
 const std::vector<DialogLayout>& AllDialogs();
 
 QDialog* AnalyseDialog(QWidget* Owner);
+QDialog* GuideDialog(QWidget* Owner);
 QDialog* ImportDialog(QWidget* Owner);
 QDialog* PrintDialogWindow(QWidget* Owner);
 QDialog* YearDialog(QWidget* Owner);

@@ -101,6 +101,11 @@ TabControl::TabControl(std::vector<std::string> Captions)
     Tab.Changed = [this] { Change(); };
 }
 
+PdfViewer::PdfViewer(std::string Hint)
+    : Control(std::move(Hint))
+{
+}
+
 DatePicker::DatePicker(std::string Hint)
     : Control(std::move(Hint))
 {

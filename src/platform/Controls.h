@@ -122,6 +122,14 @@ struct DatePicker : Control {
     Handler Change;
 };
 
+// Shows the pages of a PDF document. What can't be shown leaves it empty.
+struct PdfViewer : Control {
+    explicit PdfViewer(std::string Hint = {});
+    void LoadFile(const std::string& Path) { File = Path; }
+    Property<std::string> File{*this};
+    Property<std::string> Bookmark{*this}; // the document opens there; empty for its first page
+};
+
 // A picture of the program, by its name.
 struct Image : Control {
     Image(std::string Name = {});

@@ -12,8 +12,6 @@ ResultsScreen::ResultsScreen()
     chkComponents.Value = chkGradeline.Value = true;
     ssoDemandCapacity.Value = true;
     sscDutypoint.Visible = false;
-    for (CommandButton* Each : {&sscHelp1, &sscHelp2, &sscHelp3})
-        Each->Enabled = false; // until there is a guide to open
     lblGridColor.Visible = false;
     lblGridColor.BackColor = CurveGridColor;
     msgHydraulic.ColWidth = {1050, 1450, 1450, 1450, 1450, 1700};

@@ -13,6 +13,7 @@
 #include "screens/MainWindow.h"
 #include "screens/Results.h"
 #include "shell/GridEditor.h"
+#include "shell/GuideEvents.h"
 #include "shell/Help.h"
 #include "shell/Hints.h"
 #include "shell/ImportEvents.h"
@@ -56,6 +57,7 @@ Handler ShowRoughness;
 void ConnectScreens()
 {
     ConnectHints();
+    ConnectGuide();
     ConnectImportWizard();
     ConnectPrinting();
     ConnectMainWindow();

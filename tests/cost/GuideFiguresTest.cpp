@@ -1,0 +1,193 @@
+// The tables of the guide hold the program's own figures, to the last digit shown.
+#include "base/Format.h"
+#include "cost/CostResults.h"
+#include "cost/Figures.h"
+#include "model/ProjectFile.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <fstream>
+#include <functional>
+
+namespace velorix {
+namespace {
+
+using Row = std::vector<std::string>;
+using Table = std::vector<Row>; // its headings first
+
+// The cells of a line "| a | b |".
+Row CellsOf(const std::string& Line)
+{
+    Row Cells;
+    for (std::size_t At = 1, End; (End = Line.find('|', At)) != std::string::npos; At = End + 1) {
+        const std::string Cell = Line.substr(At, End - At);
+        const std::size_t First = Cell.find_first_not_of(' ');
+        Cells.push_back(
+            First == std::string::npos ? "" : Cell.substr(First, Cell.find_last_not_of(' ') - First + 1));
+    }
+    return Cells;
+}
+
+// The table whose headings begin with those.
+Table TableOf(const std::string& Headings)
+{
+    std::ifstream Text(GUIDE_TEXT);
+    Table Found;
+    for (std::string Line; std::getline(Text, Line);) {
+        if (Found.empty() ? Line.rfind("| " + Headings, 0) == 0 : Line.rfind('|', 0) == 0) {
+            if (Line.rfind("|:", 0) != 0 && Line.rfind("|-", 0) != 0) Found.push_back(CellsOf(Line));
+        } else if (!Found.empty())
+            break;
+    }
+    EXPECT_GT(Found.size(), 1u) << Headings;
+    return Found;
+}
+
+double NumberIn(std::string Cell)
+{
+    std::erase(Cell, ',');
+    std::erase(Cell, 'R');
+    return std::stod(Cell);
+}
+
+// As the screens show it, with the cell's decimals.
+void ExpectShown(const std::string& Cell, Single Figure, const std::string& What)
+{
+    const std::size_t First = Cell.find_first_of("0123456789");
+    const std::string Number = Cell.substr(First, Cell.find_first_not_of("0123456789.,", First) - First);
+    const std::size_t Point = Number.find('.');
+    const std::string Decimals =
+        Point == std::string::npos ? "" : "." + std::string(Number.size() - Point - 1, '0');
+    EXPECT_EQ(Number, Format(Figure, ("###,###,###,##0" + Decimals).c_str())) << What;
+}
+
+class GuideFiguresTest : public testing::Test {
+protected:
+    void Analyse(const std::function<void(ProjectFields&)>& Change = {})
+    {
+        ProjectFields Record = ReadProjectFile(GUIDE_EXAMPLE);
+        if (Change) Change(Record);
+        OpenRecord(Record);
+        ASSERT_TRUE(ComputeFigures(Tables::LeftOut));
+    }
+
+    // Rows that begin with a year.
+    static void ExpectYears(const std::string& Headings,
+                            const std::vector<std::function<double(int)>>& Figures)
+    {
+        Table Found = TableOf(Headings);
+        Found.erase(Found.begin());
+        for (const Row& Each : Found) {
+            ASSERT_EQ(Each.size(), Figures.size() + 1);
+            const int Year = std::stoi(Each[0]) - wSupplyStart + 1;
+            for (std::size_t Column = 0; Column < Figures.size(); ++Column)
+                ExpectShown(Each[Column + 1], Figures[Column](Year), Headings + " " + Each[0]);
+        }
+    }
+};
+
+auto Of(const ByYear& Figures, double Factor = 1)
+{
+    return [&Figures, Factor](int Year) { return Figures[Year] * Factor; };
+}
+
+TEST_F(GuideFiguresTest, YearsAndHeadlines)
+{
+    Analyse();
+    ExpectYears("Year | Roughness",
+                {Of(KsYear, 1000), Of(PumpFlow, 3600), Of(PumpHead), Of(PumpEfficiencyByYear)});
+    ExpectYears("Year | Yield",
+                {[](int y) { return Flow[y] * wPumpingHours / 24 / DemandFactor; },
+                 [](int y) { return wDemand[y] - Shortage[y]; }, Of(Shortage), Of(PumpingHours)});
+    ExpectYears("Year | Pumping hours",
+                {Of(PumpingHours), Of(HoursOffpeakS), Of(HoursStandardS), Of(HoursPeakS), Of(EnergyCost)});
+    ExpectYears("Year | Income", {Of(IncomeSeries), [](int y) { return CostSeries[y + ConstructionYears()]; },
+                                  Of(MaintTotal), Of(OperationalCost), Of(EnergyCost)});
+
+    const ByYear* const Annual[] = {&OperationalCost, &MaintPipeline, &MaintMechanical, &MaintElectrical,
+                                    &EnergyCost};
+    const Table Costs = TableOf("Description | Year 1");
+    for (std::size_t Line = 1; Line < Costs.size(); ++Line)
+        for (std::size_t Column = 1; Column < Costs[0].size(); ++Column)
+            ExpectShown(Costs[Line][Column], (*Annual[Line - 1])[std::stoi(Costs[0][Column].substr(5))],
+                        Costs[Line][0]);
+
+    const Single Figures[] = {Single(wLife), NpvCost, NpvIncome, Irr};
+    const Table Headlines = TableOf("Figure | Value");
+    for (std::size_t Line = 1; Line < Headlines.size(); ++Line)
+        ExpectShown(Headlines[Line][1], Figures[Line - 1], Headlines[Line][0]);
+}
+
+// Sums are stored in seven digits, so the guide's lines agree with plain sums to a few units.
+TEST_F(GuideFiguresTest, CapitalCost)
+{
+    Analyse();
+    const double Pipeline = LayingCost + PipeSupplyCost;
+    const double Works = Pipeline + wMechanical + wElectrical;
+    const double Allowed = (1 + wPG / 100) * Works;
+    const double Raised = (1 + wContingencies / 100) * Allowed + EscalationAmount;
+    const double All = Raised + ConsultingFees + SupervisionCost;
+    const double Lines[] = {Pipeline,
+                            wMechanical,
+                            wElectrical,
+                            Works,
+                            wPG / 100 * Works,
+                            Allowed,
+                            wContingencies / 100 * Allowed,
+                            EscalationAmount,
+                            Raised,
+                            ConsultingFees,
+                            SupervisionCost,
+                            All,
+                            0.14 * All,
+                            TotalCapitalCost};
+    const Table Found = TableOf("Description | Amount");
+    ASSERT_EQ(Found.size(), std::size(Lines) + 1);
+    for (std::size_t Line = 0; Line < std::size(Lines); ++Line)
+        EXPECT_NEAR(NumberIn(Found[Line + 1][1]), Lines[Line], 8) << Found[Line + 1][0];
+}
+
+TEST_F(GuideFiguresTest, Alternatives)
+{
+    Table Pipes = TableOf("Pipe (mm)");
+    Pipes.erase(Pipes.begin());
+    for (const Row& Pipe : Pipes) {
+        Analyse([&](ProjectFields& Record) {
+            for (int Node = 1; Record.Diameter[Node] == 508; ++Node) {
+                Record.Diameter[Node] = NumberIn(Pipe[0]);
+                Record.PipeCost[Node] = NumberIn(Pipe[1]);
+            }
+        });
+        const Single Figures[] = {TotalCapitalCost, NpvCost, NpvIncome, Irr, PumpingHours[wLife]};
+        for (std::size_t Column = 0; Column < std::size(Figures); ++Column)
+            ExpectShown(Pipe[Column + 2], Figures[Column], Pipe[0]);
+    }
+
+    // In the order of the guide's lines; the number stands in the line.
+    using Change = void (*)(ProjectFields&, double);
+    const Change Rate = [](ProjectFields& Record, double To) { Record.DiscountRate = To; };
+    const Change Energy = [](ProjectFields& Record, double To) { Record.EnergyEscalation = To; };
+    const Change Roughness = [](ProjectFields& Record, double To) { Record.KsOld = To; };
+    const Change Demand = [](ProjectFields& Record, double By) {
+        for (Single& Each : Record.Demand) Each = std::round(Each * (100 - By)) / 100; // to the hundredth
+    };
+    const Change Tariff = [](ProjectFields& Record, double To) { Record.WaterSales = To; };
+    const Change None = [](ProjectFields&, double) {};
+    const Change Changes[] = {None, Rate, Rate, Energy, Energy, Roughness, Roughness, Demand, Tariff};
+    const Table WhatIf = TableOf("Change");
+    ASSERT_EQ(WhatIf.size(), std::size(Changes) + 1);
+    for (std::size_t Line = 1; Line < WhatIf.size(); ++Line) {
+        const Row& Each = WhatIf[Line];
+        const std::size_t Number = Each[0].find_first_of("0123456789");
+        Analyse([&](ProjectFields& Record) {
+            Changes[Line - 1](Record, Number == std::string::npos ? 0 : std::stod(Each[0].substr(Number)));
+        });
+        const Single Figures[] = {NpvCost, NpvIncome, Irr};
+        for (std::size_t Column = 0; Column < std::size(Figures); ++Column)
+            ExpectShown(Each[Column + 1], Figures[Column], Each[0]);
+    }
+}
+
+} // namespace
+} // namespace velorix
