@@ -2,6 +2,7 @@
 #include "base/Failure.h"
 #include "batch/AnalyseCommand.h"
 #include "batch/CheckCommand.h"
+#include "batch/ConvertCommand.h"
 #include "batch/Interrupt.h"
 #include "batch/OutputFile.h"
 #include "batch/ProjectCommands.h"
@@ -100,9 +101,9 @@ Ending Run(int ArgumentCount, char** Words)
                      "velorix-batch"};
     Program.set_version_flag("--version", "velorix-batch " VELORIX_VERSION);
     Program.require_subcommand(1);
-    Program.footer("Exit status: 0 all is well; 2 an analysis ended with a message and did not stand, or a\n"
-                   "project would not be saved; 1 wrong usage, a file that can't be read or written, a time\n"
-                   "limit or a crash; 130 interrupted. The worst of them counts, 1 above 2.");
+    Program.footer("Exit status: 0 all is well; 2 an analysis or a conversion ended with a message and did\n"
+                   "not stand, or a project would not be saved; 1 wrong usage, a file that can't be read or\n"
+                   "written, a time limit or a crash; 130 interrupted. The worst of them counts, 1 above 2.");
 
     Arguments Given;
     CLI::App* Analyse = AddCommand(Program, Given, "analyse",
@@ -130,6 +131,14 @@ Ending Run(int ArgumentCount, char** Words)
     AddOut(*ImportCommand, Given, "Write STEM.vlx for each file to this folder");
     ImportCommand->add_flag("--force", Given.Force, "Write over a file that isn't a project too");
 
+    Conversion Asked;
+    CLI::App* ConvertUnit = Program.add_subcommand(
+        "convert", "Convert a number; group and units as the lists of the unit converter name them");
+    ConvertUnit->add_option("GROUP", Asked.Group, "Group of units, such as Length")->required();
+    ConvertUnit->add_option("SOURCE", Asked.Source, "Unit of the number, such as \"meter (m)\"")->required();
+    ConvertUnit->add_option("TARGET", Asked.Target, "Unit to convert to")->required();
+    ConvertUnit->add_option("VALUE", Asked.Value, "The number")->required();
+
     try {
         Program.parse(ArgumentCount, Words);
     } catch (const CLI::ParseError& Problem) {
@@ -142,6 +151,7 @@ Ending Run(int ArgumentCount, char** Words)
     }
     if (*Analyse) return AnalyseFiles(AnalyseOptionsOf(Given));
     if (*Check) return CheckFiles(OpenInputs(Given.Files), LimitsOf(Given));
+    if (*ConvertUnit) return ConvertValue(Asked);
     return *ExportCommand ? Export(Given) : Import(Given);
 }
 

@@ -12,6 +12,7 @@
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
 #include "screens/Results.h"
+#include "shell/ConverterEvents.h"
 #include "shell/GridEditor.h"
 #include "shell/Help.h"
 #include "shell/Hints.h"
@@ -54,6 +55,7 @@ Handler ShowRoughness;
 void ConnectScreens()
 {
     ConnectHints();
+    ConnectConverter();
     ConnectMainWindow();
     ConnectInputScreen();
     ConnectGridEditors();

@@ -78,8 +78,7 @@ TEST_F(MainCommandsTest, WhateverCanBePressedDoesSomething)
         &MDIProject.mnuFile,      &MDIProject.munImportExport, &MDIProject.mnuExport,    &MDIProject.mnuView,
         &MDIProject.mnuHelp,      &MDIProject.mnuFGridRows,    &frmResults.sscDutypoint, &frmResults.sscView,
         &frmResults.sscChangeView}; // the last three need an analysis
-    Handler* const Missing[] = {&ShowPrintScreen, &ShowImportWizard, &ShowConverter, &ShowGuide,
-                                &ShowRoughness};
+    Handler* const Missing[] = {&ShowPrintScreen, &ShowImportWizard, &ShowGuide, &ShowRoughness};
     for (Handler* Each : Missing) *Each = [] { Warn("shown"); };
     const auto Presses = [this](Screen& Owner, const Control& Pressed, const Handler& Click, bool Panes) {
         ResetProgram();
