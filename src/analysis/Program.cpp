@@ -9,6 +9,7 @@
 #include "results/ChartFrame.h"
 #include "results/PlotState.h"
 #include "results/ScenarioLines.h"
+#include "roughness/RoughnessStores.h"
 
 namespace velorix {
 
@@ -23,6 +24,7 @@ void ResetProgram()
     ResetPlotState();
     ResetChartFrames();
     ResetScenarioLines();
+    ResetRoughness();
 }
 
 void StartSession()

@@ -6,6 +6,7 @@
 #include "batch/Interrupt.h"
 #include "batch/OutputFile.h"
 #include "batch/ProjectCommands.h"
+#include "batch/RoughnessCommand.h"
 #include "batch/Tell.h"
 
 #include <CLI/CLI.hpp>
@@ -24,6 +25,7 @@ struct Arguments {
     std::string JsonTarget;
     std::string CsvFolder;
     std::string OutFolder;
+    std::string ReadingsFile;
     bool Force = false;
     int Jobs = 0; // 0 for as many as there are cores
     double Seconds = 60;
@@ -94,6 +96,15 @@ Ending Import(const Arguments& Given)
     return ImportProjects(Options);
 }
 
+RoughnessOptions RoughnessOptionsOf(const Arguments& Given)
+{
+    const std::vector<InputFile> Inputs = OpenInputs({Given.Files.front(), Given.ReadingsFile});
+    return {.Project = Inputs.front(),
+            .Readings = Inputs.back(),
+            .JsonTarget = Given.JsonTarget,
+            .Limits = LimitsOf(Given)};
+}
+
 Ending Run(int ArgumentCount, char** Words)
 {
     CLI::App Program{"Life cycle costing of bulk water pipelines: work on project files without a screen.\n"
@@ -131,6 +142,19 @@ Ending Run(int ArgumentCount, char** Words)
     AddOut(*ImportCommand, Given, "Write STEM.vlx for each file to this folder");
     ImportCommand->add_flag("--force", Given.Force, "Write over a file that isn't a project too");
 
+    CLI::App* Roughness = AddCommand(
+        Program, Given, "roughness",
+        "Work out the pipe's roughness from pressures that were measured along it", "Project file");
+    Roughness->get_option("FILE")->expected(1);
+    Roughness->remove_option(Roughness->get_option("--jobs"));
+    Roughness->add_option("--readings", Given.ReadingsFile, "The measured flows and pressures, as JSON")
+        ->type_name("READINGS")
+        ->required();
+    Roughness
+        ->add_option("--json", Given.JsonTarget,
+                     "Write the results as JSON to this file, or to standard output for -")
+        ->type_name("OUT");
+
     Conversion Asked;
     CLI::App* ConvertUnit = Program.add_subcommand(
         "convert", "Convert a number; group and units as the lists of the unit converter name them");
@@ -151,6 +175,7 @@ Ending Run(int ArgumentCount, char** Words)
     }
     if (*Analyse) return AnalyseFiles(AnalyseOptionsOf(Given));
     if (*Check) return CheckFiles(OpenInputs(Given.Files), LimitsOf(Given));
+    if (*Roughness) return CalculateReadings(RoughnessOptionsOf(Given));
     if (*ConvertUnit) return ConvertValue(Asked);
     return *ExportCommand ? Export(Given) : Import(Given);
 }

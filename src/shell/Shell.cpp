@@ -21,6 +21,7 @@
 #include "shell/Notices.h"
 #include "shell/Preferences.h"
 #include "shell/ResultsEvents.h"
+#include "shell/RoughnessEvents.h"
 #include "shell/ViewerEvents.h"
 
 namespace velorix {
@@ -56,6 +57,7 @@ void ConnectScreens()
 {
     ConnectHints();
     ConnectConverter();
+    ConnectRoughness();
     ConnectMainWindow();
     ConnectInputScreen();
     ConnectGridEditors();
