@@ -96,11 +96,16 @@ QComboBox* View(ComboBox& Record)
 
 QListWidget* OpenView(ComboBox& Record)
 {
+    constexpr int Space = 2; // around an entry
     auto* const View = new QListWidget;
+    View->setSpacing(Space);
+    View->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     Follow(Record.List, View, [&Record, View](const std::vector<std::string>& Entries) {
         View->clear();
         for (const std::string& Each : Entries) View->addItem(QString::fromStdString(Each).trimmed());
         View->setCurrentRow(Record.ListIndex);
+        View->ensurePolished(); // its letters have their size
+        View->setFixedHeight(View->count() * (View->sizeHintForRow(0) + 2 * Space) + 2 * View->frameWidth());
     });
     Follow(Record.ListIndex, View, [View](int Index) { View->setCurrentRow(Index); });
     QObject::connect(View, &QListWidget::currentRowChanged, View,

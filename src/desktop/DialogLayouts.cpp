@@ -236,23 +236,13 @@ QDialog* DutyPointDialog(QWidget* Owner)
         {Curves, View(frmDutyPoint.lblAdvice), InRow({nullptr, DefaultButton(frmDutyPoint.sscOK)})});
 }
 
-// As high as its entries.
-QListWidget* ShortList(QListWidget* List)
-{
-    constexpr int Space = 2; // around an entry
-    List->setSpacing(Space);
-    List->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    List->setFixedHeight(List->count() * (List->sizeHintForRow(0) + 2 * Space) + 2 * List->frameWidth());
-    return List;
-}
-
 // The groups beside number, units and result. Enter in the field converts too.
 QDialog* ConverterDialog(QWidget* Owner)
 {
     constexpr int Digits = 20;
     constexpr int GroupWidth = 110;
     constexpr int UnitWidth = 330;
-    QListWidget* const Groups = ShortList(OpenView(frmConverter.lstUnit));
+    QListWidget* const Groups = OpenView(frmConverter.lstUnit);
     Groups->setFixedWidth(GroupWidth);
     QLabel* const GroupCaption = Text("Unit group");
     TieCaption(GroupCaption, Groups);
