@@ -11,13 +11,13 @@ set(floors
   "platform"
   "screens"
   "input"
-  "results|reports|tools"
-  "roughness"
+  "results|tools"
+  "reports|roughness"
   "analysis"
   "shell"
   "paint"
   "batch|desktop")
-set(toolkit_folders src/batch src/desktop src/paint tests/desktop)
+set(toolkit_folders src/batch src/desktop src/paint tests/desktop bench/desktop)
 
 set(level 0)
 foreach(floor IN LISTS floors)

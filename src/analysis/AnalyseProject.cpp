@@ -5,6 +5,7 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "cost/Figures.h"
+#include "hydraulics/Normalise.h"
 #include "input/Session.h"
 #include "model/WorkingSet.h"
 #include "platform/Platform.h"
@@ -110,6 +111,14 @@ void RunAnalysis(Tables Wanted)
 FlowEvents TellingOfFlows()
 {
     return {.DutyPointMissing = TellOfMissingDutyPoint, .Failed = TellOfFailedFlows};
+}
+
+bool SolveForProfile(Tables Wanted)
+{
+    AnalysisAborted = 0;
+    NormaliseInputs();
+    SolveFlows(Wanted, TellingOfFlows());
+    return AnalysisAborted != -1;
 }
 
 void RefreshResults()

@@ -15,6 +15,10 @@ void AnalyseProject(Tables Wanted);
 // of SolveFlows that stands before a user.
 FlowEvents TellingOfFlows();
 
+// What the profile viewer needs of an analysis: the flows of the working set. False after a year without a
+// duty point.
+bool SolveForProfile(Tables Wanted);
+
 // Fills the cost tables and the chainage lists of the results screen once more, as it opens.
 void RefreshResults();
 

@@ -5,11 +5,15 @@
 #include "cost/CostResults.h"
 #include "input/Session.h"
 #include "model/WorkingSet.h"
+#include "platform/Printer.h"
 #include "platform/Screen.h"
+#include "reports/PageFrame.h"
+#include "reports/ResultReports.h"
 #include "results/ChartFrame.h"
 #include "results/PlotState.h"
 #include "results/ScenarioLines.h"
 #include "roughness/RoughnessStores.h"
+#include "tools/ProfileImport.h"
 
 namespace velorix {
 
@@ -25,6 +29,10 @@ void ResetProgram()
     ResetChartFrames();
     ResetScenarioLines();
     ResetRoughness();
+    ResetImport();
+    ResetPrinter();
+    ResetPageFrame();
+    ResetPrintYear();
 }
 
 void StartSession()

@@ -4,6 +4,7 @@
 #include "base/Single.h"
 #include "base/StatusFlags.h"
 
+#include <cfenv>
 #include <cmath>
 #include <cstdint>
 
@@ -18,6 +19,19 @@ bool ArithmeticFailed();
 
 // Throws ArithmeticFailure when ArithmeticFailed(), and clears the flags.
 void CheckArithmetic();
+
+// Keeps the flags as they are while code of others works, such as a toolkit: a calculation that shows its
+// progress, or measures a text, must not take a flag that was raised there for a failure of its own.
+class KeepArithmeticFlags {
+public:
+    KeepArithmeticFlags() { std::fegetexceptflag(&Flags, FE_ALL_EXCEPT); }
+    ~KeepArithmeticFlags() { std::fesetexceptflag(&Flags, FE_ALL_EXCEPT); }
+    KeepArithmeticFlags(const KeepArithmeticFlags&) = delete;
+    KeepArithmeticFlags& operator=(const KeepArithmeticFlags&) = delete;
+
+private:
+    std::fexcept_t Flags;
+};
 
 [[noreturn]] void ThrowUnordered();
 

@@ -36,4 +36,10 @@ public:
     using Failure::Failure;
 };
 
+// One that the program doesn't outlive: whoever reports it ends the program.
+class FatalFailure : public Failure {
+public:
+    using Failure::Failure;
+};
+
 } // namespace velorix

@@ -26,6 +26,26 @@ int CharacterCount(std::string_view Utf8)
     return static_cast<int>(std::count_if(Utf8.begin(), Utf8.end(), StartsCharacter));
 }
 
+std::pair<std::string_view, std::string_view> SplitAfter(std::string_view Utf8, int Characters)
+{
+    std::size_t Length = 0;
+    while (Length < Utf8.size() && (!StartsCharacter(Utf8[Length]) || Characters-- > 0)) ++Length;
+    return {Utf8.substr(0, Length), Utf8.substr(Length)};
+}
+
+std::string UpperCase(std::string Utf8)
+{
+    constexpr char LatinLetters = '\xC3'; // leads the letters with accents of the single-byte code page
+    constexpr char Division = '\xB7';
+    for (std::size_t Index = 0; Index < Utf8.size(); ++Index) {
+        char& Each = Utf8[Index];
+        const bool Accented = Index > 0 && Utf8[Index - 1] == LatinLetters && Each >= '\xA0' &&
+                              Each <= '\xBE' && Each != Division;
+        if ((Each >= 'a' && Each <= 'z') || Accented) Each = static_cast<char>(Each - 0x20);
+    }
+    return Utf8;
+}
+
 std::string Utf8Of(char32_t Code)
 {
     const auto Tail = [Code](int Shift) { return static_cast<char>(0x80 | (Code >> Shift & 0x3F)); };

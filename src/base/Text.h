@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace velorix {
 
@@ -23,6 +24,12 @@ constexpr bool StartsCharacter(char Byte)
 }
 
 int CharacterCount(std::string_view Utf8);
+
+// The first characters of a text, all when it has fewer, and what follows them.
+std::pair<std::string_view, std::string_view> SplitAfter(std::string_view Utf8, int Characters);
+
+// In capitals, Latin letters with accents included.
+std::string UpperCase(std::string Utf8);
 
 // One character in UTF-8, 1 to 4 bytes.
 std::string Utf8Of(char32_t Code);

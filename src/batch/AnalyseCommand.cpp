@@ -38,8 +38,7 @@ std::string AnalyseOne(const InputFile& File, const AnalyseOptions& Options)
     ScriptedPlatform Windows;
     InstallPlatform(&Windows);
     StartSession();
-    std::vector<std::string> Warnings = LoadAndTellPinned(File.Path);
-    if (IsTooShort(File.Path)) Warnings.insert(Warnings.begin(), TooShort);
+    const std::vector<std::string> Warnings = LoadAndTellAll(File.Path);
     AnalyseProject(Tables::LeftOut);
 
     const AnalysisResults Results = CollectResults(Windows.Messages);

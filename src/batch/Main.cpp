@@ -1,10 +1,12 @@
-// velorix-batch: analyses and checks project files, and turns them into JSON and back, without a screen.
+// velorix-batch: analyses, checks and draws projects, and turns them into JSON and back, without a screen.
 #include "base/Failure.h"
+#include "base/Version.h"
 #include "batch/AnalyseCommand.h"
 #include "batch/CheckCommand.h"
 #include "batch/ConvertCommand.h"
 #include "batch/Interrupt.h"
 #include "batch/OutputFile.h"
+#include "batch/PlotCommand.h"
 #include "batch/ProjectCommands.h"
 #include "batch/RoughnessCommand.h"
 #include "batch/Tell.h"
@@ -22,9 +24,13 @@ namespace {
 // The words of the command line.
 struct Arguments {
     std::vector<std::string> Files;
+    std::string Project; // of a command that takes one
     std::string JsonTarget;
     std::string CsvFolder;
-    std::string OutFolder;
+    std::string OutFolder; // or the file, of a plot
+    std::string Plot;
+    PlotView View;
+    std::string Format;
     std::string ReadingsFile;
     bool Force = false;
     int Jobs = 0; // 0 for as many as there are cores
@@ -38,7 +44,14 @@ WorkerLimits LimitsOf(const Arguments& Given)
             .Time = std::chrono::milliseconds(static_cast<long long>(Given.Seconds * 1000))};
 }
 
-// What all commands have: several files, each in a process of its own.
+void AddTimeout(CLI::App& Command, Arguments& Given)
+{
+    Command.add_option("--timeout", Given.Seconds, "Seconds that one file may take (default: 60)")
+        ->type_name("SECONDS")
+        ->check(CLI::Range(0.001, 1e6));
+}
+
+// What a command on several files has: each is worked on in a process of its own.
 CLI::App* AddCommand(CLI::App& Program, Arguments& Given, const std::string& Name,
                      const std::string& Description, const std::string& Files)
 {
@@ -47,15 +60,50 @@ CLI::App* AddCommand(CLI::App& Program, Arguments& Given, const std::string& Nam
     Command->add_option("--jobs", Given.Jobs, "Files at a time (default: the number of cores)")
         ->type_name("N")
         ->check(CLI::Range(1, 1024));
-    Command->add_option("--timeout", Given.Seconds, "Seconds that one file may take (default: 60)")
-        ->type_name("SECONDS")
-        ->check(CLI::Range(0.001, 1e6));
+    AddTimeout(*Command, Given);
     return Command;
 }
 
 void AddOut(CLI::App& Command, Arguments& Given, const std::string& Description)
 {
     Command.add_option("--out", Given.OutFolder, Description)->type_name("FOLDER");
+}
+
+CLI::App* AddPlot(CLI::App& Program, Arguments& Given)
+{
+    CLI::App* Command =
+        Program.add_subcommand("plot", "Draw a plot of a project as the desktop program does");
+    std::vector<std::string> Names;
+    for (const Plot& Each : AllPlots()) Names.emplace_back(Each.Name);
+    Names.emplace_back(EveryPlot);
+    Command->add_option("FILE", Given.Project, "Project file")->required();
+    Command->add_option("PLOT", Given.Plot, "The plot, or all that apply to the system")
+        ->required()
+        ->check(CLI::IsMember(Names));
+    const auto Add = [&](const char* Name, auto& Target, const char* Type, const char* Description) {
+        return Command->add_option(Name, Target, Description)->type_name(Type);
+    };
+    Add("--year", Given.View.Year, "N", "Year of the design life, from 1 (default: 1)");
+    Add("--begin", Given.View.Begin, "X",
+        "Where a profile begins, as chainage of a node, or irr, in percent");
+    Add("--end", Given.View.End, "X", "Where it ends; large amounts of money need a narrow irr");
+    Add("--out", Given.OutFolder, "OUT",
+        "File, - for standard output; of all, folder of the STEM-PLOT.FORMAT")
+        ->required();
+    Command->add_option("--format", Given.Format, "Format of the pictures, if not told by the file's name")
+        ->check(CLI::IsMember(PlotFormats));
+    AddTimeout(*Command, Given);
+    return Command;
+}
+
+PlotOptions PlotOptionsOf(const Arguments& Given)
+{
+    return {.Project = OpenInputs({Given.Project}).front(),
+            .Plot = Given.Plot,
+            .View = Given.View,
+            .Out = Given.OutFolder,
+            .Format = Given.Format,
+            .Limits = LimitsOf(Given)};
 }
 
 AnalyseOptions AnalyseOptionsOf(const Arguments& Given)
@@ -96,9 +144,36 @@ Ending Import(const Arguments& Given)
     return ImportProjects(Options);
 }
 
+CLI::App* AddRoughness(CLI::App& Program, Arguments& Given)
+{
+    CLI::App* Command = Program.add_subcommand(
+        "roughness", "Work out the pipe's roughness from pressures that were measured along it");
+    Command->add_option("FILE", Given.Project, "Project file")->required();
+    Command->add_option("--readings", Given.ReadingsFile, "The measured flows and pressures, as JSON")
+        ->type_name("READINGS")
+        ->required();
+    Command
+        ->add_option("--json", Given.JsonTarget,
+                     "Write the results as JSON to this file, or to standard output for -")
+        ->type_name("OUT");
+    AddTimeout(*Command, Given);
+    return Command;
+}
+
+CLI::App* AddConvert(CLI::App& Program, Conversion& Asked)
+{
+    CLI::App* Command = Program.add_subcommand(
+        "convert", "Convert a number; group and units as the lists of the unit converter name them");
+    Command->add_option("GROUP", Asked.Group, "Group of units, such as Length")->required();
+    Command->add_option("SOURCE", Asked.Source, "Unit of the number, such as \"meter (m)\"")->required();
+    Command->add_option("TARGET", Asked.Target, "Unit to convert to")->required();
+    Command->add_option("VALUE", Asked.Value, "The number")->required();
+    return Command;
+}
+
 RoughnessOptions RoughnessOptionsOf(const Arguments& Given)
 {
-    const std::vector<InputFile> Inputs = OpenInputs({Given.Files.front(), Given.ReadingsFile});
+    const std::vector<InputFile> Inputs = OpenInputs({Given.Project, Given.ReadingsFile});
     return {.Project = Inputs.front(),
             .Readings = Inputs.back(),
             .JsonTarget = Given.JsonTarget,
@@ -110,11 +185,13 @@ Ending Run(int ArgumentCount, char** Words)
     CLI::App Program{"Life cycle costing of bulk water pipelines: work on project files without a screen.\n"
                      "A FILE of - is standard input.",
                      "velorix-batch"};
-    Program.set_version_flag("--version", "velorix-batch " VELORIX_VERSION);
+    Program.set_version_flag("--version", std::string("velorix-batch ") + ProgramVersion());
     Program.require_subcommand(1);
-    Program.footer("Exit status: 0 all is well; 2 an analysis or a conversion ended with a message and did\n"
-                   "not stand, or a project would not be saved; 1 wrong usage, a file that can't be read or\n"
-                   "written, a time limit or a crash; 130 interrupted. The worst of them counts, 1 above 2.");
+    Program.footer(
+        "Exit status: 0 all is well; 2 an analysis or a conversion ended with a message and did not\n"
+        "stand, a plot could not be drawn, or a project would not be saved; 1 wrong usage, a file that\n"
+        "can't be read or written, a time limit or a crash; 130 interrupted. The worst of them counts,\n"
+        "1 above 2.");
 
     Arguments Given;
     CLI::App* Analyse = AddCommand(Program, Given, "analyse",
@@ -126,6 +203,8 @@ Ending Run(int ArgumentCount, char** Words)
     Analyse
         ->add_option("--csv", Given.CsvFolder, "Write the results as comma-separated tables to this folder")
         ->type_name("DIR");
+
+    CLI::App* PlotCommand = AddPlot(Program, Given);
 
     CLI::App* Check =
         AddCommand(Program, Given, "check",
@@ -142,26 +221,10 @@ Ending Run(int ArgumentCount, char** Words)
     AddOut(*ImportCommand, Given, "Write STEM.vlx for each file to this folder");
     ImportCommand->add_flag("--force", Given.Force, "Write over a file that isn't a project too");
 
-    CLI::App* Roughness = AddCommand(
-        Program, Given, "roughness",
-        "Work out the pipe's roughness from pressures that were measured along it", "Project file");
-    Roughness->get_option("FILE")->expected(1);
-    Roughness->remove_option(Roughness->get_option("--jobs"));
-    Roughness->add_option("--readings", Given.ReadingsFile, "The measured flows and pressures, as JSON")
-        ->type_name("READINGS")
-        ->required();
-    Roughness
-        ->add_option("--json", Given.JsonTarget,
-                     "Write the results as JSON to this file, or to standard output for -")
-        ->type_name("OUT");
+    CLI::App* Roughness = AddRoughness(Program, Given);
 
     Conversion Asked;
-    CLI::App* ConvertUnit = Program.add_subcommand(
-        "convert", "Convert a number; group and units as the lists of the unit converter name them");
-    ConvertUnit->add_option("GROUP", Asked.Group, "Group of units, such as Length")->required();
-    ConvertUnit->add_option("SOURCE", Asked.Source, "Unit of the number, such as \"meter (m)\"")->required();
-    ConvertUnit->add_option("TARGET", Asked.Target, "Unit to convert to")->required();
-    ConvertUnit->add_option("VALUE", Asked.Value, "The number")->required();
+    CLI::App* ConvertUnit = AddConvert(Program, Asked);
 
     try {
         Program.parse(ArgumentCount, Words);
@@ -174,6 +237,7 @@ Ending Run(int ArgumentCount, char** Words)
         return Status == 0 ? Ending::AllWell : Ending::Failed;
     }
     if (*Analyse) return AnalyseFiles(AnalyseOptionsOf(Given));
+    if (*PlotCommand) return PlotProject(PlotOptionsOf(Given));
     if (*Check) return CheckFiles(OpenInputs(Given.Files), LimitsOf(Given));
     if (*Roughness) return CalculateReadings(RoughnessOptionsOf(Given));
     if (*ConvertUnit) return ConvertValue(Asked);

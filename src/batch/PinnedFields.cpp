@@ -2,6 +2,7 @@
 #include "batch/PinnedFields.h"
 
 #include "base/NumberText.h"
+#include "batch/InputFiles.h"
 #include "input/Session.h"
 #include "model/WorkingSet.h"
 
@@ -51,6 +52,13 @@ std::vector<std::string> LoadAndTellPinned(const std::filesystem::path& Project)
     VELORIX_RECORD_FIELDS(VELORIX_NUMBERS, VELORIX_NUMBERS, VELORIX_TEXT)
 #undef VELORIX_NUMBERS
 #undef VELORIX_TEXT
+    return Told;
+}
+
+std::vector<std::string> LoadAndTellAll(const std::filesystem::path& Project)
+{
+    Lines Told = LoadAndTellPinned(Project);
+    if (IsTooShort(Project)) Told.insert(Told.begin(), TooShort);
     return Told;
 }
 

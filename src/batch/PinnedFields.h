@@ -11,4 +11,7 @@ namespace velorix {
 // value, and what was taken instead.
 std::vector<std::string> LoadAndTellPinned(const std::filesystem::path& Project);
 
+// The same with a line ahead about a file that is too short for a project, for those who work on it anyway.
+std::vector<std::string> LoadAndTellAll(const std::filesystem::path& Project);
+
 } // namespace velorix

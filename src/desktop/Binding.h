@@ -1,6 +1,7 @@
 // What all views share: they follow the fields of a record, and write back what the user does.
 #pragma once
 
+#include "base/Arithmetic.h"
 #include "desktop/EventGuard.h"
 #include "platform/Controls.h"
 
@@ -8,22 +9,7 @@
 #include <QSignalBlocker>
 #include <QWidget>
 
-#include <cfenv>
-
 namespace velorix {
-
-// Keeps the status flags of the arithmetic as they are while the toolkit works: a calculation that shows its
-// progress must not take a flag that painting has raised for a failure of its own.
-class KeepArithmeticFlags {
-public:
-    KeepArithmeticFlags() { std::fegetexceptflag(&Flags, FE_ALL_EXCEPT); }
-    ~KeepArithmeticFlags() { std::fesetexceptflag(&Flags, FE_ALL_EXCEPT); }
-    KeepArithmeticFlags(const KeepArithmeticFlags&) = delete;
-    KeepArithmeticFlags& operator=(const KeepArithmeticFlags&) = delete;
-
-private:
-    std::fexcept_t Flags;
-};
 
 // Calls Show with the field's value, now and whenever anyone but the view gives the field another one. The
 // view may go before the record does.

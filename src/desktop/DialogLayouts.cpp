@@ -11,6 +11,7 @@
 #include "screens/ConverterScreen.h"
 #include "screens/Dialogs.h"
 #include "screens/DutyPointScreen.h"
+#include "screens/ImportWizard.h"
 
 #include <QComboBox>
 #include <QDialog>
@@ -280,7 +281,8 @@ const std::vector<DialogLayout>& AllDialogs()
         {&frmLCCType, LccTypeDialog},       {&frmPref, PreferencesDialog},
         {&frmDeleteRow, DeleteRowDialog},   {&frmAnalyse, AnalyseDialog},
         {&frmDisclaimer, DisclaimerDialog}, {&frmAbout, AboutDialog},
-        {&frmDutyPoint, DutyPointDialog},   {&frmConverter, ConverterDialog}};
+        {&frmDutyPoint, DutyPointDialog},   {&frmImport, ImportDialog},
+        {&frmConverter, ConverterDialog}};
     return Dialogs;
 }
 

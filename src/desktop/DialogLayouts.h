@@ -20,6 +20,7 @@ struct DialogLayout {
 const std::vector<DialogLayout>& AllDialogs();
 
 QDialog* AnalyseDialog(QWidget* Owner);
+QDialog* ImportDialog(QWidget* Owner);
 
 // Tells the platform which factory makes which screen's window.
 void RegisterDialogs(QtPlatform& Windows);

@@ -1,6 +1,7 @@
 // Catching and reporting of what leaves an event.
 #include "desktop/EventGuard.h"
 
+#include "base/Failure.h"
 #include "platform/Platform.h"
 
 #include <QDebug>
@@ -8,6 +9,7 @@
 #include <QScopedValueRollback>
 
 #include <clocale>
+#include <cstdlib>
 
 namespace velorix {
 namespace {
@@ -38,13 +40,19 @@ void ReportFailure(const std::exception& Problem)
     qWarning("%s", Problem.what());
     if (Reporting) return;
     const QScopedValueRollback<bool> Once(Reporting, true);
+    const bool Fatal = dynamic_cast<const FatalFailure*>(&Problem);
     try {
         System().SetPointer(PointerShape::Default); // the command may have ended with the hourglass
-        System().Show({.Text = std::string("The last command has failed:\n\n") + Problem.what(),
+        System().Show({.Text = Fatal ? std::string("Velorix has to end:\n\n") + Problem.what() +
+                                           "\n\nYour files are as you last saved them."
+                                     : std::string("The last command has failed:\n\n") + Problem.what(),
                        .Icon = MessageIcon::Critical});
     } catch (const std::exception& Second) {
         qWarning("%s", Second.what());
     }
+    if (!Fatal) return;
+    System().EndProgram();
+    QCoreApplication::exit(EXIT_FAILURE);
 }
 
 } // namespace velorix

@@ -1,4 +1,5 @@
-// The program's application object. A failure that leaves an event is reported, and the program goes on.
+// The program's application object. A failure that leaves an event is reported, and the program goes on, but
+// for a fatal one.
 #pragma once
 
 #include <QApplication>
@@ -15,7 +16,7 @@ public:
 };
 
 // Shows one box with what failed. A failure that comes up while the box stands is only logged: a timer that
-// fails at each tick would pile up boxes without end.
+// fails at each tick would pile up boxes without end. A FatalFailure ends the program behind its box.
 void ReportFailure(const std::exception& Problem);
 
 // Runs what answers an event, and reports its failure. Views call the handlers of their records this way, for

@@ -22,7 +22,7 @@ GridModel::GridModel(const Grid& Shown, QObject* Owner)
 
 GridModel::Shape GridModel::ShapeOf(const Grid& Table)
 {
-    return {Table.Rows(), std::min(Table.FixedRows, Table.Rows()),
+    return {Table.Rows(), Table.Cols(), std::min(Table.FixedRows, Table.Rows()),
             Table.MergeEqualCells ? 0 : std::min(Table.FixedCols, Table.Cols()), Table.MergeEqualCells};
 }
 
@@ -33,7 +33,7 @@ int GridModel::rowCount(const QModelIndex& Parent) const
 
 int GridModel::columnCount(const QModelIndex& Parent) const
 {
-    return Parent.isValid() ? 0 : Record.Cols() - Told.HeadCols;
+    return Parent.isValid() ? 0 : Told.Cols - Told.HeadCols;
 }
 
 const GridCell* GridModel::CellOf(const QModelIndex& Index) const
@@ -64,6 +64,7 @@ QVariant GridModel::data(const QModelIndex& Index, int Role) const
 QString GridModel::Heading(int Col) const
 {
     QStringList Lines;
+    if (Col >= Record.Cols()) return {}; // gone, and not told yet
     for (int Row = 0; Row < std::min(HeadRows(), Record.Rows()); ++Row) Lines += Shown(Record.Text(Row, Col));
     Lines.removeAll(QString());
     return Lines.join('\n');
@@ -74,7 +75,9 @@ QVariant GridModel::headerData(int Section, Qt::Orientation Direction, int Role)
     if (Role != Qt::DisplayRole) return {};
     if (Direction == Qt::Horizontal) return Heading(Section + HeadCols());
     const int Row = Section + HeadRows();
-    return HeadCols() > 0 && Row < Record.Rows() ? Shown(Record.Text(Row, HeadCols() - 1)) : QString();
+    return HeadCols() > 0 && HeadCols() <= Record.Cols() && Row < Record.Rows()
+               ? Shown(Record.Text(Row, HeadCols() - 1))
+               : QString();
 }
 
 Qt::ItemFlags GridModel::flags(const QModelIndex& Index) const

@@ -160,7 +160,7 @@ void GridView::SpreadColumns()
     const int Heads = Model.HeadCols();
     const int First = std::clamp(Record.FixedCols, Heads, Record.Cols());
     const int Room = viewport()->width() - WidthOf(Heads, First);
-    const double Stretch = std::max(1.0, Room / std::max(1.0, double(WidthOf(First, Record.Cols()))));
+    const double Stretch = std::max(1.0, Room / std::max(1.0, double(WidthOf(First, Model.Cols()))));
     for (int Col = Heads; !SizedByHand && Col < Record.Cols(); ++Col) {
         const auto Left = [&](int Each) { return qRound(WidthOf(First, Each) * Stretch); };
         setColumnWidth(Col - Heads, Col < First ? WidthOf(Col, Col + 1) : Left(Col + 1) - Left(Col));
@@ -262,7 +262,7 @@ void GridView::scrollContentsBy(int X, int Y)
 QSize GridView::SizeFor(int DataRows) const
 {
     const int Rows = std::min(Model.rowCount(), DataRows);
-    return QSize(WidthOf(0, Record.Cols()) + verticalScrollBar()->sizeHint().width(),
+    return QSize(WidthOf(0, Model.Cols()) + verticalScrollBar()->sizeHint().width(),
                  horizontalHeader()->minimumHeight() + Rows * verticalHeader()->defaultSectionSize()) +
            QSize(2, 2) * frameWidth();
 }

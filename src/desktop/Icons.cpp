@@ -111,12 +111,18 @@ QIcon MenuIcon(const QString& Name)
 
 PictureView::PictureView(const QString& Name, int Width, const QString& Description, QWidget* Owner)
     : QWidget(Owner)
-    , Drawing(InColorsInUse(Name))
     , NaturalWidth(Width)
 {
-    Drawing.setAspectRatioMode(Qt::KeepAspectRatio);
+    Draw(Name);
     setAccessibleName(Description);
     setMaximumSize(Scaled(Width));
+}
+
+void PictureView::Draw(const QString& Name)
+{
+    Drawing.load(InColorsInUse(Name));
+    Drawing.setAspectRatioMode(Qt::KeepAspectRatio);
+    update();
 }
 
 QSize PictureView::Scaled(int Width) const

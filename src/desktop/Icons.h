@@ -19,6 +19,9 @@ class PictureView : public QWidget {
 public:
     PictureView(const QString& Name, int NaturalWidth, const QString& Description, QWidget* Owner = nullptr);
 
+    // Another drawing of the same size takes its place.
+    void Draw(const QString& Name);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

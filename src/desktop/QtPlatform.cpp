@@ -253,6 +253,10 @@ std::optional<PrintChoice> QtPlatform::AskPrinter(const PrintDialog&)
     return std::nullopt;
 }
 
+void QtPlatform::PrintPage(const PrintedPage&) {}
+
+void QtPlatform::EndPrintRun() {}
+
 void QtPlatform::SetFocus(Control& Target)
 {
     const KeepArithmeticFlags Keep;

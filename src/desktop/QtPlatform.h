@@ -37,6 +37,8 @@ public:
 
     // No printing yet: always cancelled.
     std::optional<PrintChoice> AskPrinter(const PrintDialog& Dialog) override;
+    void PrintPage(const PrintedPage& Page) override;
+    void EndPrintRun() override;
 
     void SetFocus(Control& Target) override;
     bool IsInReach(const Control& Target) override;

@@ -13,7 +13,6 @@
 namespace velorix {
 namespace {
 
-constexpr double TwipsPerPixel = 15;
 constexpr double LeastScale = 0.55; // below it the labels can't be read
 
 } // namespace
@@ -26,7 +25,6 @@ SurfaceView::SurfaceView(DrawingSurface& Shown)
     setSizePolicy(Policy);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
-    setCursor(Qt::CrossCursor);
     Attach(Record, this);
     Record.View = [Alive = QPointer<SurfaceView>(this)] {
         if (!Alive) return; // a dialog's view goes before its record does
@@ -70,6 +68,12 @@ void SurfaceView::paintEvent(QPaintEvent*)
     Painter.drawPixmap(Place, Drawn, QRectF(Drawn.rect()));
     Painter.setPen(hasFocus() ? Colors().Accent : Colors().Border);
     Painter.drawRect(Place.adjusted(-0.5, -0.5, 0.5, 0.5));
+}
+
+void SurfaceView::enterEvent(QEnterEvent* Enter)
+{
+    setCursor(Record.PointerMoved ? Qt::CrossCursor : Qt::ArrowCursor); // a cross where it can be read out
+    QWidget::enterEvent(Enter);
 }
 
 void SurfaceView::mouseMoveEvent(QMouseEvent* Move)

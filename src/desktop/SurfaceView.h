@@ -20,6 +20,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* Event) override;
+    void enterEvent(QEnterEvent* Enter) override;
     void mouseMoveEvent(QMouseEvent* Move) override;
     void mousePressEvent(QMouseEvent* Press) override;
     void keyPressEvent(QKeyEvent* Key) override;

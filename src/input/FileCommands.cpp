@@ -196,8 +196,7 @@ void NewProjectCommand()
     if (ProjectOpen == 1) {
         if (Confirm("Do you want to save the project ?")) SaveCommand();
         MDIProject.Caption = ProgramTitle; // a save has shown the old project's name
-        frmLCC.Visible = false;
-        if (Analysed == 1) frmResults.Visible = false;
+        LeaveProjectScreens();
     }
     System().ShowModal(frmLCCType);
 }

@@ -41,7 +41,7 @@ bool IsLined()
 constexpr Use Always = {Yes, Yes};
 constexpr Use Gravity = {IsGravity, IsGravity};
 constexpr Use Pumping = {IsPumping, IsPumping};
-constexpr Use PumpingShown = {IsPumping, No}; // stored by its own change alone
+constexpr Use PumpingShown = {IsPumping, No}; // a commit leaves it alone
 constexpr Use Lined = {Yes, IsLined};
 constexpr Use Curve = {Yes, IsPumping}; // a gravity system shows the curve that it keeps
 
@@ -207,6 +207,9 @@ FieldList PumpingFields()
         Number(Pumping, frmLCC.txtPERWL, wBRWL, {7, "Enter the end reservoir water level !"}),
         UnitOf(Pumping, frmLCC.comPPRWLUnits, wTRWLUnits),
         UnitOf(Pumping, frmLCC.comPERWLUnits, wBRWLUnits),
+        // The reports read the gravity system's selectors of the levels for both kinds.
+        UnitOf(PumpingShown, frmLCC.comTRWLUnits, wTRWLUnits),
+        UnitOf(PumpingShown, frmLCC.comBRWLUnits, wBRWLUnits),
         UnitOf(Pumping, frmLCC.comPFlowrateUnits, wFlowrateUnits),
         // Of the two selectors over this field the gravity system's counts, here too.
         UnitOf(Pumping, frmLCC.comVaryingDemandUnits, wDemandUnits),

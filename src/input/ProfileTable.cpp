@@ -23,19 +23,6 @@ constexpr std::array<const char*, 8> Headings = {"Node nr",         "Elevation",
                                                  "Pipe diameter",   "Wall thickness", "Pipe cost/metre",
                                                  "Secondary loss ", "Description"};
 
-// The array behind each number column.
-Array1<Single, 500>& ColumnArray(int Col)
-{
-    switch (Col) {
-    case 1: return wElevation;
-    case 2: return wAccLength;
-    case 3: return wDiameter;
-    case 4: return wWallThickness;
-    case 5: return wPipeCost;
-    default: return wSecondaryLoss;
-    }
-}
-
 void CopyCells(int From, int To, int FirstCol, int LastCol)
 {
     for (int Col = FirstCol; Col <= LastCol; ++Col)
@@ -79,6 +66,18 @@ void RowsChanged()
 
 } // namespace
 
+Array1<Single, 500>& ProfileColumn(int Col)
+{
+    switch (Col) {
+    case 1: return wElevation;
+    case 2: return wAccLength;
+    case 3: return wDiameter;
+    case 4: return wWallThickness;
+    case 5: return wPipeCost;
+    default: return wSecondaryLoss;
+    }
+}
+
 void FillProfileGrid()
 {
     NodeCount = CountNodes();
@@ -89,7 +88,7 @@ void FillProfileGrid()
     for (int Row = 1; Row <= NodeCount; ++Row) {
         Table.SetText(Row, 0, std::to_string(Row));
         for (int Col = FirstDataCol; Col <= LastNumberCol; ++Col)
-            Table.SetText(Row, Col, GeneralText(ColumnArray(Col)[Row]));
+            Table.SetText(Row, Col, GeneralText(ProfileColumn(Col)[Row]));
         Table.SetText(Row, ComponentCol, ComponentText(wNodeDesc[Row]));
     }
     Table.Select(1, 1);
@@ -100,7 +99,7 @@ void ReadProfileGrid()
     for (int Row = 1; Row <= wNodeNr.LastIndex; ++Row) wNodeNr[Row] = static_cast<std::int16_t>(Row);
     wElevation.Fill(UnusedNode);
     wAccLength.Fill(UnusedNode);
-    for (int Col = 3; Col <= LastNumberCol; ++Col) ColumnArray(Col).Fill(0.0);
+    for (int Col = 3; Col <= LastNumberCol; ++Col) ProfileColumn(Col).Fill(0.0);
     wNodeDesc.Fill(0);
 
     Grid& Table = frmLCC.msgProfile;
@@ -109,7 +108,7 @@ void ReadProfileGrid()
     for (int Row = 1; Row <= Readable; ++Row) {
         ReadCell(Table, Row, 0, wNodeNr[Row]);
         for (int Col = FirstDataCol; Col <= LastNumberCol; ++Col)
-            ReadCell(Table, Row, Col, ColumnArray(Col)[Row]);
+            ReadCell(Table, Row, Col, ProfileColumn(Col)[Row]);
         wNodeDesc[Row] = ComponentIndex(Table.Text(Row, ComponentCol));
     }
     Table.Select(1, 1);

@@ -1,7 +1,13 @@
 // The pipeline profile: one row a node, from the upstream end to the downstream end.
 #pragma once
 
+#include "base/Arrays.h"
+#include "base/Single.h"
+
 namespace velorix {
+
+// The array of the working set behind a number column of the table, 1 to 6.
+Array1<Single, 500>& ProfileColumn(int Col);
 
 // Profile arrays to grid. Counts the nodes: up to the first entry whose elevation and length are both 0 or
 // both marked unused, at least 2, and 499 when no entry ends the table.

@@ -11,7 +11,6 @@
 namespace velorix {
 namespace {
 
-constexpr double TwipsPerPixel = 15;
 constexpr double TwipsPerInch = 1440;
 constexpr double PngScale = 2;
 
@@ -21,6 +20,17 @@ QByteArray Png(const DisplayList& Image)
     QBuffer Target(&Bytes);
     ToImage(Image, PngScale).save(&Target, "png");
     return Bytes;
+}
+
+// Letters of the same widths, for who looks at the file on a machine without ours.
+void NameLikeTypefaces(QByteArray& Svg)
+{
+    constexpr std::pair<const char*, const char*> Families[] = {
+        {"Liberation Sans", "Liberation Sans, Arial, Helvetica, sans-serif"},
+        {"Liberation Serif", "Liberation Serif, Times New Roman, Times, serif"},
+        {"Liberation Mono", "Liberation Mono, Courier New, Courier, monospace"}};
+    for (const auto& [Own, All] : Families)
+        Svg.replace("font-family=\"" + QByteArray(Own) + "\"", "font-family=\"" + QByteArray(All) + "\"");
 }
 
 QByteArray Svg(const DisplayList& Image, const QString& Title)
@@ -37,6 +47,7 @@ QByteArray Svg(const DisplayList& Image, const QString& Title)
     QPainter Painter(&Writer);
     Paint(Painter, Image, QRectF(QPointF(), Size));
     Painter.end();
+    NameLikeTypefaces(Bytes);
     return Bytes;
 }
 

@@ -1,7 +1,8 @@
 // What velorix-batch finds in the module velorix-paint, which it loads when there is something to draw.
 #pragma once
 
-#include "platform/DisplayList.h"
+#include "paint/DocumentFacts.h"
+#include "platform/PrintedPage.h"
 
 #include <string>
 
@@ -13,6 +14,9 @@ struct PaintServices {
 
     // The bytes of a picture file: "svg", "png" or "pdf".
     std::string (*FileBytes)(const DisplayList& Image, const std::string& Format, const std::string& Title);
+
+    // The bytes of a PDF file of the pages.
+    std::string (*PdfBytes)(const std::vector<PrintedPage>& Pages, const DocumentFacts& Facts);
 };
 
 constexpr const char* PaintModuleName = "velorix-paint.so";

@@ -13,7 +13,9 @@
 namespace velorix {
 namespace {
 
-constexpr double TwipsPerPixel = 15;
+// The ascent of a typeface begins above its tallest letter; a title at the foot of a sheet needs that room
+// for the letters that reach below the line.
+constexpr double LetterTop = 0.97;
 
 QColor Shade(Color Value)
 {
@@ -30,6 +32,7 @@ QFont Typeface(const Font& Face)
                                          : QStringList{QString::fromStdString(Face.Name)});
     Result.setPixelSize(static_cast<int>(std::lround(Face.Size * TwipsPerPoint)));
     Result.setBold(Face.Bold);
+    Result.setUnderline(Face.Underline);
     Result.setHintingPreference(QFont::PreferNoHinting);
     return Result;
 }
@@ -109,7 +112,7 @@ struct Draw {
         const QFont Face = Typeface(Text.Face);
         Painter.setFont(Face);
         Painter.setPen(Shade(Text.Ink));
-        Painter.drawText(QPointF(Text.X, Text.Y + QFontMetricsF(Face).ascent()),
+        Painter.drawText(QPointF(Text.X, Text.Y + LetterTop * QFontMetricsF(Face).ascent()),
                          QString::fromStdString(Text.Text));
     }
     void operator()(const PictureItem& Picture) const
@@ -149,6 +152,17 @@ void Paint(QPainter& Painter, const DisplayList& Image, const QRectF& Target)
         }
     }
     Painter.restore();
+}
+
+void Paint(QPainter& Painter, const PrintedPage& Page, const QRectF& Target)
+{
+    Paint(Painter, Page.Print, Target);
+    const QRectF Place = PlaceOf(Page.Print, Target);
+    const double Scale = Place.width() / Page.Print.Width;
+    for (const PlacedDrawing& Each : Page.Drawings)
+        Paint(Painter, Each.Drawn,
+              {Place.left() + Each.X * Scale, Place.top() + Each.Y * Scale, Each.Width * Scale,
+               Each.Height * Scale});
 }
 
 double PaintedTextWidth(const QString& Text, const Font& Face)

@@ -107,6 +107,11 @@ DatePicker::DatePicker(std::string Hint)
     Value.Changed = [this] { Change(); };
 }
 
+Image::Image(std::string Name)
+    : Picture(*this, std::move(Name))
+{
+}
+
 Timer::Timer(int Milliseconds)
     : Interval(*this, Milliseconds)
 {

@@ -123,6 +123,12 @@ struct DatePicker : Control {
     Handler Change;
 };
 
+// A picture of the program, by its name.
+struct Image : Control {
+    Image(std::string Name = {});
+    Property<std::string> Picture{*this};
+};
+
 // Raises Tick every Interval milliseconds while it is enabled, from the event loop only.
 struct Timer : Control {
     explicit Timer(int Milliseconds);

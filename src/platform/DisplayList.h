@@ -12,18 +12,20 @@ namespace velorix {
 
 // All lengths are in twips, 1440 to the inch; the origin is the top left, y grows downwards.
 constexpr double TwipsPerPoint = 20.0;
+constexpr double TwipsPerPixel = 15.0; // of the screen, at its usual scale
 
 struct Font {
     std::string Name; // empty for the program's own
     double Size = 8;  // points
     bool Bold = false;
+    bool Underline = false;
     bool operator==(const Font&) const = default;
 };
 
 struct LineItem {
     int X1, Y1, X2, Y2;
     Color Ink;
-    int Width; // pixels of the screen, 15 twips each
+    int Width; // pixels of the screen
     bool Dashed;
     bool operator==(const LineItem&) const = default;
 };

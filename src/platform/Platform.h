@@ -4,6 +4,7 @@
 #include "base/Date.h"
 #include "platform/Controls.h"
 #include "platform/DisplayList.h"
+#include "platform/PrintedPage.h"
 #include "platform/Screen.h"
 
 #include <filesystem>
@@ -63,6 +64,11 @@ public:
     virtual std::optional<std::filesystem::path> AskFileToOpen(const FileDialog& Dialog) = 0;
     virtual std::optional<std::filesystem::path> AskFileToSave(const FileDialog& Dialog) = 0;
     virtual std::optional<PrintChoice> AskPrinter(const PrintDialog& Dialog) = 0;
+
+    // A page for the printer that was chosen last: sent at once, or gathered for a file or a preview. What
+    // was gathered is written, or shown, when the run ends. Both throw FileFailure when that can't be done.
+    virtual void PrintPage(const PrintedPage& Page) = 0;
+    virtual void EndPrintRun() = 0;
 
     virtual void SetFocus(Control& Target) = 0;
 

@@ -1,6 +1,8 @@
 // Answers from a list.
 #include "platform/ScriptedPlatform.h"
 
+#include "base/Failure.h"
+
 namespace velorix {
 namespace {
 
@@ -51,6 +53,12 @@ std::optional<std::filesystem::path> ScriptedPlatform::AskFileToOpen(const FileD
 std::optional<std::filesystem::path> ScriptedPlatform::AskFileToSave(const FileDialog& Dialog)
 {
     return AskFileToOpen(Dialog);
+}
+
+void ScriptedPlatform::PrintPage(const PrintedPage& Page)
+{
+    if (PagesUntilPrinterFails == Pages.size()) throw FileFailure("The printer is out of paper.");
+    Pages.push_back(Page);
 }
 
 std::optional<PrintChoice> ScriptedPlatform::AskPrinter(const PrintDialog&)

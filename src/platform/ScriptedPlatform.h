@@ -26,6 +26,8 @@ public:
     std::vector<FileDialog> FileDialogs;
     std::vector<std::string> ModalScreens;
     std::vector<int> HelpTopics;
+    std::vector<PrintedPage> Pages;
+    int PrintRuns = 0; // that have ended
     Control* Focused = nullptr;
     PointerShape Pointer = PointerShape::Default;
     bool Ended = false;
@@ -35,6 +37,7 @@ public:
     Date TodaysDate{2005, 3, 3};
     PixelSize Pixels;
     bool HasSystemInformation = false;
+    std::optional<std::size_t> PagesUntilPrinterFails; // and none printed after them
     std::filesystem::path Folder;
 
     Answer Show(const Message& Box) override;
@@ -42,6 +45,8 @@ public:
     std::optional<std::filesystem::path> AskFileToOpen(const FileDialog& Dialog) override;
     std::optional<std::filesystem::path> AskFileToSave(const FileDialog& Dialog) override;
     std::optional<PrintChoice> AskPrinter(const PrintDialog& Dialog) override;
+    void PrintPage(const PrintedPage& Page) override;
+    void EndPrintRun() override { ++PrintRuns; }
     void SetFocus(Control& Target) override;
     bool IsInReach(const Control& Target) override { return Target.Visible && Target.Enabled; }
     void SetPointer(PointerShape Shape) override { Pointer = Shape; }

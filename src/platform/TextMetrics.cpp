@@ -45,6 +45,10 @@ constexpr WidthTable SerifBold = {
 
 constexpr int FixedPitch = 600;
 
+// What the regular typefaces tell as their average.
+constexpr int SansAverage = 441;
+constexpr int SerifAverage = 401;
+
 const WidthTable& TableOf(const Font& Face)
 {
     if (Face.Name == "Times New Roman") return Face.Bold ? SerifBold : Serif;
@@ -70,6 +74,14 @@ double FixedTextWidth(std::string_view Utf8, const Font& Face)
 double FixedTextHeight(const Font& Face)
 {
     return 1.15 * Face.Size * TwipsPerPoint;
+}
+
+double AverageCharacterWidth(const Font& Face)
+{
+    const int Average = Face.Name == "Courier New"       ? FixedPitch
+                        : Face.Name == "Times New Roman" ? SerifAverage
+                                                         : SansAverage;
+    return Average * Face.Size * TwipsPerPoint / 1000.0;
 }
 
 } // namespace velorix

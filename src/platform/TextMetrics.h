@@ -15,4 +15,8 @@ double FixedTextWidth(std::string_view Utf8, const Font& Face);
 // From the top of one line of text to the top of the next (twips).
 double FixedTextHeight(const Font& Face);
 
+// The average width of a character (twips), by which columns are counted on paper. Bold and regular share it,
+// so that a bold heading stands over its column.
+double AverageCharacterWidth(const Font& Face);
+
 } // namespace velorix

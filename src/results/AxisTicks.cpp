@@ -104,7 +104,7 @@ int FindIntervals(Single Most, double Origin, Single Step)
 {
     const Single Span = Checked(Most - Origin);
     const double k = Rounded(Span / Step);
-    return RoundToInt32(Reached(k, Step) < Most ? k + 1 : k);
+    return RoundToInt16(Reached(k, Step) < Most ? k + 1 : k);
 }
 
 AxisTicks FindTicks(Single Least, Single Most, Ladder Steps, OriginWidth Width)

@@ -4,8 +4,10 @@
 #include "base/Arithmetic.h"
 #include "base/Failure.h"
 #include "base/Format.h"
+#include "base/NumberText.h"
 #include "base/Text.h"
 #include "hydraulics/HydraulicResults.h"
+#include "input/InputFields.h"
 #include "model/WorkingSet.h"
 #include "platform/Platform.h"
 #include "results/ChartPen.h"
@@ -132,6 +134,14 @@ void StoreFrame(const ChartFrame& Frame)
     CurveOrigin = Frame;
 }
 
+bool AnyBoxIsEmpty()
+{
+    const auto IsEmpty = [](const TextBox& Box) { return Box.Text.Get().empty(); };
+    return std::any_of(frmLCC.txtH.begin(), frmLCC.txtH.end(), IsEmpty) ||
+           std::any_of(frmLCC.txtQ.begin(), frmLCC.txtQ.end(), IsEmpty) ||
+           std::any_of(frmLCC.txtEfficiency.begin(), frmLCC.txtEfficiency.end(), IsEmpty);
+}
+
 void DrawPumpAndEfficiency()
 {
     Chart Plot{frmPumpView.picGraph, {}, {}, {}};
@@ -202,6 +212,30 @@ std::string PumpFlowUnit()
     case 1: return "m³/s";
     default: return Trim(frmLCC.comFlowUnits.Text());
     }
+}
+
+bool TakePumpCurve()
+{
+    if (AnyBoxIsEmpty()) {
+        Warn("The pump curve data must be completed before it can be viewed.", "Velorix : ERROR");
+        return false;
+    }
+
+    Array1<Single, 3 * PumpPoints> Curve;
+    for (int Point = 0; Point < PumpPoints; ++Point) {
+        Curve[3 * Point + 1] = LeadingNumber(frmLCC.txtH[Point].Text.Get());
+        Curve[3 * Point + 2] = LeadingNumber(frmLCC.txtQ[Point].Text.Get());
+        Curve[3 * Point + 3] = LeadingNumber(frmLCC.txtEfficiency[Point].Text.Get());
+    }
+    if (std::all_of(Curve.begin(), Curve.end(), [](Single Each) { return Each == 0; })) {
+        Warn("All the pump data cannot be zero !", "Velorix : ERROR !");
+        return false;
+    }
+
+    wPumpCurve = Curve;
+    TakeUnit(frmLCC.comHeadUnits, wHeadUnits);
+    TakeUnit(frmLCC.comFlowUnits, wFlowUnits);
+    return true;
 }
 
 void DrawPumpCurve()

@@ -5,6 +5,10 @@
 
 namespace velorix {
 
+// Takes the pump curve from its boxes on the input screen, with its units. False, and told to the user, while
+// it isn't complete or all of it is zero.
+bool TakePumpCurve();
+
 // The entered pump curve on frmPumpView. Any fault is told to the user, closes the viewer and sets
 // HydraulicsFailed.
 void DrawPumpCurve();

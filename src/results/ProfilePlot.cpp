@@ -115,7 +115,6 @@ void DrawTitles(Chart& Plot, const PlotPlace& Place)
                                  Place.YTitleTop);
 }
 
-// In a pumping system with a riser at the station, from the ground up to the head of the first row.
 void DrawGradeline(Chart& Plot, NodeRange Nodes)
 {
     if (HideGradeline != 0) return;
@@ -123,7 +122,13 @@ void DrawGradeline(Chart& Plot, NodeRange Nodes)
     DrawCurve(
         Plot.Surface, Nodes.First, Nodes.Last, [&](int i) { return Plot.Frame.X(Chainage[i]); },
         [&](int i) { return Plot.Frame.Y(Gradeline(GradelinePoint(i), PlotYear)); });
-    if (Nodes.First != 1 || !IsPumping()) return;
+}
+
+// The riser at the pump station, from the ground up to the head of the first row.
+void DrawLift(Chart& Plot, NodeRange Nodes)
+{
+    if (HideGradeline != 0 || Nodes.First != 1 || !IsPumping()) return;
+    TakePen(Plot.Surface, GradelineBlue);
     const int x = Plot.Frame.X(Chainage[1]);
     Plot.Surface.Line(x, Plot.Frame.Y(GroundLevel[1]), x, Plot.Frame.Y(Gradeline(1, PlotYear)));
 }
@@ -155,8 +160,8 @@ void ShowCaptions(const PlotPlace& Place)
     Place.HeadCaption.Caption = Facts.Head.empty() ? Facts.Head : "Pumping head: " + Facts.Head;
 }
 
-// The whole drawing; Overlay comes last. A viewer of the input stops after the axes when the hydraulics has
-// failed, once.
+// The whole drawing; Overlay comes upon the gradeline. A viewer of the input stops after the axes when the
+// hydraulics has failed, once.
 template <typename LastLayer>
 void DrawOn(const PlotPlace& Place, bool Symbols, bool StopsWhenFailed, LastLayer Overlay)
 {
@@ -170,6 +175,7 @@ void DrawOn(const PlotPlace& Place, bool Symbols, bool StopsWhenFailed, LastLaye
     }
     DrawGradeline(Plot, *Nodes);
     Overlay(Plot, *Nodes);
+    DrawLift(Plot, *Nodes);
     ShowCaptions(Place);
 }
 

@@ -1,6 +1,7 @@
 // Rows of the tables.
 #include "results/ResultTables.h"
 
+#include "base/Arithmetic.h"
 #include "base/Failure.h"
 #include "base/Format.h"
 #include "base/NumberText.h"
@@ -15,6 +16,8 @@
 #include "results/SupplyPlots.h"
 #include "screens/Results.h"
 
+#include <algorithm>
+
 namespace velorix {
 namespace {
 
@@ -24,8 +27,10 @@ public:
     Filling(Grid& Filled, int Rows, int Cols)
         : Table(Filled)
     {
+        ClearArithmeticFlags();
         Table.Visible = false;
-        Table.SetRows(Rows);
+        Table.SetRows(
+            std::max(Rows, Table.FixedRows)); // no year at all when supply ends before the base year
         Table.SetCols(Cols);
     }
     ~Filling() { Table.Visible = true; }

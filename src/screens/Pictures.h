@@ -12,10 +12,15 @@ namespace velorix {
 inline const std::array<StoredPicture, 5> imgCPP = {{{"imgCPP(1)", 240, 320},
                                                      {"imgCPP(2)", 320, 200},
                                                      {"imgCPP(3)", 320, 200},
-                                                     {"imgCPP(4)", 440, 320},
+                                                     {"imgCPP(4)", 360, 260},
                                                      {"imgCPP(5)", 320, 320}}};
 
 inline const StoredPicture imgDot{"imgDot", 70, 70};
+
+// Of the legends on paper, and the program's own mark.
+inline const StoredPicture imgPumpCurve{"imgPumpCurve", 510, 170};
+inline const StoredPicture imgEfficiencyCurve{"imgEfficiencyCurve", 510, 170};
+inline const StoredPicture picLogo{"picLogo", 1134, 1134};
 
 constexpr int CaptionWidth = 240;
 constexpr int CaptionHeight = 2400;

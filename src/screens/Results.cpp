@@ -22,6 +22,7 @@ ResultsScreen::ResultsScreen()
     msgDuty.ColWidth = {950, 1150, 1150, 1050};
     msgDuty.FixedRows = msgSystem.FixedRows = 2;
     msgDuty.HeaderHeight = 600;
+    msgDuty.DataRowHeight = 300;
     msgCost.ColWidth = {3100, 1850};
     msgCost.DataRowHeight = msgCost.HeaderHeight = 350;
     msgAnnualCost.ColWidth = {1700, 1100, 1800};

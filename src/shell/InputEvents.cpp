@@ -51,6 +51,15 @@ void PumpDemandUnitsChosen()
     frmLCC.comVaryingDemandUnits.ListIndex = frmLCC.comPumpVaryingDemandUnits.ListIndex.Get();
 }
 
+// The reports read the selectors of the gravity frame for both kinds of system.
+void ConnectLevelUnits(ComboBox& Pumping, ComboBox& Gravity)
+{
+    Pumping.Change = [&] {
+        MarkChanged();
+        Gravity.ListIndex = Pumping.ListIndex.Get();
+    };
+}
+
 void ConnectKeys()
 {
     for (const InputField& Each : InputFields)
@@ -170,6 +179,8 @@ void ConnectInputScreen()
     ConnectEdits();
     frmLCC.comDiameterUnits.Change = DiameterUnitsChosen;
     frmLCC.comPumpVaryingDemandUnits.Change = PumpDemandUnitsChosen;
+    ConnectLevelUnits(frmLCC.comPPRWLUnits, frmLCC.comTRWLUnits);
+    ConnectLevelUnits(frmLCC.comPERWLUnits, frmLCC.comBRWLUnits);
     ConnectKeys();
     ConnectBars();
     ConnectOptions();

@@ -132,9 +132,11 @@ void ResultsCommand()
     if (Analysed != 1) {
         Warn("Project has not been analysed.");
         if (ProjectOpen != 1) return;
+        CloseViewers();
         ShowInputScreen();
         return BringBackTitle();
     }
+    CloseViewers();
     frmLCC.Visible = false;
     frmResults.Visible = true;
     BringBackTitle();

@@ -1,6 +1,7 @@
 // Texts and handlers of the opening dialogs and the notices.
 #include "shell/Notices.h"
 
+#include "base/Version.h"
 #include "input/ViewState.h"
 #include "platform/Platform.h"
 #include "screens/Dialogs.h"
@@ -131,7 +132,7 @@ void IntroEnds()
 
 std::string VersionCaption()
 {
-    return "Version: " VELORIX_VERSION;
+    return std::string("Version: ") + ProgramVersion();
 }
 
 } // namespace velorix

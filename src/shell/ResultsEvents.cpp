@@ -136,10 +136,10 @@ void ShowIrrGraph()
     for (const auto& [Bar, Reading] : {std::pair{&frmIRRView.hsbBegin, &frmIRRView.lblBeginIRR},
                                        std::pair{&frmIRRView.hsbEnd, &frmIRRView.lblEndIRR}})
         Reading->Caption = PercentCaption(Bar->Value);
-    DrawIrrGraph();
     frmLCC.Visible = false;
     frmResults.Visible = false;
     frmIRRView.Visible = true;
+    DrawIrrGraph();
 }
 
 void CloseIrrGraph()

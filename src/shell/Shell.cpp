@@ -16,6 +16,7 @@
 #include "shell/GridEditor.h"
 #include "shell/Help.h"
 #include "shell/Hints.h"
+#include "shell/ImportEvents.h"
 #include "shell/InputEvents.h"
 #include "shell/MainCommands.h"
 #include "shell/Notices.h"
@@ -56,6 +57,7 @@ Handler ShowRoughness;
 void ConnectScreens()
 {
     ConnectHints();
+    ConnectImportWizard();
     ConnectConverter();
     ConnectRoughness();
     ConnectMainWindow();

@@ -20,7 +20,8 @@ void ConnectSurface(DrawingSurface& Surface, const char* Copied, void (*ReadOut)
 void ConnectPointer(Screen& Target)
 {
     for (Control* Each : Target.Controls) {
-        if (dynamic_cast<DrawingSurface*>(Each)) continue;
+        const auto* const Surface = dynamic_cast<DrawingSurface*>(Each);
+        if (Surface && Surface->PointerMoved) continue;
         const Handler Hint = Each->MouseMove;
         Each->MouseMove = [Hint] {
             System().SetPointer(PointerShape::Default);

@@ -10,7 +10,7 @@ namespace velorix {
 // out, where there is a read-out.
 void ConnectSurface(DrawingSurface& Surface, const char* Copied, void (*ReadOut)(double, double) = nullptr);
 
-// Over every other control of the screen the pointer is the arrow again.
+// Over every control of the screen but the surfaces with a read-out the pointer is the arrow again.
 void ConnectPointer(Screen& Target);
 
 // The hourglass stands while the plot is drawn anew.

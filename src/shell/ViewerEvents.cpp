@@ -2,12 +2,7 @@
 #include "shell/ViewerEvents.h"
 
 #include "analysis/AnalyseProject.h"
-#include "base/Failure.h"
-#include "base/NumberText.h"
-#include "hydraulics/Flows.h"
-#include "hydraulics/Normalise.h"
 #include "input/FileCommands.h"
-#include "input/InputFields.h"
 #include "input/ViewState.h"
 #include "model/WorkingSet.h"
 #include "platform/Platform.h"
@@ -23,12 +18,8 @@
 #include "shell/Help.h"
 #include "shell/SurfaceEvents.h"
 
-#include <algorithm>
-
 namespace velorix {
 namespace {
-
-constexpr int PumpPoints = 6;
 
 void ConnectProfileViewer(ProfileViewer& Viewer, void (*Draw)(), void (*ReadOut)(double, double))
 {
@@ -91,24 +82,12 @@ void ClosePumpView()
     ShowInputScreen();
 }
 
-bool AnyBoxIsEmpty()
-{
-    const auto IsEmpty = [](const TextBox& Box) { return Box.Text.Get().empty(); };
-    return std::any_of(frmLCC.txtH.begin(), frmLCC.txtH.end(), IsEmpty) ||
-           std::any_of(frmLCC.txtQ.begin(), frmLCC.txtQ.end(), IsEmpty) ||
-           std::any_of(frmLCC.txtEfficiency.begin(), frmLCC.txtEfficiency.end(), IsEmpty);
-}
-
 } // namespace
 
 void ViewProfile()
 {
     PlotYear = 1;
-    if (!SaveToViewProfile()) return;
-    AnalysisAborted = 0;
-    NormaliseInputs();
-    SolveFlows(Tables::Filled, TellingOfFlows());
-    if (AnalysisAborted == -1) return;
+    if (!SaveToViewProfile() || !SolveForProfile(Tables::Filled)) return;
 
     LoadProfileView();
     DrawProfilePlot();
@@ -119,21 +98,7 @@ void ViewProfile()
 
 void ViewPumpCurve()
 {
-    if (AnyBoxIsEmpty())
-        return Warn("The pump curve data must be completed before it can be viewed.", "Velorix : ERROR");
-
-    Array1<Single, 3 * PumpPoints> Curve;
-    for (int Point = 0; Point < PumpPoints; ++Point) {
-        Curve[3 * Point + 1] = LeadingNumber(frmLCC.txtH[Point].Text.Get());
-        Curve[3 * Point + 2] = LeadingNumber(frmLCC.txtQ[Point].Text.Get());
-        Curve[3 * Point + 3] = LeadingNumber(frmLCC.txtEfficiency[Point].Text.Get());
-    }
-    if (std::all_of(Curve.begin(), Curve.end(), [](Single Each) { return Each == 0; }))
-        return Warn("All the pump data cannot be zero !", "Velorix : ERROR !");
-
-    wPumpCurve = Curve;
-    TakeUnit(frmLCC.comHeadUnits, wHeadUnits);
-    TakeUnit(frmLCC.comFlowUnits, wFlowUnits);
+    if (!TakePumpCurve()) return;
     frmPumpView.LoadHidden();
     DrawPumpCurve();
     if (!frmPumpView.IsLoaded()) return; // it could not be drawn

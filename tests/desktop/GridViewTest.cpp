@@ -407,6 +407,18 @@ TEST_F(GridViewTest, RowsThatGoTakeNothingElseAlong)
 }
 
 // The whole table is on the screen within the blink of an eye; ten times the aim allows for a loaded machine.
+TEST_F(GridViewTest, ATableThatIsShownWithFewerColumnsScrollsAsBefore)
+{
+    const int Before = Shown->verticalScrollBar()->maximum();
+    Table.Visible = false;
+    Table.SetCols(5);
+    Table.Visible = true; // laid out before the grid has told its new shape
+    QTest::qWait(1);
+    EXPECT_THAT(Windows.Messages, IsEmpty());
+    EXPECT_EQ(Shown->verticalScrollBar()->maximum(), Before);
+    EXPECT_EQ(Shown->model()->columnCount(), 4);
+}
+
 TEST_F(GridViewTest, FillingAndPaintingAFullTableTakesNoTime)
 {
     QElapsedTimer Watch;

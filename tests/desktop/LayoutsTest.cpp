@@ -6,11 +6,13 @@
 #include "results/PlotState.h"
 #include "screens/Analyse.h"
 #include "screens/Dialogs.h"
+#include "screens/ImportWizard.h"
 #include "screens/RoughnessScreen.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QAccessible>
+#include <QClipboard>
 #include <QDialog>
 #include <QDir>
 #include <QGroupBox>
@@ -327,6 +329,26 @@ TEST_F(LayoutsTest, DialogsAreCompleteAndFit)
         EXPECT_LE(Dialog->height(), 560);
         Shown->Unload();
     }
+}
+
+TEST_F(LayoutsTest, EveryStepOfTheImportFits)
+{
+    frmImport.LoadHidden();
+    const std::unique_ptr<QDialog> Dialog(ImportDialog(Main.get()));
+    Dialog->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Dialog.get()));
+    QApplication::clipboard()->setText("12,5\t0\t600\t6\t90\t0\n");
+    for (CommandButton* Pressed : {&frmImport.sscNext, &frmImport.sscPaste, &frmImport.sscNext}) {
+        Pressed->Click();
+        QCoreApplication::processEvents();
+        ExpectRoomForAll(*Dialog);
+        ExpectTabsReach(frmImport, *Dialog);
+        EXPECT_LE(Dialog->width(), 800);
+        EXPECT_LE(Dialog->height(), 560);
+    }
+    EXPECT_TRUE(FocusTarget(frmImport.msgFImport)->isVisible());
+    EXPECT_GE(Dialog->x(), 0);
+    frmImport.Unload();
 }
 
 TEST_F(LayoutsTest, AnyKeyEndsTheOpeningOfTheAnalysis)

@@ -1,6 +1,7 @@
 // The services of the window system, with the boxes and dialogs that a user would see.
 #include "desktop/QtPlatform.h"
 
+#include "base/Failure.h"
 #include "desktop/DesktopTest.h"
 #include "desktop/Views.h"
 
@@ -176,6 +177,24 @@ TEST_F(QtPlatformTest, AScreenWithoutADialogIsAFailureAndTheEndOfTheProgramEndsD
     });
     EXPECT_FALSE(Windows.HasEnded());
     EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_TRUE(Windows.HasEnded());
+}
+
+TEST_F(QtPlatformTest, AFatalFailureIsReportedBeforeItEndsTheProgram)
+{
+    Small.Ok.Click = [] { throw FatalFailure("row 2 of the paste"); };
+    QTimer::singleShot(0, qApp, [this] {
+        WithTopWindow<QDialog>([this](QDialog& Dialog) {
+            WithTopWindow<QMessageBox>([this](QMessageBox& Box) {
+                EXPECT_TRUE(Box.text().contains("row 2 of the paste"));
+                EXPECT_FALSE(Windows.HasEnded());
+                Box.accept();
+            });
+            Dialog.findChild<QPushButton*>()->click();
+        });
+        Windows.ShowModal(Small);
+    });
+    EXPECT_EQ(QApplication::exec(), EXIT_FAILURE);
     EXPECT_TRUE(Windows.HasEnded());
 }
 

@@ -45,6 +45,7 @@ TEST(AxisTicksTest, LaddersEndWhereTheyAreToldTo)
         for (std::size_t Index = 0; Index < 3; ++Index)
             EXPECT_EQ(FindStep(0, Ranges[Index], Steps), Expected[Index]) << Ranges[Index];
     EXPECT_THROW(FindTicks(0, 3e7, Ladder::ToMillion), ArithmeticFailure);
+    EXPECT_THROW(FindTicks(0, 1e12, Ladder::ClosedAtTenMillion), ArithmeticFailure); // 100,000 grid lines
     EXPECT_THROW(FindTicks(0, std::numeric_limits<double>::quiet_NaN(), Ladder::ToMillion),
                  ArithmeticFailure);
 }

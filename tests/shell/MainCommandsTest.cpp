@@ -5,6 +5,7 @@
 #include "input/ProfileTable.h"
 #include "platform/DrawingSurface.h"
 #include "platform/Platform.h"
+#include "screens/ImportWizard.h"
 #include "screens/RoughnessScreen.h"
 
 #include <set>
@@ -45,7 +46,10 @@ TEST_F(MainCommandsTest, ResultsAndInputTakeTurns)
     MDIProject.mnuResults.Click(); // not analysed
     EXPECT_TRUE(frmLCC.Visible);
     Analysed = 1;
+    frmPumpView.LoadHidden();
+    frmPumpView.Visible = true; // would stay in front
     MDIProject.mnuResults.Click();
+    EXPECT_FALSE(frmPumpView.Visible);
     EXPECT_TRUE(frmResults.Visible);
     EXPECT_FALSE(frmLCC.Visible);
     MDIProject.mnuGeneral.Click();
@@ -81,8 +85,9 @@ TEST_F(MainCommandsTest, WhateverCanBePressedDoesSomething)
         &MDIProject.mnuFile,       &MDIProject.munImportExport, &MDIProject.mnuExport,    &MDIProject.mnuView,
         &MDIProject.mnuHelp,       &MDIProject.mnuFGridRows,    &frmResults.sscDutypoint, &frmResults.sscView,
         &frmResults.sscChangeView, // these three need an analysis
+        &frmImport.sscPrevious,    // hidden on the first step
         &frmRoughness.sscPrint};
-    Handler* const Missing[] = {&ShowPrintScreen, &ShowImportWizard, &ShowGuide};
+    Handler* const Missing[] = {&ShowPrintScreen, &ShowGuide};
     for (Handler* Each : Missing) *Each = [] { Warn("shown"); };
     const auto Presses = [this](Screen& Owner, const Control& Pressed, const Handler& Click, bool Panes) {
         ResetProgram();

@@ -1,0 +1,11 @@
+// The number comes from the build description.
+#include "base/Version.h"
+
+namespace velorix {
+
+const char* ProgramVersion()
+{
+    return VELORIX_VERSION;
+}
+
+} // namespace velorix
