@@ -1,6 +1,7 @@
 // Opening dialogs, kind of system, preferences, row deletion and notices.
 #include "desktop/DialogLayouts.h"
 
+#include "desktop/ChartParts.h"
 #include "desktop/FormRows.h"
 #include "desktop/Icons.h"
 #include "desktop/QtPlatform.h"
@@ -234,7 +235,8 @@ QDialog* DutyPointDialog(QWidget* Owner)
     Curves->setFixedSize(RoomForCurves);
     return FixedWindow(
         frmDutyPoint, Owner,
-        {Curves, View(frmDutyPoint.lblAdvice), InRow({nullptr, DefaultButton(frmDutyPoint.sscOK)})});
+        {InRow({LineKey({{PumpCurveInk, "Pump curve"}, {SystemCurveInk, "System curve"}}), nullptr}), Curves,
+         View(frmDutyPoint.lblAdvice), InRow({nullptr, DefaultButton(frmDutyPoint.sscOK)})});
 }
 
 // The groups beside number, units and result. Enter in the field converts too.

@@ -276,6 +276,12 @@ TurningBox::TurningBox(TurningBox& Outer)
     Box->setDirection(QBoxLayout::LeftToRight);
 }
 
+TurningBox::TurningBox(int Digits, const std::vector<QWidget*>& Content)
+    : TurningBox(Digits)
+{
+    for (QWidget* Each : Content) Add(Each, Each == Content.back() ? 1 : 0);
+}
+
 void TurningBox::Add(QWidget* Content, int Stretch, Qt::Alignment Place)
 {
     Box->addWidget(Content, Stretch, Place);

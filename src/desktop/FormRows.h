@@ -100,6 +100,8 @@ public:
     explicit TurningBox(int RowFromDigits);
     explicit TurningBox(TurningBox& Outer);
 
+    TurningBox(int RowFromDigits, const std::vector<QWidget*>& Content); // the last one takes what is left
+
     void Add(QWidget* Content, int Stretch = 0, Qt::Alignment Place = {});
 
 protected:

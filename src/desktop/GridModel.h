@@ -27,7 +27,6 @@ public:
 
     int HeadRows() const { return Told.HeadRows; }
     int HeadCols() const { return Told.HeadCols; }
-    int Cols() const { return Told.Cols; } // of the grid, as the view knows it
 
     // The index of a cell of the grid, invalid for one that stands in a header; and the way back.
     QModelIndex IndexOf(int Row, int Col) const { return index(Row - HeadRows(), Col - HeadCols()); }

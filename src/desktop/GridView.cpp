@@ -113,7 +113,7 @@ void GridView::Settle()
         Model.Reset();
     else
         Model.Refresh();
-    if (Reshaped || HeadingsChanged) Measure();
+    if (Reshaped || HeadingsChanged || !Editor) Measure();
     clearSpans();
     for (int Row = Model.HeadRows(); Record.MergeEqualCells && Row < Record.Rows(); ++Row)
         for (int Col = 0; Col < Record.Cols(); ++Col) {
@@ -124,7 +124,8 @@ void GridView::Settle()
     ShowSelection();
 }
 
-// The columns are as wide as told, or wider where the longest word of the heading or a row's name needs it.
+// The columns are as wide as told, or wider where the longest word of the heading, a row's name or, in a
+// table that is only read, any cell needs it.
 void GridView::Measure()
 {
     constexpr int OneWordALine = 1;
@@ -134,9 +135,11 @@ void GridView::Measure()
     for (int Col = 0; Col < Record.Cols(); ++Col) {
         int Needed =
             Letters.boundingRect({0, 0, OneWordALine, 0}, Qt::TextWordWrap, Model.Heading(Col)).width();
-        for (int Row = Model.HeadRows(); Col < Record.FixedCols && Row < Record.Rows(); ++Row)
-            Needed =
-                std::max(Needed, Letters.horizontalAdvance(QString::fromStdString(Record.Text(Row, Col))));
+        const bool ByCells = !Editor || Col < Record.FixedCols;
+        for (int Row = Model.HeadRows(); ByCells && Row < Record.Rows(); ++Row)
+            if (Model.Span(Row, Col).size() == QSize(1, 1))
+                Needed = std::max(Needed,
+                                  Letters.horizontalAdvance(QString::fromStdString(Record.Text(Row, Col))));
         LeastWidths.push_back(std::max(Pixels(Record.ColWidth.at(static_cast<std::size_t>(Col))),
                                        Needed + 2 * CellPadding + 1));
     }
@@ -158,10 +161,11 @@ void GridView::SpreadColumns()
 {
     const QScopedValueRollback<bool> Guard(Sizing, true);
     const int Heads = Model.HeadCols();
-    const int First = std::clamp(Record.FixedCols, Heads, Record.Cols());
+    const int ColEnd = static_cast<int>(LeastWidths.size());
+    const int First = std::clamp(Record.FixedCols, Heads, ColEnd);
     const int Room = viewport()->width() - WidthOf(Heads, First);
-    const double Stretch = std::max(1.0, Room / std::max(1.0, double(WidthOf(First, Model.Cols()))));
-    for (int Col = Heads; !SizedByHand && Col < Record.Cols(); ++Col) {
+    const double Stretch = std::max(1.0, Room / std::max(1.0, double(WidthOf(First, ColEnd))));
+    for (int Col = Heads; !SizedByHand && Col < ColEnd; ++Col) {
         const auto Left = [&](int Each) { return qRound(WidthOf(First, Each) * Stretch); };
         setColumnWidth(Col - Heads, Col < First ? WidthOf(Col, Col + 1) : Left(Col + 1) - Left(Col));
     }
@@ -259,10 +263,18 @@ void GridView::scrollContentsBy(int X, int Y)
     PlaceEditors();
 }
 
+void GridView::ShowWhole()
+{
+    Whole = true;
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
 QSize GridView::SizeFor(int DataRows) const
 {
-    const int Rows = std::min(Model.rowCount(), DataRows);
-    return QSize(WidthOf(0, Model.Cols()) + verticalScrollBar()->sizeHint().width(),
+    const int Rows = Whole ? Model.rowCount() : std::min(Model.rowCount(), DataRows);
+    const int BarWidth = Whole ? 0 : verticalScrollBar()->sizeHint().width();
+    return QSize(WidthOf(0, static_cast<int>(LeastWidths.size())) + BarWidth,
                  horizontalHeader()->minimumHeight() + Rows * verticalHeader()->defaultSectionSize()) +
            QSize(2, 2) * frameWidth();
 }
@@ -277,7 +289,7 @@ QSize GridView::minimumSizeHint() const
 {
     constexpr int LeastRows = 3;
     constexpr int LeastWidth = 200;
-    return SizeFor(LeastRows).boundedTo({LeastWidth, QWIDGETSIZE_MAX});
+    return Whole ? sizeHint() : SizeFor(LeastRows).boundedTo({LeastWidth, QWIDGETSIZE_MAX});
 }
 
 void GridView::resizeEvent(QResizeEvent* Resize)

@@ -37,6 +37,9 @@ public:
     // Where a menu over the grid opens: at the last press of the right button, or of the menu key.
     QPoint MenuPlace() const { return PopupPlace; }
 
+    // From now on the view asks for room for all rows and columns, and the page scrolls instead of the table.
+    void ShowWhole();
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -96,6 +99,7 @@ private:
     QComboBox* const List;
     QAbstractButton* HeadCorner = nullptr; // where the headers meet
     std::vector<int> LeastWidths;          // of the grid's columns, without what they are stretched by
+    bool Whole = false;
     bool SettlePending = false;
     bool HeadingsChanged = true;
     bool Following = false;   // the view is on its way to the record's selection

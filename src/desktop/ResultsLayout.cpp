@@ -1,6 +1,8 @@
 // Pages of the results screen: a plot with its controls beside it, and the tables that stand in for it.
 #include "desktop/ResultsLayout.h"
 
+#include "desktop/Binding.h"
+#include "desktop/ChartParts.h"
 #include "desktop/FormRows.h"
 #include "desktop/GridView.h"
 #include "desktop/ScrollBarView.h"
@@ -22,34 +24,40 @@
 namespace velorix {
 namespace {
 
-constexpr int SideWidth = 190;
+constexpr int SideWidth = 180;
 
 QWidget* Headline(const QString& Name, Label& Figure)
 {
-    QWidget* const Pair = InRow({MutedText(Name), WithRole(View(Figure), "figure")});
-    Pair->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    QWidget* const Pair = InColumn({MutedText(Name), WithRole(View(Figure), "figure")});
+    Pair->layout()->setSpacing(0);
     return Pair;
 }
 
-// One line: the room belongs to the plots.
 QWidget* Headlines()
 {
     QWidget* const Line = InRow(
         {Headline("Design life", frmResults.lblDesignLife), nullptr,
          Headline("NPV of cost", frmResults.lblNPVE), nullptr, Headline("NPV of income", frmResults.lblNPVI),
-         nullptr, WithRole(View(frmResults.lblIRR), "figure"), nullptr, View(frmResults.sscInput)});
-    Line->layout()->setContentsMargins(2 * Gap, Gap / 2, 2 * Gap, Gap / 2);
+         nullptr, Headline("Rate of return", frmResults.lblIRR), nullptr, View(frmResults.sscInput)});
+    Line->layout()->setContentsMargins(2 * Gap, 0, 2 * Gap, 0);
     return Line;
 }
 
-// A plot that takes the room, and its controls in a column at its right.
-QWidget* PlotWithSide(QWidget* Plot, const std::vector<QWidget*>& Side)
+QWidget* Stretched(QWidget* Box, QWidget* Content)
 {
+    static_cast<QBoxLayout*>(Box->layout())->setStretchFactor(Content, 1);
+    return Box;
+}
+
+// A plot that takes the room below what explains it, and its controls in a column at the right.
+QWidget* PlotWithSide(const std::vector<QWidget*>& Above, QWidget* Plot, const std::vector<QWidget*>& Side)
+{
+    std::vector<QWidget*> Parts = Above;
+    Parts.push_back(Plot);
+    QWidget* const Main = Stretched(InColumn(Parts), Plot);
     QWidget* const Column = InColumn(Side);
     Column->setFixedWidth(SideWidth);
-    QWidget* const Page = InRow({Plot, Column});
-    static_cast<QBoxLayout*>(Page->layout())->setStretchFactor(Plot, 1);
-    return Page;
+    return Stretched(InRow({Main, Column}), Main);
 }
 
 // A table over the whole page, with what leads back below it.
@@ -75,11 +83,6 @@ QWidget* PageOf(QWidget* Content, const std::vector<QWidget*>& Panes,
     for (std::size_t Index = 0; Index < Panes.size(); ++Index)
         StandInFor(Panes[Index], Content, FirstFields[Index]);
     return Page(Stack);
-}
-
-QWidget* ReadOut(const char* Name, Label& Value)
-{
-    return InRow({MutedText(Name), View(Value), nullptr});
 }
 
 QWidget* YearOfPlot()
@@ -108,33 +111,46 @@ QWidget* Components()
 
 QWidget* DutyPane()
 {
+    constexpr int RowFrom = 118; // digits; with less room the labels of the curves would be too small to read
+    constexpr QSize LeastCurves(540, 288);
     QGroupBox* const Pane = View(frmResults.fraDuty);
     FormRows Rows(Pane);
     QWidget* const Year = View(frmResults.hscDuty);
     NameField(Year, "Year of the system curve");
     QWidget* const Table = View(frmResults.msgDuty);
-    QWidget* const Both = InRow({View(frmResults.picDuty), Table});
-    static_cast<QBoxLayout*>(Both->layout())->setStretch(0, 1);
+    QWidget* const Curves = View(frmResults.picDuty);
+    Curves->setMinimumSize(LeastCurves);
+    Table->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    auto* const Both = new TurningBox(RowFrom);
+    Both->Add(Curves, 1);
+    Both->Add(Table);
+    Rows.AddWide(Stretched(InRow({View(frmResults.lblDutyYear), Year, View(frmResults.sscPrintDutyYear),
+                                  View(frmResults.sscHideDuty)}),
+                           Year));
+    Rows.AddWide(InRow({LineKey({{PumpCurveInk, "Pump curve"}, {SystemCurveInk, "System curve"}}), nullptr}));
     Rows.AddWide(Both, 1);
-    Rows.AddWide(InRow({View(frmResults.lblDutyYear), Year, nullptr, View(frmResults.sscPrintDutyYear),
-                        View(frmResults.sscHideDuty)}));
     return Pane;
 }
 
 QWidget* HydraulicPage()
 {
+    constexpr int KeyBesideReadOuts = 80; // digits
     QWidget* const Content = PlotWithSide(
+        {InRow({View(frmResults.lblMaxFlow), View(frmResults.lblPumping), nullptr}),
+         new TurningBox(
+             KeyBesideReadOuts,
+             {LineKey({{GroundInk, "Pipeline"}, {GradelineInk, "Hydraulic gradeline"}}),
+              InRow({nullptr, ReadOut("Distance", frmResults.lblX), ReadOut("Level", frmResults.lblY)})})},
         View(frmResults.picHydraulic),
-        {View(frmResults.lblMaxFlow), View(frmResults.lblPumping), ReadOut("Distance", frmResults.lblX),
-         ReadOut("Level", frmResults.lblY), YearOfPlot(), View(frmResults.sscChangeView),
-         Choice("From", View(frmResults.comBegin)), Choice("To", View(frmResults.comEnd)),
-         View(frmResults.sscView), View(frmResults.sscComponents), Components(),
-         View(frmResults.sscViewHydraulicTable), View(frmResults.sscDutypoint), nullptr,
-         InRow({View(frmResults.sscPrintView), ToolView(frmResults.sscHelp1, "help"), nullptr})});
+        {YearOfPlot(), View(frmResults.sscChangeView), Choice("From", View(frmResults.comBegin)),
+         Choice("To", View(frmResults.comEnd)), View(frmResults.sscView), View(frmResults.sscComponents),
+         Components(), InRow({View(frmResults.sscViewHydraulicTable), View(frmResults.sscDutypoint)}),
+         nullptr, InRow({View(frmResults.sscPrintView), ToolView(frmResults.sscHelp1, "help"), nullptr})});
     QWidget* const Table = TablePane(frmResults.fraTable, {View(frmResults.lblYear1)},
                                      frmResults.msgHydraulic, frmResults.sscHideHydraulicTable);
     QWidget* const Duty = DutyPane();
-    return PageOf(Content, {Table, Duty}, {Table, Duty});
+    return PageOf(Content, {Table, Duty},
+                  {FocusTarget(frmResults.msgHydraulic), FocusTarget(frmResults.hscDuty)});
 }
 
 // A coloured field with what it stands for.
@@ -151,56 +167,71 @@ QWidget* LegendRow(const std::vector<QWidget*>& Colors, const std::vector<QWidge
     return InRow(All);
 }
 
-QLabel* Wrapped(QLabel* Words)
+// Groups of rows in a frame without a border, side by side from so many digits on.
+QWidget* Legend(Frame& Record, int RowFrom, const std::vector<std::vector<QWidget*>>& Groups)
 {
-    Words->setWordWrap(true);
-    return Words;
+    QGroupBox* const Box = WithRole(View(Record), "rows");
+    std::vector<QWidget*> Columns;
+    for (std::vector<QWidget*> Rows : Groups) {
+        Rows.push_back(nullptr);
+        QWidget* const Column = InColumn(Rows);
+        Column->layout()->setSpacing(Gap / 2);
+        Columns.push_back(Column);
+    }
+    auto* const Turning = new TurningBox(RowFrom, Columns);
+    auto* const Layout = new QVBoxLayout(Box);
+    Layout->setContentsMargins(0, 0, 0, 0);
+    Layout->addWidget(Turning);
+    return Box;
 }
 
+// The unit goes on where the name of the demand ends.
 QWidget* DemandLegend()
 {
-    QGroupBox* const Box = View(frmResults.fraDemandLegend);
-    FormRows Rows(Box);
-    QWidget* const Words = InColumn({View(frmResults.lblDemandText), View(frmResults.lblDemand)});
-    Rows.AddWide(LegendRow({View(frmResults.lblDemandColor), View(frmResults.lblShortageColor)}, {Words}));
-    Rows.AddWide(LegendRow({View(frmResults.lblYieldColor)}, {View(frmResults.lblYield)}));
-    return Box;
+    QWidget* const Words = InRow({View(frmResults.lblDemandText), View(frmResults.lblDemand)});
+    Words->layout()->setSpacing(0);
+    return Legend(frmResults.fraDemandLegend, 80,
+                  {{LegendRow({View(frmResults.lblDemandColor), View(frmResults.lblShortageColor)}, {Words})},
+                   {LegendRow({View(frmResults.lblYieldColor)}, {View(frmResults.lblYield)})}});
 }
 
+// The annual costs as they are stacked, from below.
 QWidget* IncomeLegend()
 {
-    QGroupBox* const Box = View(frmResults.fraIncomeLegend);
-    FormRows Rows(Box);
-    const std::pair<Label*, Label*> Entries[] = {
-        {&frmResults.picIncomeColor, &frmResults.lblIncome},
-        {&frmResults.picCapitalColor, &frmResults.lblCapitalExpenditure},
-        {&frmResults.picEnergyColor, &frmResults.lblEnergy},
-        {&frmResults.picOperationalColor, &frmResults.lblOperational},
-        {&frmResults.picMaintenanceColor, &frmResults.lblMaintenance}};
-    for (const auto& [Field, Words] : Entries)
-        Rows.AddWide(LegendRow({View(*Field)}, {Wrapped(View(*Words))}));
-    return Box;
+    const auto Row = [](Label& Field, Label& Words) { return LegendRow({View(Field)}, {View(Words)}); };
+    return Legend(frmResults.fraIncomeLegend, 65,
+                  {{Row(frmResults.picIncomeColor, frmResults.lblIncome),
+                    Row(frmResults.picCapitalColor, frmResults.lblCapitalExpenditure)},
+                   {Row(frmResults.picMaintenanceColor, frmResults.lblMaintenance),
+                    Row(frmResults.picOperationalColor, frmResults.lblOperational),
+                    Row(frmResults.picEnergyColor, frmResults.lblEnergy)}});
 }
 
 QWidget* SystemPage()
 {
     QWidget* const Content = PlotWithSide(
-        View(frmResults.picSystem),
-        {View(frmResults.ssoDemandCapacity), View(frmResults.ssoIncomeExpenditure), DemandLegend(),
-         IncomeLegend(), View(frmResults.sscViewTable), nullptr,
+        {DemandLegend(), IncomeLegend()}, View(frmResults.picSystem),
+        {View(frmResults.ssoDemandCapacity), View(frmResults.ssoIncomeExpenditure),
+         View(frmResults.sscViewTable), nullptr,
          InRow({View(frmResults.sscPrintSystem), ToolView(frmResults.sscHelp2, "help"), nullptr})});
     QWidget* const Table =
         TablePane(frmResults.fraViewTable, {}, frmResults.msgSystem, frmResults.sscHideTable);
-    return PageOf(Content, {Table}, {Table});
+    return PageOf(Content, {Table}, {FocusTarget(frmResults.msgSystem)});
+}
+
+QWidget* WholeTable(Grid& Record, const QString& Name)
+{
+    GridView* const Table = View(Record);
+    Table->ShowWhole();
+    NameField(Table, Name);
+    return Snug(Table);
 }
 
 QWidget* CapitalCard()
 {
     auto* const Card = new QGroupBox("Capital cost");
     FormRows Rows(Card);
-    QWidget* const Table = View(frmResults.msgCost);
-    NameField(Table, "Capital cost");
-    Rows.AddWide(Snug(Table));
+    Rows.AddWide(WholeTable(frmResults.msgCost, "Capital cost"));
     return Card;
 }
 
@@ -213,19 +244,16 @@ QWidget* AnnualCard()
     NameField(Bar, "Year of the annual cost");
     QLabel* const Year = View(frmResults.lblAnnual);
     Year->setMinimumWidth(Year->fontMetrics().horizontalAdvance("Year : 1000"));
-    QWidget* const Chosen = InRow({Year, Bar});
-    static_cast<QBoxLayout*>(Chosen->layout())->setStretchFactor(Bar, 1);
-    QWidget* const Table = View(frmResults.msgAnnualCost);
-    NameField(Table, "Annual cost of the year");
+    QWidget* const Chosen = Stretched(InRow({Year, Bar}), Bar);
     Rows.AddWide(Chosen);
-    Rows.AddWide(Snug(Table));
+    Rows.AddWide(WholeTable(frmResults.msgAnnualCost, "Annual cost of the year"));
     Rows.AddWide(InRow({View(frmResults.sscIRR), ToolView(frmResults.sscHelp3, "help"), nullptr}));
     return Card;
 }
 
 QWidget* CostPage()
 {
-    constexpr int TwoColumnsFrom = 95; // digits
+    constexpr int TwoColumnsFrom = 92; // digits
     auto* const Content = new TurningBox(TwoColumnsFrom);
     for (QWidget* Each : {CapitalCard(), AnnualCard()}) Content->Add(Snug(Each), 1, Qt::AlignTop);
     return Readable(Content);

@@ -126,7 +126,7 @@ QString SheetOf(const ColorSet& Set)
     const auto Larger = [](double Factor) {
         return QString::number(QFontInfo(QApplication::font()).pointSizeF() * Factor, 'f', 1) + "pt";
     };
-    Text.replace("@title", Larger(1.1)).replace("@figure", Larger(1.5));
+    Text.replace("@title", Larger(1.1)).replace("@figure", Larger(1.35));
     return Text;
 }
 

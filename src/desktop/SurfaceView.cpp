@@ -10,19 +10,20 @@
 #include <QPainter>
 #include <QPointer>
 
+#include <cmath>
+
 namespace velorix {
 namespace {
 
-constexpr double LeastScale = 0.55; // below it the labels can't be read
+constexpr int FrameWidth = 2;      // with the focus
+constexpr double LeastScale = 0.5; // below it the labels can't be read on any display
 
 } // namespace
 
 SurfaceView::SurfaceView(DrawingSurface& Shown)
     : Record(Shown)
 {
-    QSizePolicy Policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    Policy.setHeightForWidth(true);
-    setSizePolicy(Policy);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     Attach(Record, this);
@@ -43,14 +44,14 @@ QSize SurfaceView::minimumSizeHint() const
     return sizeHint() * LeastScale;
 }
 
-int SurfaceView::heightForWidth(int Width) const
-{
-    return static_cast<int>(Width * Record.ScaleHeight() / Record.ScaleWidth());
-}
-
 QRectF SurfaceView::Sheet() const
 {
-    return PlaceOf(Record.Image(), QRectF(rect()).adjusted(1, 1, -1, -1));
+    const double Density = devicePixelRatioF();
+    const QRectF Room = QRectF(rect()).adjusted(FrameWidth, FrameWidth, -FrameWidth, -FrameWidth);
+    const QRectF Place = PlaceOf(Record.Image(), Room);
+    const QPointF Corner(std::round(Place.left() * Density), Room.top() * Density);
+    const QSize Pixels = (Place.size() * Density).toSize();
+    return {Corner / Density, QSizeF(Pixels) / Density};
 }
 
 void SurfaceView::paintEvent(QPaintEvent*)
@@ -66,8 +67,10 @@ void SurfaceView::paintEvent(QPaintEvent*)
     }
     QPainter Painter(this);
     Painter.drawPixmap(Place, Drawn, QRectF(Drawn.rect()));
-    Painter.setPen(hasFocus() ? Colors().Accent : Colors().Border);
-    Painter.drawRect(Place.adjusted(-0.5, -0.5, 0.5, 0.5));
+    const double Width = hasFocus() ? FrameWidth : 1;
+    Painter.setRenderHint(QPainter::Antialiasing);
+    Painter.setPen(QPen(hasFocus() ? Colors().Accent : Colors().Border, Width));
+    Painter.drawRect(Place.adjusted(-Width / 2, -Width / 2, Width / 2, Width / 2));
 }
 
 void SurfaceView::enterEvent(QEnterEvent* Enter)

@@ -15,8 +15,6 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
-    bool hasHeightForWidth() const override { return true; }
-    int heightForWidth(int Width) const override;
 
 protected:
     void paintEvent(QPaintEvent* Event) override;
@@ -26,7 +24,8 @@ protected:
     void keyPressEvent(QKeyEvent* Key) override;
 
 private:
-    QRectF Sheet() const; // where the picture stands in the widget
+    QRectF
+    Sheet() const; // where the picture stands in the widget: at its top, on whole pixels of the display
 
     DrawingSurface& Record;
     QPixmap Drawn; // the list as it was last painted, at the size and density of then

@@ -1,6 +1,7 @@
 // A plot with its controls in rows below it.
 #include "desktop/ViewerLayouts.h"
 
+#include "desktop/ChartParts.h"
 #include "desktop/FormRows.h"
 #include "desktop/ScrollBarView.h"
 #include "desktop/SurfaceView.h"
@@ -18,10 +19,29 @@
 namespace velorix {
 namespace {
 
-QWidget* Viewer(const Screen& Record, QWidget* Plot, const std::vector<QWidget*>& Below)
+const std::vector<KeyEntry> ProfileLines = {{GroundInk, "Pipeline"}, {GradelineInk, "Hydraulic gradeline"}};
+constexpr int RowFrom = 91; // digits; with less room a row turns into two
+constexpr const char* WideAmounts = "No curve? Income less cost changes by more than 100 million:\n"
+                                    "raise the first rate, and press View.";
+
+using Pointed = std::vector<std::pair<const char*, Label*>>;
+
+// The title with what the pointer is at; figures of the year, with the key of the lines; the plot; its
+// controls.
+QWidget* Viewer(const Screen& Record, const Pointed& ReadOuts, const std::vector<Label*>& Figures,
+                const std::vector<KeyEntry>& Lines, QWidget* Plot, const std::vector<QWidget*>& Below)
 {
+    std::vector<QWidget*> Pointer = {nullptr};
+    for (const auto& [Name, Value] : ReadOuts) Pointer.push_back(ReadOut(Name, *Value));
+    std::vector<QWidget*> OfYear;
+    for (Label* Each : Figures) OfYear.push_back(View(*Each));
+    OfYear.push_back(nullptr);
+
     QLabel* const Title = WithRole(Text(QString::fromStdString(Record.Caption).trimmed()), "screen");
-    std::vector<QWidget*> Parts = {Title, Plot};
+    std::vector<QWidget*> Parts = {new TurningBox(RowFrom, {Title, InRow(Pointer)})};
+    if (!Lines.empty())
+        Parts.push_back(new TurningBox(RowFrom, {InRow(OfYear), InRow({nullptr, LineKey(Lines)})}));
+    Parts.push_back(Plot);
     Parts.insert(Parts.end(), Below.begin(), Below.end());
     QWidget* const Column = InColumn(Parts);
     Column->layout()->setContentsMargins(2 * Gap, Gap / 2, 2 * Gap, Gap);
@@ -36,28 +56,15 @@ QWidget* Named(const char* Name, QWidget* Field)
     return InRow({Caption, Field});
 }
 
-// Figures of the year at the left, what the pointer is at on the right.
-QWidget* Readings(const std::vector<Label*>& Figures,
-                  const std::vector<std::pair<const char*, Label*>>& Pointed)
-{
-    std::vector<QWidget*> All;
-    for (Label* Each : Figures) All.push_back(View(*Each));
-    All.push_back(nullptr);
-    for (const auto& [Name, Value] : Pointed) {
-        QLabel* const Shown = View(*Value);
-        Shown->setMinimumWidth(Shown->fontMetrics().horizontalAdvance("123456.789 miles"));
-        All.insert(All.end(), {MutedText(Name), Shown});
-    }
-    return InRow(All);
-}
-
 QWidget* Range(ProfileViewer& Record)
 {
     QWidget* const Year = View(Record.hscYears);
     NameField(Year, "Year of analysis");
-    return InRow({Named("From", View(Record.comBegin)), Named("To", View(Record.comEnd)),
-                  View(Record.sscView), nullptr, Text("Year"), Year, View(Record.lblYear),
-                  View(Record.sscChangeView)});
+    QWidget* const Years = InRow({Text("Year"), Year, View(Record.lblYear), View(Record.sscChangeView)});
+    static_cast<QBoxLayout*>(Years->layout())->setStretchFactor(Year, 1);
+    return new TurningBox(RowFrom, {InRow({Named("From", View(Record.comBegin)),
+                                           Named("To", View(Record.comEnd)), View(Record.sscView), nullptr}),
+                                    Years});
 }
 
 QWidget* Buttons(ProfileViewer& Record)
@@ -85,52 +92,53 @@ QWidget* ScenarioLegend()
     return Legend;
 }
 
-// The bar's own field shows its rate.
-QWidget* Rate(const char* Name, ScrollBar& Bar)
+// The fields of the bars show their rates.
+QWidget* Rates()
 {
-    QWidget* const Shown = HundredthsView(Bar, " %");
-    NameField(Shown, Name);
-    return InRow({Text(Name), Shown});
+    QWidget* const From = HundredthsView(frmIRRView.hsbBegin, " %");
+    QWidget* const To = HundredthsView(frmIRRView.hsbEnd, " %");
+    NameField(From, "From");
+    NameField(To, "To");
+    QWidget* const Row = InRow({Text("From"), From, Text("To"), To, View(frmIRRView.sscView)});
+    for (QWidget* Each : {From, To}) static_cast<QBoxLayout*>(Row->layout())->setStretchFactor(Each, 1);
+    return Row;
 }
 
 } // namespace
 
 QWidget* ProfileViewLayout()
 {
-    return Viewer(frmView, View(frmView.picGraph),
-                  {Readings({&frmView.lblKs, &frmView.lblFlowrate, &frmView.lblPumping},
-                            {{"Distance", &frmView.lblX}, {"Level", &frmView.lblY}}),
-                   Range(frmView), Buttons(frmView)});
+    return Viewer(frmView, {{"Distance", &frmView.lblX}, {"Level", &frmView.lblY}},
+                  {&frmView.lblKs, &frmView.lblFlowrate, &frmView.lblPumping}, ProfileLines,
+                  View(frmView.picGraph), {Range(frmView), Buttons(frmView)});
 }
 
 QWidget* RoughnessViewLayout()
 {
-    return Viewer(
-        frmViewRoughness, View(frmViewRoughness.picGraph),
-        {ScenarioLegend(),
-         Readings({&frmViewRoughness.lblKs, &frmViewRoughness.lblMaxFlow, &frmViewRoughness.lblPumping},
-                  {{"Distance", &frmViewRoughness.lblX}, {"Level", &frmViewRoughness.lblY}}),
-         Range(frmViewRoughness), Buttons(frmViewRoughness)});
+    return Viewer(frmViewRoughness, {{"Distance", &frmViewRoughness.lblX}, {"Level", &frmViewRoughness.lblY}},
+                  {&frmViewRoughness.lblKs, &frmViewRoughness.lblMaxFlow, &frmViewRoughness.lblPumping},
+                  ProfileLines, View(frmViewRoughness.picGraph),
+                  {ScenarioLegend(), Range(frmViewRoughness), Buttons(frmViewRoughness)});
 }
 
 QWidget* PumpViewLayout()
 {
-    return Viewer(frmPumpView, View(frmPumpView.picGraph),
-                  {InRow({Readings({}, {{"Flow rate", &frmPumpView.lblQ},
-                                        {"Head", &frmPumpView.lblH},
-                                        {"Efficiency", &frmPumpView.lblDEff}}),
-                          View(frmPumpView.sscPrintView), View(frmPumpView.sscOK),
-                          ToolView(frmPumpView.sscHelp, "help")})});
+    return Viewer(
+        frmPumpView,
+        {{"Flow rate", &frmPumpView.lblQ}, {"Head", &frmPumpView.lblH}, {"Efficiency", &frmPumpView.lblDEff}},
+        {}, {{PumpCurveInk, "Pump curve"}, {EfficiencyInk, "Efficiency"}}, View(frmPumpView.picGraph),
+        {InRow({nullptr, View(frmPumpView.sscPrintView), View(frmPumpView.sscOK),
+                ToolView(frmPumpView.sscHelp, "help")})});
 }
 
 QWidget* IrrViewLayout()
 {
-    return Viewer(frmIRRView, View(frmIRRView.picIRR),
-                  {InRow({Rate("From", frmIRRView.hsbBegin), Rate("To", frmIRRView.hsbEnd),
-                          View(frmIRRView.sscView), nullptr}),
-                   InRow({Readings({}, {{"Rate", &frmIRRView.lblX}, {"Income less cost", &frmIRRView.lblY}}),
-                          View(frmIRRView.sscPrintView), View(frmIRRView.sscOK),
-                          ToolView(frmIRRView.sscHelp, "help")})});
+    return Viewer(frmIRRView, {{"Rate", &frmIRRView.lblX}, {"Income less cost", &frmIRRView.lblY}}, {}, {},
+                  View(frmIRRView.picIRR),
+                  {Rates(), new TurningBox(RowFrom, {MutedText(WideAmounts),
+                                                     InRow({nullptr, View(frmIRRView.sscPrintView),
+                                                            View(frmIRRView.sscOK),
+                                                            ToolView(frmIRRView.sscHelp, "help")})})});
 }
 
 } // namespace velorix

@@ -27,7 +27,6 @@ constexpr int RightMargin = 600;
 constexpr int RightMarginOfTwoAxes = 1050;
 constexpr int YTitleLeft = 11;
 constexpr int YTitleTop = 2200;
-constexpr Color CurveBlue = Rgb(0, 0, 255);
 constexpr int PumpPoints = 6;
 
 Single PumpHeadAt(int Row)
@@ -60,7 +59,7 @@ AxisTicks FlowTicks()
 
 void DrawPumpPoints(Chart& Plot)
 {
-    TakePen(Plot.Surface, CurveBlue);
+    TakePen(Plot.Surface, PumpCurveInk);
     for (int Row = 1; Row <= PumpPoints; ++Row) {
         const int x = Plot.Frame.X(PumpFlowAt(Row));
         const int y = Plot.Frame.Y(PumpHeadAt(Row));
@@ -108,7 +107,7 @@ struct EfficiencyAxis {
 
 void DrawEfficiencyCurve(Chart& Plot, const EfficiencyAxis& Second)
 {
-    TakePen(Plot.Surface, PureGreen);
+    TakePen(Plot.Surface, EfficiencyInk);
     DrawCurve(
         Plot.Surface, 1, PumpPoints, [&](int Row) { return Plot.Frame.X(PumpFlowAt(Row)); },
         [&](int Row) { return Plot.Frame.Y2(PumpEfficiencyAt(Row), Second.Axis); });
@@ -179,7 +178,7 @@ void DrawSystemCurve(Chart& Plot)
 {
     const auto& Flows = SystemFlowByYear.Year(AnalysisYear);
     const auto& Heads = SystemHeadByYear.Year(AnalysisYear);
-    TakePen(Plot.Surface, PureGreen);
+    TakePen(Plot.Surface, SystemCurveInk);
     DrawCurve(
         Plot.Surface, 1, CurvePoints, [&](int i) { return Plot.Frame.X(Flows[i] / FlowFactor); },
         [&](int i) { return Plot.Frame.Y(Heads[i] / HeadFactor); });

@@ -26,8 +26,6 @@ namespace {
 constexpr int LeftMargin = 800;
 constexpr int RightMargin = 600;
 constexpr int YTitleLeft = 11;
-constexpr Color GroundGreen = Rgb(0, 64, 0);
-constexpr Color GradelineBlue = Rgb(0, 0, 255);
 
 // What differs between the three places.
 struct PlotPlace {
@@ -97,7 +95,7 @@ void DrawSymbols(Chart& Plot, NodeRange Nodes)
 
 void DrawGround(Chart& Plot, NodeRange Nodes)
 {
-    TakePen(Plot.Surface, GroundGreen);
+    TakePen(Plot.Surface, GroundInk);
     DrawCurve(
         Plot.Surface, Nodes.First, Nodes.Last, [&](int i) { return Plot.Frame.X(Chainage[i]); },
         [&](int i) { return Plot.Frame.Y(GroundLevel[i]); });
@@ -118,7 +116,7 @@ void DrawTitles(Chart& Plot, const PlotPlace& Place)
 void DrawGradeline(Chart& Plot, NodeRange Nodes)
 {
     if (HideGradeline != 0) return;
-    TakePen(Plot.Surface, GradelineBlue);
+    TakePen(Plot.Surface, GradelineInk);
     DrawCurve(
         Plot.Surface, Nodes.First, Nodes.Last, [&](int i) { return Plot.Frame.X(Chainage[i]); },
         [&](int i) { return Plot.Frame.Y(Gradeline(GradelinePoint(i), PlotYear)); });
@@ -128,7 +126,7 @@ void DrawGradeline(Chart& Plot, NodeRange Nodes)
 void DrawLift(Chart& Plot, NodeRange Nodes)
 {
     if (HideGradeline != 0 || Nodes.First != 1 || !IsPumping()) return;
-    TakePen(Plot.Surface, GradelineBlue);
+    TakePen(Plot.Surface, GradelineInk);
     const int x = Plot.Frame.X(Chainage[1]);
     Plot.Surface.Line(x, Plot.Frame.Y(GroundLevel[1]), x, Plot.Frame.Y(Gradeline(1, PlotYear)));
 }

@@ -92,7 +92,7 @@ struct ResultsScreen : Screen {
     Grid msgAnnualCost{6, 3, "Annual cost of the year"};
     ScrollBar hsbAnnual{1, 100, 5, "Select the year of the annual cost"};
     Label lblAnnual;
-    CommandButton sscIRR{"I&RR graph", "Click to view the graph of the internal rate of return"};
+    CommandButton sscIRR{"IRR &graph", "Click to view the graph of the internal rate of return"};
 };
 
 inline ResultsScreen frmResults;

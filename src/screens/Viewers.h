@@ -97,12 +97,13 @@ struct IrrViewScreen : Screen {
     }
 
     DrawingSurface picIRR{IrrWidth, IrrHeight,
-                          "Income less cost by rate. A large amount needs a narrower range of rates"};
+                          "Income less cost by rate. No curve: narrow the range of rates"};
     Label lblX; // what the pointer is at
     Label lblY;
-    ScrollBar hsbBegin{0, 20000, 100, "Select the first rate of the graph"};
+    ScrollBar hsbBegin{0, 20000, 100,
+                       "Select the first rate of the graph, then View. A higher one suits large amounts"};
     Label lblBeginIRR;
-    ScrollBar hsbEnd{0, 20000, 100, "Select the last rate of the graph"};
+    ScrollBar hsbEnd{0, 20000, 100, "Select the last rate of the graph, then View"};
     Label lblEndIRR;
     CommandButton sscView{"&View", "Click to redraw the graph for the chosen rates"};
     CommandButton sscPrintView{"Pri&nt", "Click to print the graph"};

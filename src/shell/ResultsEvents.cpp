@@ -47,11 +47,13 @@ void ConnectTick(CheckBox& Box, std::int16_t& Hide)
     };
 }
 
-void ConnectFrame(CommandButton& Show, CommandButton& Hide, Frame& Target, void (*Fill)())
+// A table that is filled hides meanwhile, and would lose the focus.
+void ConnectFrame(CommandButton& Show, CommandButton& Hide, Frame& Target, void (*Fill)(), Control* First)
 {
-    Show.Click = [&Target, Fill] {
+    Show.Click = [&Target, Fill, First] {
         Target.Visible = true;
         if (Fill) Fill();
+        if (First) System().SetFocus(*First);
     };
     Hide.Click = [&Target] { Target.Visible = false; };
 }
@@ -64,7 +66,9 @@ void FillTableOfYear()
 
 void FillTableOfYears()
 {
-    frmResults.ssoDemandCapacity.Value ? FillDemandTable() : FillIncomeTable();
+    const bool OfDemand = frmResults.ssoDemandCapacity.Value;
+    frmResults.fraViewTable.Caption = OfDemand ? "Demand and capacity" : "Income and expenditure";
+    OfDemand ? FillDemandTable() : FillIncomeTable();
 }
 
 void DrawDutyOfYear()
@@ -104,10 +108,12 @@ void ConnectHydraulicPage()
     ConnectRedraw(frmResults.sscChangeView, DrawHydraulicPlot);
     ConnectTick(frmResults.chkComponents, HideComponents);
     ConnectTick(frmResults.chkGradeline, HideGradeline);
-    ConnectFrame(frmResults.sscComponents, frmResults.sscHide, frmResults.fraComponents, nullptr);
+    ConnectFrame(frmResults.sscComponents, frmResults.sscHide, frmResults.fraComponents, nullptr,
+                 &frmResults.chkComponents);
     ConnectFrame(frmResults.sscViewHydraulicTable, frmResults.sscHideHydraulicTable, frmResults.fraTable,
-                 FillTableOfYear);
-    ConnectFrame(frmResults.sscDutypoint, frmResults.sscHideDuty, frmResults.fraDuty, ShowDutyPoints);
+                 FillTableOfYear, &frmResults.msgHydraulic);
+    ConnectFrame(frmResults.sscDutypoint, frmResults.sscHideDuty, frmResults.fraDuty, ShowDutyPoints,
+                 &frmResults.hscDuty);
     frmResults.hscDuty.Change = YearOfDutyChosen;
     ConnectSurface(frmResults.picHydraulic, "The graph was copied to the clipboard", ReadHydraulicPlot);
 }
@@ -116,7 +122,8 @@ void ConnectSystemPage()
 {
     frmResults.ssoDemandCapacity.Click = DrawDemandCapacity;
     frmResults.ssoIncomeExpenditure.Click = DrawIncomeExpenditure;
-    ConnectFrame(frmResults.sscViewTable, frmResults.sscHideTable, frmResults.fraViewTable, FillTableOfYears);
+    ConnectFrame(frmResults.sscViewTable, frmResults.sscHideTable, frmResults.fraViewTable, FillTableOfYears,
+                 &frmResults.msgSystem);
     ConnectSurface(frmResults.picSystem, "The graph was copied to the clipboard");
 }
 

@@ -118,6 +118,18 @@ TEST_F(GridViewTest, ToldSizesAreKeptUnlessAHeadingNeedsMore)
     EXPECT_EQ(Shown->CellRect(1, 4).width(), 55);
 }
 
+TEST_F(GridViewTest, ColumnsComeAndGoWhileTheTableIsHidden)
+{
+    for (int Cols : {5, 8, 3}) {
+        Shown->hide();
+        Table.SetCols(Cols);
+        Shown->show();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(Shown->horizontalHeader()->count(), Cols - 1);
+        EXPECT_EQ(Shown->CellRect(1, Cols - 1).right(), Shown->viewport()->rect().right());
+    }
+}
+
 TEST_F(GridViewTest, HeadingsStayWhereTheyAreWhileTheCellsScroll)
 {
     Host->resize(420, 300);
