@@ -13,6 +13,7 @@
 #include "results/ChartFrame.h"
 #include "results/PlotState.h"
 #include "results/ScenarioLines.h"
+#include "roughness/RoughnessStores.h"
 #include "tools/ProfileImport.h"
 
 namespace velorix {
@@ -28,6 +29,7 @@ void ResetProgram()
     ResetPlotState();
     ResetChartFrames();
     ResetScenarioLines();
+    ResetRoughness();
     ResetImport();
     ResetPrinter();
     ResetPageFrame();

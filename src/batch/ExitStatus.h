@@ -17,7 +17,7 @@ constexpr int ExitStatus(Ending Worst)
 {
     switch (Worst) {
     case Ending::AllWell: return 0;
-    case Ending::DidNotStand: return 2; // an analysis or a plot ended with a message, a save would be refused
+    case Ending::DidNotStand: return 2; // it ended with a message, or a save would be refused
     case Ending::Interrupted: return 130;
     case Ending::Failed: break;
     }

@@ -4,12 +4,14 @@
 #include "base/Version.h"
 #include "batch/AnalyseCommand.h"
 #include "batch/CheckCommand.h"
+#include "batch/ConvertCommand.h"
 #include "batch/Interrupt.h"
 #include "batch/OutputFile.h"
 #include "batch/PlotCommand.h"
 #include "batch/ProjectCommands.h"
 #include "batch/ReportCommand.h"
 #include "batch/ReportSections.h"
+#include "batch/RoughnessCommand.h"
 #include "batch/Tell.h"
 
 #include <CLI/CLI.hpp>
@@ -35,6 +37,7 @@ struct Arguments {
     std::string Pdf;
     std::vector<std::string> Sections;
     std::optional<int> Year;
+    std::string ReadingsFile;
     bool Force = false;
     int Jobs = 0; // 0 for as many as there are cores
     double Seconds = 60;
@@ -179,6 +182,42 @@ Ending Import(const Arguments& Given)
     return ImportProjects(Options);
 }
 
+CLI::App* AddRoughness(CLI::App& Program, Arguments& Given)
+{
+    CLI::App* Command = Program.add_subcommand(
+        "roughness", "Work out the pipe's roughness from pressures that were measured along it");
+    Command->add_option("FILE", Given.Project, "Project file")->required();
+    Command->add_option("--readings", Given.ReadingsFile, "The measured flows and pressures, as JSON")
+        ->type_name("READINGS")
+        ->required();
+    Command
+        ->add_option("--json", Given.JsonTarget,
+                     "Write the results as JSON to this file, or to standard output for -")
+        ->type_name("OUT");
+    AddTimeout(*Command, Given);
+    return Command;
+}
+
+CLI::App* AddConvert(CLI::App& Program, Conversion& Asked)
+{
+    CLI::App* Command = Program.add_subcommand(
+        "convert", "Convert a number; group and units as the lists of the unit converter name them");
+    Command->add_option("GROUP", Asked.Group, "Group of units, such as Length")->required();
+    Command->add_option("SOURCE", Asked.Source, "Unit of the number, such as \"meter (m)\"")->required();
+    Command->add_option("TARGET", Asked.Target, "Unit to convert to")->required();
+    Command->add_option("VALUE", Asked.Value, "The number")->required();
+    return Command;
+}
+
+RoughnessOptions RoughnessOptionsOf(const Arguments& Given)
+{
+    const std::vector<InputFile> Inputs = OpenInputs({Given.Project, Given.ReadingsFile});
+    return {.Project = Inputs.front(),
+            .Readings = Inputs.back(),
+            .JsonTarget = Given.JsonTarget,
+            .Limits = LimitsOf(Given)};
+}
+
 Ending Run(int ArgumentCount, char** Words)
 {
     CLI::App Program{"Life cycle costing of bulk water pipelines: work on project files without a screen.\n"
@@ -187,10 +226,10 @@ Ending Run(int ArgumentCount, char** Words)
     Program.set_version_flag("--version", std::string("velorix-batch ") + ProgramVersion());
     Program.require_subcommand(1);
     Program.footer(
-        "Exit status: 0 all is well; 2 an analysis ended with a message and did not stand, a plot\n"
-        "or a section of a report could not be made, or a project would not be saved; 1 wrong\n"
-        "usage, a file that can't be read or written, a time limit or a crash; 130 interrupted.\n"
-        "The worst of them counts, 1 above 2.");
+        "Exit status: 0 all is well; 2 an analysis or a conversion ended with a message and did not\n"
+        "stand, a plot or a section of a report could not be made, or a project would not be saved;\n"
+        "1 wrong usage, a file that can't be read or written, a time limit or a crash;\n"
+        "130 interrupted. The worst of them counts, 1 above 2.");
 
     Arguments Given;
     CLI::App* Analyse = AddCommand(Program, Given, "analyse",
@@ -221,6 +260,11 @@ Ending Run(int ArgumentCount, char** Words)
     AddOut(*ImportCommand, Given, "Write STEM.vlx for each file to this folder");
     ImportCommand->add_flag("--force", Given.Force, "Write over a file that isn't a project too");
 
+    CLI::App* Roughness = AddRoughness(Program, Given);
+
+    Conversion Asked;
+    CLI::App* ConvertUnit = AddConvert(Program, Asked);
+
     try {
         Program.parse(ArgumentCount, Words);
     } catch (const CLI::ParseError& Problem) {
@@ -235,6 +279,8 @@ Ending Run(int ArgumentCount, char** Words)
     if (*PlotCommand) return PlotProject(PlotOptionsOf(Given));
     if (*ReportCommand) return ReportFiles(ReportOptionsOf(Given));
     if (*Check) return CheckFiles(OpenInputs(Given.Files), LimitsOf(Given));
+    if (*Roughness) return CalculateReadings(RoughnessOptionsOf(Given));
+    if (*ConvertUnit) return ConvertValue(Asked);
     return *ExportCommand ? Export(Given) : Import(Given);
 }
 

@@ -5,6 +5,7 @@
 #include "base/Failure.h"
 #include "base/Text.h"
 #include "batch/FieldTexts.h"
+#include "batch/JsonReading.h"
 #include "batch/JsonText.h"
 #include "input/Session.h"
 #include "model/WorkingSet.h"
@@ -13,17 +14,10 @@
 #include <functional>
 #include <limits>
 #include <map>
-#include <nlohmann/json.hpp>
-#include <set>
 #include <string_view>
 
 namespace velorix {
 namespace {
-
-// Numbers are read as 32-bit floats from their text, so that they round once. The library reads them by the
-// process locale, which the batch leaves at the start's, with a point.
-using Json = nlohmann::basic_json<nlohmann::ordered_map, std::vector, std::string, bool, std::int64_t,
-                                  std::uint64_t, float>;
 
 // A list is told by its size.
 constexpr int ProfileRows = decltype(ProjectFields::Elevation)::Count;
@@ -128,28 +122,6 @@ std::string FieldText(const ProjectFields& Record, const Array1<T, Count>& Value
 
 // --- from JSON ---
 
-constexpr std::size_t LongestShown = 40; // bytes of a file's own text in a message
-
-std::string Shortened(const std::string& Text, std::size_t Longest = LongestShown)
-{
-    if (Text.size() <= Longest) return Text;
-    std::size_t End = Longest;
-    while (End > 0 && !StartsCharacter(Text[End])) --End; // not within a character
-    return Text.substr(0, End) + "...";
-}
-
-[[noreturn]] void Refuse(const std::string& Key, const std::string& Reason)
-{
-    throw Failure(Shortened(Key) + ": " + Reason);
-}
-
-// The value as a message may show it, however long it is.
-std::string Shown(const Json& Value)
-{
-    if (Value.is_array()) return "a list";
-    return Value.is_object() ? "an object" : Shortened(Value.dump());
-}
-
 // The texts that stand for the numbers that JSON has no words for.
 constexpr auto NotFiniteWords = std::to_array<std::pair<std::string_view, float>>(
     {{"NaN", std::numeric_limits<float>::quiet_NaN()},
@@ -174,12 +146,7 @@ void TakeValue(const FieldRule& Rule, const Json& Value, std::int16_t& Target)
         Target = ChoiceOf(Rule, Value);
         return;
     }
-    if (!Value.is_number_integer()) Refuse(Rule.Name, "a whole number is expected, not " + Shown(Value));
-    const std::int64_t Number = Value.get<std::int64_t>();
-    if (Number < Rule.Allowed.Least || Number > Rule.Allowed.Most)
-        Refuse(Rule.Name, Shown(Value) + " is outside " + std::to_string(Rule.Allowed.Least) + " to " +
-                              std::to_string(Rule.Allowed.Most));
-    Target = static_cast<std::int16_t>(Number);
+    Target = WholeNumber(Rule.Name, Value, Rule.Allowed.Least, Rule.Allowed.Most);
 }
 
 void TakeValue(const FieldRule& Rule, const Json& Value, Single& Target)
@@ -207,11 +174,6 @@ void TakeValue(const FieldRule& Rule, const Json& Value, FixedText<Width>& Targe
     if (Bytes.size() > Width)
         Refuse(Rule.Name, "the text is longer than " + std::to_string(Width) + " characters");
     SetText(Target, Text);
-}
-
-void RequireList(const std::string& Key, const Json& Value)
-{
-    if (!Value.is_array()) Refuse(Key, "a list is expected, not " + Shown(Value));
 }
 
 template <typename T, int Count>
@@ -280,40 +242,6 @@ void RequireEvenProfile(const Json& Project)
             Refuse(Key, "the list is longer than that of Elevation, " + std::to_string(Rows) + " entries");
 }
 
-// Refuses, while the text is read, what the object that comes of it would hide or be too deep to handle.
-class Watch {
-public:
-    bool operator()(int Depth, Json::parse_event_t Event, const Json& Value)
-    {
-        const bool Starts =
-            Event == Json::parse_event_t::array_start || Event == Json::parse_event_t::object_start;
-        if (Starts && Depth >= DeepestNesting) throw Failure("lists are nested deeper than any field's");
-        if (Event == Json::parse_event_t::key && Depth == 1) {
-            const auto Key = Value.get<std::string>();
-            if (!Keys.insert(Key).second) Refuse(Key, "the field is given twice");
-        }
-        return true;
-    }
-
-private:
-    std::set<std::string> Keys;
-};
-
-Json Parse(const std::string& Text)
-{
-    constexpr std::size_t LongestReason = 200; // the library quotes what it read last
-    try {
-        Watch Seen;
-        Json Project = Json::parse(Text, [&](int Depth, Json::parse_event_t Event, const Json& Value) {
-            return Seen(Depth, Event, Value);
-        });
-        if (!Project.is_object()) throw Failure("the file must hold one JSON object");
-        return Project;
-    } catch (const Json::exception& Problem) {
-        throw Failure("the JSON can't be read: " + Shortened(Problem.what(), LongestReason));
-    }
-}
-
 } // namespace
 
 std::string ProjectToJson(const ProjectFields& Record)
@@ -327,7 +255,7 @@ std::string ProjectToJson(const ProjectFields& Record)
 
 ProjectFields ProjectFromJson(const std::string& Text)
 {
-    const Json Project = Parse(Text);
+    const Json Project = ParseJsonObject(Text, DeepestNesting);
     ProjectRecord = ProjectFields();
     auto Takers = FieldTakers(ProjectRecord);
     for (const auto& Member : Project.items())

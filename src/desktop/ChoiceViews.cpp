@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QShortcut>
@@ -87,6 +88,27 @@ QComboBox* View(ComboBox& Record)
     });
     Follow(Record.ListIndex, View, [View](int Index) { View->setCurrentIndex(Index); });
     QObject::connect(View, &QComboBox::currentIndexChanged, View,
+                     [&Record, View](int Index) { Enter(Record.ListIndex, Index, View); });
+    QObject::connect(View, &QComboBox::activated, View, [&Record] { Guarded([&] { Record.Click(); }); });
+    Attach(Record, View);
+    return View;
+}
+
+QListWidget* OpenView(ComboBox& Record)
+{
+    constexpr int Space = 2; // around an entry
+    auto* const View = new QListWidget;
+    View->setSpacing(Space);
+    View->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    Follow(Record.List, View, [&Record, View](const std::vector<std::string>& Entries) {
+        View->clear();
+        for (const std::string& Each : Entries) View->addItem(QString::fromStdString(Each).trimmed());
+        View->setCurrentRow(Record.ListIndex);
+        View->ensurePolished(); // its letters have their size
+        View->setFixedHeight(View->count() * (View->sizeHintForRow(0) + 2 * Space) + 2 * View->frameWidth());
+    });
+    Follow(Record.ListIndex, View, [View](int Index) { View->setCurrentRow(Index); });
+    QObject::connect(View, &QListWidget::currentRowChanged, View,
                      [&Record, View](int Index) { Enter(Record.ListIndex, Index, View); });
     Attach(Record, View);
     return View;

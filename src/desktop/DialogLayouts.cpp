@@ -9,20 +9,25 @@
 #include "desktop/SurfaceView.h"
 #include "desktop/Views.h"
 #include "screens/Analyse.h"
+#include "screens/ConverterScreen.h"
 #include "screens/Dialogs.h"
 #include "screens/DutyPointScreen.h"
 #include "screens/Guide.h"
 #include "screens/ImportWizard.h"
 #include "screens/Print.h"
 
+#include <QComboBox>
 #include <QDialog>
 #include <QFrame>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace velorix {
@@ -210,6 +215,41 @@ QDialog* DutyPointDialog(QWidget* Owner)
          View(frmDutyPoint.lblAdvice), InRow({nullptr, DefaultButton(frmDutyPoint.sscOK)})});
 }
 
+// The groups beside number, units and result. Enter in the field converts too.
+QDialog* ConverterDialog(QWidget* Owner)
+{
+    constexpr int Digits = 20;
+    constexpr int GroupWidth = 110;
+    constexpr int UnitWidth = 330;
+    QListWidget* const Groups = OpenView(frmConverter.lstUnit);
+    Groups->setFixedWidth(GroupWidth);
+    QLabel* const GroupCaption = Text("Unit group");
+    TieCaption(GroupCaption, Groups);
+    QLineEdit* const Number = NumberView(frmConverter.txtConvert);
+    QLabel* const Result = WithRole(View(frmConverter.lblConvert), "figure");
+    Result->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QPushButton* const Convert = DefaultButton(frmConverter.sscConvert);
+    QObject::connect(Number, &QLineEdit::returnPressed, Convert, [Convert] { Convert->click(); });
+
+    auto* const Fields = new QWidget;
+    FormRows Rows(Fields, FormRows::Margins::None);
+    Rows.AddLong("Convert:", DigitsWide(Number, Digits), Text(""));
+    QWidget* const Units[] = {View(frmConverter.comUnit[0]), View(frmConverter.comUnit[1])};
+    for (QWidget* Each : Units) Each->setFixedWidth(UnitWidth);
+    Rows.AddLong("", Units[0]);
+    Rows.AddLong("to", Units[1]);
+    NameField(Units[0], "Unit to convert from");
+    NameField(Units[1], "Unit to convert to");
+    Rows.AddLong("", Result);
+    Rows.Close();
+    QDialog* const Dialog = FixedWindow(
+        frmConverter, Owner,
+        {InRow({InColumn({GroupCaption, Groups}), Fields}),
+         InRow({nullptr, Convert, View(frmConverter.sscExit), ToolView(frmConverter.sscHelp, "help")})});
+    Number->setFocus();
+    return Dialog;
+}
+
 } // namespace
 
 QDialog* FixedWindow(const Screen& Record, QWidget* Owner, const std::vector<QWidget*>& Parts)
@@ -240,7 +280,8 @@ const std::vector<DialogLayout>& AllDialogs()
         {&frmDisclaimer, DisclaimerDialog}, {&frmAbout, AboutDialog},
         {&frmDutyPoint, DutyPointDialog},   {&frmImport, ImportDialog},
         {&frmPrint, PrintDialogWindow},     {&frmSelectYear, YearDialog},
-        {&frmSelectYear1, GraphYearDialog}, {&frmPDFView, GuideDialog}};
+        {&frmSelectYear1, GraphYearDialog}, {&frmPDFView, GuideDialog},
+        {&frmConverter, ConverterDialog}};
     return Dialogs;
 }
 

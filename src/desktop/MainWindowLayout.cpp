@@ -6,12 +6,14 @@
 #include "desktop/Icons.h"
 #include "desktop/InputLayout.h"
 #include "desktop/ResultsLayout.h"
+#include "desktop/RoughnessLayout.h"
 #include "desktop/ViewerLayouts.h"
 #include "desktop/Views.h"
 #include "platform/Platform.h"
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
 #include "screens/Results.h"
+#include "screens/RoughnessScreen.h"
 #include "screens/Viewers.h"
 
 #include <QAction>
@@ -226,9 +228,10 @@ MainWindow::MainWindow()
     : Screens(new QStackedWidget)
     , WayOn(WayOnLine())
     , Picture(PicturePage(WayOn))
-    , Places{{&frmIRRView, IrrViewLayout()},       {&frmViewRoughness, RoughnessViewLayout()},
-             {&frmView, ProfileViewLayout()},      {&frmPumpView, PumpViewLayout()},
-             {&frmResults, ResultsScreenLayout()}, {&frmLCC, InputScreenLayout()}}
+    , Places{{&frmIRRView, IrrViewLayout()},     {&frmViewRoughness, RoughnessViewLayout()},
+             {&frmRoughness, RoughnessLayout()}, {&frmView, ProfileViewLayout()},
+             {&frmPumpView, PumpViewLayout()},   {&frmResults, ResultsScreenLayout()},
+             {&frmLCC, InputScreenLayout()}}
 {
     QAction* const Analyse = Command(MDIProject.mnuAnalyse, nullptr, QKeySequence("F5"));
     QAction* const Preferences = Command(MDIProject.mnuPreferences);

@@ -76,14 +76,20 @@ QWidget* Buttons(ProfileViewer& Record)
 QWidget* ScenarioLegend()
 {
     constexpr QSize LineSize(22, 4);
-    std::vector<QWidget*> All;
+    constexpr int RowFromDigits = 125; // room for all of them side by side
+    constexpr int OfALine = ScenarioCount / 2;
+    auto* const Legend = new TurningBox(RowFromDigits);
+    std::vector<QWidget*> Line;
     for (int Index = 0; Index < ScenarioCount; ++Index) {
-        QLabel* const Line = View(frmViewRoughness.linScenario[Index]);
-        Line->setFixedSize(LineSize);
-        All.insert(All.end(), {Line, View(frmViewRoughness.chkScenario[Index])});
+        QLabel* const Ink = View(frmViewRoughness.linScenario[Index]);
+        Ink->setFixedSize(LineSize);
+        Line.insert(Line.end(), {Ink, View(frmViewRoughness.chkScenario[Index])});
+        if (Index % OfALine != OfALine - 1) continue;
+        Line.push_back(nullptr);
+        Legend->Add(InRow(Line));
+        Line.clear();
     }
-    All.push_back(nullptr);
-    return InRow(All);
+    return Legend;
 }
 
 // The fields of the bars show their rates.

@@ -16,6 +16,7 @@ class QDateEdit;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QListWidget;
 class QPlainTextEdit;
 class QProgressBar;
 class QPushButton;
@@ -40,6 +41,7 @@ QLineEdit* View(TextBox& Record);       // text
 QLineEdit* NumberView(TextBox& Record); // a number: right-aligned, tabular digits
 QPlainTextEdit* MultilineView(TextBox& Record);
 QComboBox* View(ComboBox& Record);
+QListWidget* OpenView(ComboBox& Record); // all its entries in sight
 QRadioButton* View(OptionButton& Record);
 QCheckBox* View(CheckBox& Record);
 QPushButton* View(CommandButton& Record);

@@ -5,6 +5,7 @@
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
 #include "screens/Results.h"
+#include "screens/RoughnessScreen.h"
 #include "screens/Viewers.h"
 
 namespace velorix {
@@ -33,8 +34,8 @@ void RestoreScreens()
 
 void CloseViewers()
 {
-    for (Screen* Viewer :
-         std::initializer_list<Screen*>{&frmView, &frmPumpView, &frmIRRView, &frmViewRoughness})
+    for (Screen* Viewer : std::initializer_list<Screen*>{&frmView, &frmPumpView, &frmIRRView, &frmRoughness,
+                                                         &frmViewRoughness})
         if (Viewer->IsLoaded()) Viewer->Unload();
     MDIProject.mnuRoughness.Visible = false;
 }

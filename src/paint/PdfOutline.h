@@ -1,7 +1,7 @@
 // Bookmarks and properties of a PDF file, which the toolkit can't write.
 #pragma once
 
-#include "paint/DocumentFacts.h"
+#include "platform/DocumentFacts.h"
 
 #include <string>
 #include <string_view>

@@ -52,10 +52,11 @@ struct TextBox : Control {
 
 // A list to choose from, without typing.
 struct ComboBox : Control {
-    explicit ComboBox(std::vector<std::string> Entries = {}, std::string Hint = {});
+    ComboBox(std::vector<std::string> Entries = {}, std::string Hint = {});
     Property<std::vector<std::string>> List{*this};
     Property<int> ListIndex{*this, -1}; // -1 when nothing is chosen; an index outside the list becomes -1
     Handler Change;
+    Handler Click; // the user has chosen an entry, be it the same as before; raised after Change
 
     // The chosen entry, empty when there is none.
     std::string Text() const;

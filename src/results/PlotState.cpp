@@ -22,12 +22,17 @@ int GradelinePoint(int Node)
     return IsPumping() ? Node : Node - 1;
 }
 
-void FillDistances(ComboBox& Begin, ComboBox& End)
+std::vector<std::string> DistanceEntries()
 {
     std::vector<std::string> Distances;
     for (int Row = 1; Row <= NodeCount; ++Row) Distances.push_back(Format(Chainage[Row], "#0.000"));
-    Begin.List = Distances;
-    End.List = Distances;
+    return Distances;
+}
+
+void FillDistances(ComboBox& Begin, ComboBox& End)
+{
+    Begin.List = DistanceEntries();
+    End.List = DistanceEntries();
     Begin.ListIndex = 0;
     End.ListIndex = NodeCount - 1;
 }

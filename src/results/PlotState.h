@@ -21,7 +21,10 @@ extern std::int16_t HideComponents; // 1: the results plot leaves the symbols ou
 // The point of the gradeline that plot and table show for a node.
 int GradelinePoint(int Node);
 
-// One entry for each node, the chainages that the last plot copied; the first and the last are selected.
+// One entry for each node: the chainages that the last plot copied.
+std::vector<std::string> DistanceEntries();
+
+// Lists them; the first and the last are selected.
 void FillDistances(ComboBox& Begin, ComboBox& End);
 
 // FillDistances for the results screen, and the starting state of the plots.

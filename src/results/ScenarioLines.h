@@ -3,10 +3,11 @@
 #pragma once
 
 #include "hydraulics/HydraulicResults.h"
+#include "screens/Viewers.h"
 
 namespace velorix {
 
-constexpr int MaxScenarios = 8;
+constexpr int MaxScenarios = ScenarioCount;
 constexpr int MaxStretches = 4; // between the measuring points of a scenario
 
 template <typename T>

@@ -9,12 +9,15 @@
 #include "model/Components.h"
 #include "platform/Keys.h"
 #include "platform/Platform.h"
+#include "results/PlotState.h"
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
+#include "screens/RoughnessScreen.h"
 #include "shell/GridPaste.h"
 
 #include <algorithm>
 #include <array>
+#include <span>
 #include <utility>
 
 namespace velorix {
@@ -270,7 +273,9 @@ void AddRowAndGoThere()
     frmLCC.msgProfile.Select(frmLCC.msgProfile.Rows() - 1, 1);
 }
 
-const std::array<CellEditing, 6> InputGrids = {{
+constexpr std::size_t InputGridCount = 6;
+
+const std::array<CellEditing, InputGridCount + 1> EditedGrids = {{
     {.Table = frmLCC.msgProfile,
      .Editor = frmLCC.txtCell,
      .EditableCols = {1, 2, 3, 4, 5, 6},
@@ -306,7 +311,18 @@ const std::array<CellEditing, 6> InputGrids = {{
      .EditableCols = {1},
      .FilteredInGrid = {1},
      .FilteredInEditor = {1}},
+    {.Table = frmRoughness.msgRoughness,
+     .Editor = frmRoughness.txtCell,
+     .EditableCols = {1, 2, 3, 4, 5},
+     .FilteredInGrid = {1, 2, 3, 4, 5},
+     .FilteredInEditor = {1, 2, 3, 4, 5},
+     .List = &frmRoughness.comAccLength,
+     .ListRow = 1,
+     .ListEntries = DistanceEntries},
 }};
+
+// Those of the input screen.
+const std::span<const CellEditing> InputGrids = std::span(EditedGrids).first<InputGridCount>();
 
 void Settle(const CellEditing& Editing)
 {
@@ -322,7 +338,7 @@ void SettleAll()
 // The current cell counts as entered anew.
 void Reenter(const Grid& Table)
 {
-    for (const CellEditing& Each : InputGrids)
+    for (const CellEditing& Each : EditedGrids)
         if (&Each.Table == &Table && !OnHeading(Table)) TakeCurrentCell(Each);
     SettleGridEditor(Table);
 }
@@ -337,7 +353,8 @@ void AllFilled()
 CellKind KindOf(const CellEditing& Editing, int Row, int Col)
 {
     if (Editing.Table.IsFixed(Row, Col) || Editing.Table.IsHeadingRow(Row)) return CellKind::Closed;
-    if (Editing.List && Col == Editing.ListCol) return CellKind::Choice;
+    const bool OnList = Col == Editing.ListCol || Row == Editing.ListRow; // 0 of each is a heading
+    if (Editing.List && OnList) return CellKind::Choice;
     return Contains(Editing.EditableCols, Col) ? CellKind::Number : CellKind::Closed;
 }
 
@@ -374,14 +391,14 @@ void ConnectGridEditor(const CellEditing& Editing)
 
 void ConnectGridEditors()
 {
-    for (const CellEditing& Each : InputGrids) ConnectGridEditor(Each);
+    for (const CellEditing& Each : EditedGrids) ConnectGridEditor(Each);
     ProjectLoaded = AllFilled;
     frmLCC.Shown = SettleAll;
 }
 
 void SettleGridEditor(const Grid& Table)
 {
-    for (const CellEditing& Each : InputGrids)
+    for (const CellEditing& Each : EditedGrids)
         if (&Each.Table == &Table) Settle(Each);
 }
 

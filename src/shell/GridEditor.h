@@ -21,9 +21,10 @@ struct CellEditing {
     std::vector<int> FilteredInGrid;   // columns in which the grid takes number keys only
     std::vector<int> FilteredInEditor; // and those in which the editor does
 
-    // A list lies over the cells of one column instead of the editor.
+    // A list lies over the cells of one column, or of one row, instead of the editor.
     ComboBox* List = nullptr;
     int ListCol = 0;
+    int ListRow = 0;
     std::vector<std::string> (*ListEntries)() = nullptr;
 
     void (*EnterOnLastRow)() = nullptr; // answers Enter, let go on the last row
@@ -38,12 +39,12 @@ CellKind KindOf(const CellEditing& Editing, int Row, int Col);
 // cell's at the moment it was entered. The description must outlive the controls' handlers.
 void ConnectGridEditor(const CellEditing& Editing);
 
-// The six grids of the input screen. To be called after ConnectInputScreen: the editors' and the list's
-// changes are edits of a cell, not of a field.
+// The six grids of the input screen and that of the roughness screen. To be called after ConnectInputScreen:
+// the editors' and the list's changes are edits of a cell, not of a field.
 void ConnectGridEditors();
 
-// The editor of a grid of the input screen closes; Escape's text stays. Marks nothing as changed. The input
-// screen does this by itself whenever it is shown.
+// The editor of a grid closes; Escape's text stays. Marks nothing as changed. The input screen does this by
+// itself whenever it is shown.
 void SettleGridEditor(const Grid& Table);
 
 // To be called when code has filled the grid: the current cell counts as entered anew, and what was there

@@ -12,6 +12,7 @@
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
 #include "screens/Results.h"
+#include "shell/ConverterEvents.h"
 #include "shell/GridEditor.h"
 #include "shell/GuideEvents.h"
 #include "shell/Help.h"
@@ -23,6 +24,7 @@
 #include "shell/Preferences.h"
 #include "shell/PrintEvents.h"
 #include "shell/ResultsEvents.h"
+#include "shell/RoughnessEvents.h"
 #include "shell/ViewerEvents.h"
 
 namespace velorix {
@@ -60,6 +62,8 @@ void ConnectScreens()
     ConnectGuide();
     ConnectImportWizard();
     ConnectPrinting();
+    ConnectConverter();
+    ConnectRoughness();
     ConnectMainWindow();
     ConnectInputScreen();
     ConnectGridEditors();

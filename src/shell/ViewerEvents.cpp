@@ -13,6 +13,7 @@
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
 #include "screens/Results.h"
+#include "screens/RoughnessScreen.h"
 #include "screens/Viewers.h"
 #include "shell/Help.h"
 #include "shell/SurfaceEvents.h"
@@ -56,10 +57,23 @@ void CloseProfileView()
     ShowInputScreen();
 }
 
+// The whole profile, in the year and with the gradeline that the views show by now.
+void LoadRoughnessView()
+{
+    TakeProfileForPlot();
+    FillDistances(frmViewRoughness.comBegin, frmViewRoughness.comEnd);
+    frmViewRoughness.hscYears.Max = wLife;
+    frmViewRoughness.hscYears.Value.Restore(PlotYear);
+    frmViewRoughness.lblYear.Caption = std::to_string(wSupplyStart + PlotYear - 1);
+    frmViewRoughness.chkHydraulic.Value.Restore(HideGradeline == 0);
+    DrawRoughnessProfilePlot();
+}
+
 void CloseRoughnessView()
 {
     frmViewRoughness.Unload();
-    ShowInputScreen();
+    frmRoughness.LoadHidden();
+    frmRoughness.Visible = true;
 }
 
 void ClosePumpView()
@@ -99,7 +113,7 @@ void ConnectViewers()
     ConnectProfileViewer(frmView, DrawProfilePlot, ReadProfilePlot);
     ConnectProfileViewer(frmViewRoughness, DrawRoughnessProfilePlot, ReadRoughnessProfilePlot);
     frmView.sscOK.Click = frmView.Close = CloseProfileView;
-    frmViewRoughness.Load = DrawRoughnessProfilePlot;
+    frmViewRoughness.Load = LoadRoughnessView;
     frmViewRoughness.sscOK.Click = frmViewRoughness.Close = CloseRoughnessView;
     frmPumpView.sscOK.Click = frmPumpView.Close = ClosePumpView;
     HelpOn(frmPumpView.sscHelp, 5000);

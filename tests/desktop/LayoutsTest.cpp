@@ -3,9 +3,11 @@
 #include "desktop/Binding.h"
 #include "desktop/DialogLayouts.h"
 #include "desktop/MainWindowTest.h"
+#include "results/PlotState.h"
 #include "screens/Analyse.h"
 #include "screens/Dialogs.h"
 #include "screens/ImportWizard.h"
+#include "screens/RoughnessScreen.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
@@ -221,7 +223,8 @@ TEST_F(LayoutsTest, EveryMenuEntryStandsInItsMenuAndRaisesItsOwnClick)
 
 TEST_F(LayoutsTest, EveryControlOfTheMainWindowHasAWidgetWithAName)
 {
-    for (const Screen* Each : std::initializer_list<const Screen*>{&MDIProject, &frmLCC, &frmResults})
+    for (const Screen* Each :
+         std::initializer_list<const Screen*>{&MDIProject, &frmLCC, &frmResults, &frmRoughness})
         ExpectAllThere(*Each, *Main);
     EXPECT_EQ(FocusTarget(frmLCC.txtProject)->accessibleName(), "Project name"); // as its caption
 }
@@ -320,6 +323,12 @@ TEST_F(LayoutsTest, OneScreenStandsAtATime)
         EXPECT_TRUE(FocusTarget(Each.First)->hasFocus()) << Each.Show.ToolTip;
         Each.Hide.Click();
     }
+    frmResults.Visible = false;
+    TakeProfileForPlot();
+    MDIProject.mnuRoughness.Click();
+    QCoreApplication::processEvents();
+    ExpectRoomForAll(*Main);
+    ExpectTabsReach(frmRoughness, *Main); // "Previous screen" shares its letter with the preferences
 }
 
 TEST_F(LayoutsTest, DialogsAreCompleteAndFit)

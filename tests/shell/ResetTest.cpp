@@ -5,6 +5,7 @@
 #include "platform/DrawingSurface.h"
 #include "platform/Grid.h"
 #include "results/PlotState.h"
+#include "roughness/RoughnessStores.h"
 
 #include <functional>
 #include <tuple>
@@ -116,6 +117,8 @@ TEST_F(ShellTest, AResetPutsEveryVariableBackToAFreshStart)
     NodeCount = 9;
     Chainage.Fill(9);
     GroundLevel.Fill(9);
+    Readings[8][AtPressure][5] = ScenarioFlow[8][TheFlow] = CurrentScenario = 9;
+    StretchEnd[8][4] = 9;
     ForEachWorkingField([](const FieldRule&, auto& Stored, auto& Working) {
         if constexpr (requires { Stored.Bytes; })
             Stored.Bytes.fill('x'), Working = "x";
@@ -129,6 +132,8 @@ TEST_F(ShellTest, AResetPutsEveryVariableBackToAFreshStart)
         EXPECT_EQ(*Each, Each == &PlotYear || Each == &ViewState ? 1 : 0) << Each - States[0];
     EXPECT_TRUE(FileName.empty() && !RedrawProfileView && !PointedOut && NodeCount == 0);
     EXPECT_TRUE(Chainage == ByRow() && GroundLevel == ByRow());
+    EXPECT_EQ(Readings[8][AtPressure][5] + ScenarioFlow[8][TheFlow] + StretchEnd[8][4], 0);
+    EXPECT_EQ(CurrentScenario, 1);
     EXPECT_EQ(ToImage(ProjectRecord), ToImage(ProjectFields()));
     ForEachWorkingField([](const FieldRule& Rule, const auto&, const auto& Working) {
         EXPECT_TRUE(Working == std::decay_t<decltype(Working)>()) << Rule.Name;

@@ -1,0 +1,132 @@
+// The commands of the tools as their users run them: roughness and convert.
+#include "BatchTest.h"
+
+#include <gmock/gmock.h>
+
+namespace velorix {
+namespace {
+
+using nlohmann::json;
+using testing::HasSubstr;
+
+class ToolCommandsTest : public BatchTest {
+protected:
+    ToolCommandsTest() { WriteExample("village.vlx", "kloofsig-village-main"); }
+
+    Run Roughness(const std::string& Readings, const std::string& Words = "") const
+    {
+        WriteFile("readings.json", Readings);
+        return Batch("roughness village.vlx --readings readings.json " + Words);
+    }
+};
+
+// Of 160 mm less two walls of 6.1 mm and 20 l/s, 3.1 m of head lost over the first 900 m. The second scenario
+// takes the units of the first, whatever its own are, and has a gap.
+TEST_F(ToolCommandsTest, RoughnessGoesOutAsListsOrAsATable)
+{
+    const std::string Readings = R"({"Scenarios": [
+        {"Flow": 20, "FlowUnits": 3, "PressureUnits": 15, "Points": [[0, 1282.4, 2], [900, 1251.3, 30]]},
+        {"Flow": 20, "Points": [[0, 1282.4, 2], [900, 1251.3, 30], [1820, 0, 43], [2540, 1239.4, 33]]}]})";
+    const json Results = json::parse(Roughness(Readings, "--json -").Output);
+    EXPECT_EQ(Results.size(), 11U);
+    for (const auto& Each : Results.items()) {
+        EXPECT_EQ(Each.value().size(), 8U) << Each.key();
+        for (const json& Scenario : Each.value()) EXPECT_EQ(Scenario.size(), 4U) << Each.key();
+        EXPECT_EQ(Each.value()[0][0], Each.value()[1][0]) << Each.key();
+        EXPECT_EQ(Each.value()[7], json({0, 0, 0, 0})) << Each.key();
+    }
+    EXPECT_EQ(Results["StretchValid"][1], json({-1, 0, -1, 0}));
+    EXPECT_EQ(Results["StretchLength"][0][0], 900);
+    EXPECT_NEAR(Results["HeadDifference"][0][0], 3.1, 1e-4);
+    EXPECT_NEAR(Results["AverageDiameter"][0][0], 0.1478, 1e-6);
+    EXPECT_NEAR(Results["AverageVelocity"][0][0], 0.58286, 1e-5);
+
+    const Run Shown = Roughness(Readings);
+    EXPECT_EQ(Shown.Status, 0);
+    EXPECT_EQ(Shown.Errors, "");
+    EXPECT_THAT(Shown.Output, HasSubstr("Scenario 2: 0.020000001 m³/s\n"
+                                        "Calculated between              1 to 2      2 to 3      3 to 4"));
+    EXPECT_THAT(Shown.Output,
+                HasSubstr("\nAverage diameter (mm)           147.80                  147.80\n"));
+
+    Roughness(Readings, "--json out.json");
+    EXPECT_EQ(json::parse(ReadFile(Folder / "out.json")), Results);
+    const json Other =
+        json::parse(Roughness(R"({"CurrentScenario": 2, )" + Readings.substr(1), "--json -").Output);
+    EXPECT_EQ(Other["AverageVelocity"][0][0], Other["AverageVelocity"][1][0]);
+    EXPECT_NEAR(Other["AverageVelocity"][0][0], 582.86,
+                0.01); // 20 m3/s: the units that the screen starts with
+}
+
+TEST_F(ToolCommandsTest, ReadingsThatCannotBeTakenAreToldByTheirPlace)
+{
+    const std::pair<const char*, const char*> Cases[] = {
+        {"{", "Can't read \"readings.json\": the JSON can't be read"},
+        {R"({"Scenarios": {}})", "Scenarios: a list is expected, not an object"},
+        {R"({"Scenarios": [{}, 7]})", "Scenario 2: an object is expected, not 7"},
+        {R"({"Scenarios": [{"Unit": 7}]})", "Scenario 1, Unit: there is no such field"},
+        {R"({"Scenarios": [{"Flow": "7"}]})", "Scenario 1, Flow: a number is expected, not \"7\""},
+        {R"({"Scenarios": [{"Flow": 7, "Flow": 8}]})", "Flow: the field is given twice"},
+        {R"({"Scenarios": [{"FlowUnits": 13}]})", "Scenario 1, FlowUnits: 13 is outside 0 to 12"},
+        {R"({"Scenarios": [{"PressureUnits": -1}]})", "PressureUnits: -1 is outside 0 to 16"},
+        {R"({"Scenarios": [{"Points": [[1, 2, 3], [1, 2]]}]})",
+         "Points, number 2: a point is a list of three"},
+        {R"({"Scenarios": [{"Points": [[1, 2, null]]}]})",
+         "Points, number 1: a number is expected, not null"},
+        {R"({"Scenarios": [{"Points": [[], [], [], [], [], []]}]})", "longer than 5 entries"},
+        {R"({"Scenarios": [{}, {}, {}, {}, {}, {}, {}, {}, {}]})", "longer than 8 entries"},
+        {R"({"Scenarios": [[[[[[]]]]]]})", "nested deeper"},
+        {R"({"CurrentScenario": 0})", "CurrentScenario: 0 is outside 1 to 8"},
+    };
+    for (const auto& [Readings, Reason] : Cases) {
+        const Run Failed = Roughness(Readings, "--json new");
+        EXPECT_EQ(Failed.Status, 1) << Readings;
+        EXPECT_THAT(Failed.Errors, HasSubstr(Reason)) << Readings;
+        EXPECT_FALSE(std::filesystem::exists(Folder / "new")) << Readings;
+    }
+    EXPECT_EQ(Batch("roughness village.vlx --readings missing.json").Status, 1);
+    EXPECT_EQ(Batch("roughness village.vlx").Status, 1);
+    EXPECT_EQ(Roughness("{}", "--json village.vlx").Status, 1);
+    EXPECT_EQ(Roughness("{}", "--json readings.json").Status, 1);
+    EXPECT_EQ(Batch("roughness missing.vlx --readings readings.json").Status, 1);
+    EXPECT_EQ(Batch("roughness - --readings readings.json <village.vlx").Status, 0);
+
+    const Run Beside = Roughness(R"({"Scenarios": [{"Points": [[0, 1, 1], [899, 1, 1], [900, 1, 1]]}]})");
+    EXPECT_EQ(Beside.Errors, "velorix-batch: village.vlx: scenario 1, point 2: the profile has no node at "
+                             "length 899\n");
+    EXPECT_EQ(Beside.Status, 0);
+}
+
+TEST_F(ToolCommandsTest, ConvertPrintsTheNumberAlone)
+{
+    struct Case {
+        const char* Words;
+        int Status;
+        const char* Output;
+    };
+    const Case Cases[] = {
+        {"Length 'meter (m)' 'inch (in)' 1", 0, "4.86854917234664\n"},
+        {"Length 'meter (m)' 'kilometre (km)' -1e-3", 0, "-1E-06\n"},
+        {"Pressure 'millimetres of water (mm)\"' bar 5", 0, "0\n"},
+        {"Pressure bar 'millimetres of water (mm)\"' 5", 2, ""},
+        {"Time 'day (d)' 'hour (h)' 1", 2, ""},
+        {"Time 'hour (h)' 'minute (min)' 1,5", 2, ""},
+        {"Time 'hour (h)' 'minute (min)' ''", 2, ""},
+        {"Pressure bar 'millimetres of water (mm)' 5", 1, ""}, // the list has a quote
+        {"Length 'meter (m) ' 'inch (in)' 1", 1, ""},
+        {"Temperature 'Kelvin (K)' 'Kelvin (K)' 1", 1, ""},
+        {"Length 'meter (m)' 'inch (in)'", 1, ""},
+    };
+    for (const auto& [Words, Status, Output] : Cases) {
+        const Run Done = Batch("convert " + std::string(Words));
+        EXPECT_EQ(Done.Status, Status) << Words;
+        EXPECT_EQ(Done.Output, Output) << Words;
+        EXPECT_EQ(Done.Errors.empty(), Status == 0) << Words;
+        const bool Told =
+            Done.Errors.ends_with("converting the value.  Please ensure it is a valid number\n");
+        EXPECT_EQ(Told, Status == 2) << Words;
+    }
+}
+
+} // namespace
+} // namespace velorix
