@@ -1,8 +1,10 @@
 // Pages and tools of the PDF view.
 #include "desktop/PdfView.h"
 
+#include "base/Failure.h"
 #include "desktop/Binding.h"
 #include "desktop/FormRows.h"
+#include "paint/PdfOutline.h"
 
 #include <QComboBox>
 #include <QKeyEvent>
@@ -10,6 +12,7 @@
 #include <QPdfPageNavigator>
 #include <QScreen>
 #include <QScrollBar>
+#include <QScroller>
 #include <QShortcut>
 #include <QSpinBox>
 #include <QTimer>
@@ -49,6 +52,12 @@ PdfPages::PdfPages(QPdfDocument& Shown)
     setFocusPolicy(Qt::StrongFocus);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // else it would change the width that pages fit
     NameField(this, "Pages");
+}
+
+// The toolkit keeps the scroller that it has made.
+PdfPages::~PdfPages()
+{
+    QScroller::ungrabGesture(this);
 }
 
 void PdfPages::GoTo(int Page)
@@ -144,7 +153,6 @@ PdfView::PdfView(PdfViewer& Shown)
     , Pages(new PdfPages(Document))
     , Bar(MakeTools())
 {
-    Bookmarks.setDocument(&Document);
     auto* const Layout = new QVBoxLayout(this);
     Layout->setContentsMargins(0, 0, 0, 0);
     Layout->addWidget(Pages);
@@ -188,13 +196,8 @@ QWidget* PdfView::MakeTools()
 void PdfView::Open(const std::string& Path)
 {
     Document.close();
-    if (!Path.empty()) Document.load(QString::fromStdString(Path)); // what is no PDF leaves no pages
     Chapters->clear();
-    for (int Row = 0; Row < Bookmarks.rowCount(); ++Row) {
-        const QModelIndex Mark = Bookmarks.index(Row, 0);
-        Chapters->addItem(Mark.data(static_cast<int>(QPdfBookmarkModel::Role::Title)).toString(),
-                          Mark.data(static_cast<int>(QPdfBookmarkModel::Role::Page)));
-    }
+    if (!Path.empty()) Read(Path);
     const int Count = Document.pageCount();
     Bar->setEnabled(Count > 0);
     {
@@ -204,6 +207,18 @@ void PdfView::Open(const std::string& Path)
     }
     Pages->GoTo(PageOf(QString::fromStdString(Record.Bookmark)));
     ShowPage(Pages->CurrentPage());
+}
+
+// What is no PDF leaves no pages.
+void PdfView::Read(const std::string& Path)
+{
+    try {
+        for (const PdfBookmark& Each : ReadBookmarks(Path))
+            Chapters->addItem(QString::fromStdString(Each.Title), static_cast<int>(Each.Page));
+        Document.load(QString::fromStdString(Path));
+    } catch (const Failure&) {
+        Chapters->clear();
+    }
 }
 
 int PdfView::PageOf(const QString& Bookmark) const

@@ -3,7 +3,6 @@
 
 #include "platform/Controls.h"
 
-#include <QPdfBookmarkModel>
 #include <QPdfDocument>
 #include <QPdfView>
 #include <QWidget>
@@ -19,6 +18,7 @@ namespace velorix {
 class PdfPages : public QPdfView {
 public:
     explicit PdfPages(QPdfDocument& Shown);
+    ~PdfPages() override;
 
     void GoTo(int Page); // to its top
     int CurrentPage() const;
@@ -50,12 +50,12 @@ public:
 private:
     QWidget* MakeTools();
     void Open(const std::string& Path);
+    void Read(const std::string& Path);
     void ShowPage(int Page);
     int PageOf(const QString& Bookmark) const; // the first where there is none
 
     PdfViewer& Record;
     QPdfDocument Document;
-    QPdfBookmarkModel Bookmarks;
     PdfPages* const Pages;
     QComboBox* Chapters = nullptr;
     QSpinBox* Page = nullptr;

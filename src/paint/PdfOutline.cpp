@@ -4,8 +4,11 @@
 #include "base/Failure.h"
 
 #include <qpdf/QPDF.hh>
+#include <qpdf/QPDFOutlineDocumentHelper.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFWriter.hh>
+
+#include <algorithm>
 
 namespace velorix {
 namespace {
@@ -81,6 +84,28 @@ std::string WithOutline(std::string_view Pdf, const DocumentFacts& Facts,
         return {reinterpret_cast<const char*>(Bytes->getBuffer()), Bytes->getSize()};
     } catch (const std::exception& Fault) {
         throw Failure(std::string("The PDF file can't be put together: ") + Fault.what());
+    }
+}
+
+std::vector<PdfBookmark> ReadBookmarks(const std::string& Path)
+{
+    try {
+        QPDF Document;
+        Document.setSuppressWarnings(true);
+        Document.processFile(Path.c_str());
+        const std::vector<QPDFObjectHandle> Pages = Document.getAllPages();
+        std::vector<PdfBookmark> Bookmarks;
+        for (QPDFOutlineObjectHelper& Each : QPDFOutlineDocumentHelper(Document).getTopLevelOutlines()) {
+            const QPDFObjGen Wanted = Each.getDestPage().getObjGen();
+            const auto Found = std::find_if(Pages.begin(), Pages.end(), [&](const QPDFObjectHandle& Page) {
+                return Page.getObjGen() == Wanted;
+            });
+            if (Found == Pages.end()) continue;
+            Bookmarks.push_back({Each.getTitle(), static_cast<std::size_t>(Found - Pages.begin())});
+        }
+        return Bookmarks;
+    } catch (const std::exception& Fault) {
+        throw Failure(std::string("The PDF file can't be read: ") + Fault.what());
     }
 }
 

@@ -1,4 +1,4 @@
-// Bookmarks and properties of a PDF file, which the toolkit can't write.
+// Bookmarks and properties of a PDF file, which the toolkit can't write and loses memory on reading.
 #pragma once
 
 #include "platform/DocumentFacts.h"
@@ -18,5 +18,9 @@ struct PdfBookmark {
 // a bookmark's page isn't there.
 std::string WithOutline(std::string_view Pdf, const DocumentFacts& Facts,
                         const std::vector<PdfBookmark>& Bookmarks);
+
+// The bookmarks of the highest level that lead to a page, in their order. Throws Failure when the file can't
+// be read or understood.
+std::vector<PdfBookmark> ReadBookmarks(const std::string& Path);
 
 } // namespace velorix
