@@ -261,6 +261,11 @@ QDialog* FixedWindow(const Screen& Record, QWidget* Owner, const std::vector<QWi
     Layout->setSpacing(DialogMargin - 4);
     for (QWidget* Each : Parts) Layout->addWidget(Each);
     Layout->setSizeConstraint(QLayout::SetFixedSize);
+    for (auto* Each : Dialog->findChildren<QPushButton*>()) {
+        if (!Each->isDefault()) continue;
+        Each->setDefault(false); // told before it stood in the window, which must learn of it
+        Each->setDefault(true);
+    }
     return Dialog;
 }
 

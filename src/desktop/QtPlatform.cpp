@@ -318,7 +318,7 @@ void QtPlatform::SetClipboardText(const std::string& Text)
 
 void QtPlatform::SetClipboardPicture(const DisplayList& Image)
 {
-    constexpr double Scale = 2; // of the screen's resolution
+    const double Scale = 2 * qGuiApp->devicePixelRatio(); // twice as fine as the screen
     const KeepArithmeticFlags Keep;
     QApplication::clipboard()->setImage(ToImage(Image, Scale));
 }

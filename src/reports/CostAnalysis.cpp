@@ -1,11 +1,11 @@
 // Capital cost with its additions, present values, and the annual cost of the first year.
-#include "base/Arithmetic.h"
 #include "cost/CapitalCost.h"
 #include "cost/CostResults.h"
 #include "model/WorkingSet.h"
 #include "reports/PageFrame.h"
 #include "reports/ReportPage.h"
 #include "reports/ResultReports.h"
+#include "results/FlowCaptions.h"
 
 namespace velorix {
 namespace {
@@ -14,26 +14,27 @@ constexpr const char* CapitalPattern = "###,###,###,###,##0";
 constexpr const char* PresentValuePattern = "#,###,###,###,###,000";
 constexpr const char* AnnualPattern = "###,###,##0";
 
-void PrintCost(const std::string& Label, double Cost)
+// In 32 bits, as the table on the screen has it.
+void PrintCost(const std::string& Label, Single Cost)
 {
     Printer.PrintCells({{7, Label}, {50, Amount(Cost, CapitalPattern)}});
 }
 
 void PrintCapitalCost()
 {
-    const Single Works = Checked(LayingCost + PipeSupplyCost + wMechanical + wElectrical);
-    const Single WithPreliminary = Checked((wPG / 100.0 + 1.0) * Works);
-    const Single Escalated = Checked((wContingencies / 100.0 + 1.0) * WithPreliminary + EscalationAmount);
-    const Single Construction = Checked(ConsultingFees + Escalated + SupervisionCost);
+    const Single Works = LayingCost + PipeSupplyCost + wMechanical + wElectrical;
+    const Single WithPreliminary = (wPG / 100.0 + 1.0) * Works;
+    const Single Escalated = (wContingencies / 100.0 + 1.0) * WithPreliminary + EscalationAmount;
+    const Single Construction = ConsultingFees + Escalated + SupervisionCost;
 
     PrintBold({{6, "Description"}});
     PrintCost("Pipeline cost", LayingCost + PipeSupplyCost);
     PrintCost("Mechanical cost", wMechanical);
     PrintCost("Electrical cost", wElectrical);
     PrintCost("Sub total", Works);
-    PrintCost("Preliminary & General (" + Figure(wPG, "#0") + "%)", wPG / 100.0 * Works);
+    PrintCost("Preliminary & General (" + FigureText(wPG, "#0") + "%)", wPG / 100.0 * Works);
     PrintCost("Sub total", WithPreliminary);
-    PrintCost("Contingencies (" + Figure(wContingencies, "#0") + "%)",
+    PrintCost("Contingencies (" + FigureText(wContingencies, "#0") + "%)",
               wContingencies / 100.0 * WithPreliminary);
     PrintCost("Escalation", EscalationAmount);
     PrintCost("Sub total", Escalated);
@@ -52,15 +53,15 @@ void PrintReturn()
     Printer.PrintCells({{7, "Expenditure:"}, {30, Amount(NpvCost, PresentValuePattern)}});
     Printer.PrintCells({{7, "Income:"}, {30, Amount(NpvIncome, PresentValuePattern)}});
     PrintBold({{6, "Internal Rate of Return"}});
-    Printer.PrintCells({{7, "IRR:"}, {30, Figure(Irr, "#0.000") + " %"}});
+    Printer.PrintCells({{7, "IRR:"}, {30, FigureText(Irr, "#0.000") + " %"}});
 }
 
 // The amount of the first year, and the rate by which it rises.
 void PrintAnnual(const char* Label, const ByYear& Series, Single Rate)
 {
-    Printer.PrintCells(
-        {{7, Label},
-         {45, Amount(Series[1], AnnualPattern) + "  (Escalation rate is " + Figure(Rate, "#0.00") + "%)"}});
+    Printer.PrintCells({{7, Label},
+                        {45, Amount(Series[1], AnnualPattern) + "  (Escalation rate is " +
+                                 FigureText(Rate, "#0.00") + "%)"}});
 }
 
 void PrintAnnualCost()
@@ -83,7 +84,6 @@ void PrintCostAnalysis()
     PrintTitle(40, "COST ANALYSIS");
     Printer.FontSize = 12;
     Printer.Print();
-    ClearArithmeticFlags(); // those of the window system, which has measured the page head
     PrintCapitalCost();
     PrintReturn();
     PrintAnnualCost();

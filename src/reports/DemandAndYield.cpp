@@ -1,5 +1,4 @@
 // What is asked of the pipeline in each design year, and what it gives.
-#include "base/Arithmetic.h"
 #include "hydraulics/HydraulicResults.h"
 #include "model/WorkingSet.h"
 #include "reports/PageFrame.h"
@@ -19,11 +18,10 @@ constexpr PageBreaks Breaks = {27, 27, 81};
 Cells YearRow(int Year)
 {
     const Single Demand = DemandOfYear(Year);
-    std::vector<std::string> Texts = {std::to_string(wSupplyStart + Year - 1),
-                                      Figure(CapacityOfYear(Year), "#0.000"),
-                                      Figure(Demand - Shortage[Year], "#0.000"),
-                                      Figure(Shortage[Year], "#0.000"), Figure(Demand, "#0.000")};
-    if (IsPumping()) Texts.push_back(Figure(PumpingHours[Year], "#0.00"));
+    std::vector<std::string> Texts = {std::to_string(wSupplyStart + Year - 1), CapacityText(Year),
+                                      FigureText(Demand - Shortage[Year], "#0.000"),
+                                      FigureText(Shortage[Year], "#0.000"), FigureText(Demand, "#0.000")};
+    if (IsPumping()) Texts.push_back(FigureText(PumpingHours[Year], "#0.00"));
     return RowAt(Columns, Texts);
 }
 
@@ -54,7 +52,6 @@ void PrintNote()
 
 void PrintDemandAndYield()
 {
-    ClearArithmeticFlags();
     const int Years = std::min<int>(wLife, MaxYears);
     std::vector<Cells> Rows;
     for (int Year = 1; Year <= Years; ++Year) Rows.push_back(YearRow(Year));

@@ -82,7 +82,8 @@ std::string YearFact(int Year)
 }
 
 // The figure with its unit; nothing for one that can't be worked out.
-std::string WithUnit(double Value, const char* Unit)
+template <typename Number>
+std::string WithUnit(Number Value, const char* Unit)
 {
     const std::string Text = FigureText(Value, "#0.000");
     return Text.empty() ? Text : Text + Unit;

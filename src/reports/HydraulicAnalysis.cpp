@@ -1,5 +1,4 @@
 // Levels and pressures along the pipeline in one year.
-#include "base/Failure.h"
 #include "base/NumberText.h"
 #include "hydraulics/HydraulicResults.h"
 #include "model/Components.h"
@@ -19,20 +18,11 @@ namespace {
 constexpr int Columns[] = {5, 11, 24, 36, 49, 61};
 constexpr PageBreaks Breaks = {27, 27, 459};
 
-// A flow or a head that can't be worked out ends the report.
-std::string Caption(const char* Label, const std::string& Figure)
-{
-    if (Figure.empty())
-        throw ArithmeticFailure(std::string(Label) + "can't be worked out for year " +
-                                std::to_string(PrintYear));
-    return Label + Figure;
-}
-
 Cells TopLine()
 {
     const FlowFacts Facts = FactsOfYear(PrintYear);
-    return {{9, Caption("Flow rate: ", Facts.Flow)},
-            {60, IsPumping() ? Caption("Pumping head: ", Facts.Head) : ""},
+    return {{9, "Flow rate: " + Facts.Flow},
+            {60, IsPumping() ? "Pumping head: " + Facts.Head : ""},
             {110, "Year: " + std::to_string(wSupplyStart + PrintYear - 1)}};
 }
 
@@ -70,7 +60,7 @@ Cells NodeRow(int Node)
 {
     const double Level = Gradeline(GradelinePoint(Node), PrintYear) / ElevationFactor;
     return RowAt(Columns, {std::to_string(Node), PlainNumber(wAccLength[Node]), PlainNumber(wElevation[Node]),
-                           Figure(Level, "##0.000"), Figure(Level - wElevation[Node], "##0.000"),
+                           FigureText(Level, "##0.000"), FigureText(Level - wElevation[Node], "##0.000"),
                            ComponentText(wNodeDesc[Node])});
 }
 

@@ -5,6 +5,7 @@
 #include "reports/PageFrame.h"
 #include "reports/ReportPage.h"
 #include "reports/ResultReports.h"
+#include "results/FlowCaptions.h"
 #include "results/SupplyPlots.h"
 
 #include <algorithm>
@@ -21,11 +22,11 @@ Cells YearRow(int k)
 {
     const int Year = k - ConstructionYears(); // of supply
     const auto Annual = [Year](const ByYear& Series) {
-        return Year < 1 ? "0" : Figure(Series[Year], Pattern);
+        return Year < 1 ? "0" : FigureText(Series[Year], Pattern);
     };
     std::vector<std::string> Texts = {
-        std::to_string(wBaseYear + k),     Annual(IncomeSeries), Figure(CostSeries[k], Pattern),
-        Figure(CapitalSeries[k], Pattern), Annual(MaintTotal),   Annual(OperationalCost)};
+        std::to_string(wBaseYear + k),         Annual(IncomeSeries), FigureText(CostSeries[k], Pattern),
+        FigureText(CapitalSeries[k], Pattern), Annual(MaintTotal),   Annual(OperationalCost)};
     if (IsPumping()) Texts.push_back(Annual(EnergyCost));
     return RowAt(Columns, Texts);
 }

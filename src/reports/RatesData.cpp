@@ -4,6 +4,7 @@
 #include "reports/InputReports.h"
 #include "reports/PageFrame.h"
 #include "reports/ReportPage.h"
+#include "results/FlowCaptions.h"
 #include "screens/Lcc.h"
 
 namespace velorix {

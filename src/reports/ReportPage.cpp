@@ -7,8 +7,7 @@
 #include "input/InputScreen.h"
 #include "model/WorkingSet.h"
 #include "reports/PageFrame.h"
-
-#include <cmath>
+#include "results/FlowCaptions.h"
 
 namespace velorix {
 
@@ -76,22 +75,10 @@ std::string KindOfSystem()
     return IsPumping() ? "PUMPING SYSTEM" : "GRAVITY SYSTEM";
 }
 
-std::string InBrackets(const std::string& Unit)
+std::string Amount(Single Value, const char* Pattern)
 {
-    return Unit.empty() ? Unit : "(" + Unit + ")";
-}
-
-std::string Figure(double Value, const char* Pattern)
-{
-    const Single Rounded = Value;
-    if (!std::isfinite(Rounded.Float()))
-        throw ArithmeticFailure("A figure of the report can't be worked out: " + GeneralText(Value));
-    return Format(Rounded, Pattern);
-}
-
-std::string Amount(double Value, const char* Pattern)
-{
-    return CurrencySign() + Figure(Value, Pattern);
+    const std::string Text = FigureText(Value, Pattern);
+    return Text.empty() ? Text : CurrencySign() + Text;
 }
 
 } // namespace velorix

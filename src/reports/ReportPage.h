@@ -1,6 +1,7 @@
 // What the text reports have in common: titles, bold lines, tables with their page breaks, texts of figures.
 #pragma once
 
+#include "base/Single.h"
 #include "platform/Controls.h"
 #include "platform/Printer.h"
 
@@ -42,13 +43,7 @@ std::string InFormat(const TextBox& Box, const char* Pattern);
 // "PUMPING SYSTEM" or "GRAVITY SYSTEM".
 std::string KindOfSystem();
 
-// "(m)"; nothing for no unit.
-std::string InBrackets(const std::string& Unit);
-
-// The figure, rounded to 32 bits, in that format. Throws ArithmeticFailure for one that is no number.
-std::string Figure(double Value, const char* Pattern);
-
-// The same behind the currency sign.
-std::string Amount(double Value, const char* Pattern);
+// The amount in that format behind the currency sign; empty for one that is no number.
+std::string Amount(Single Value, const char* Pattern);
 
 } // namespace velorix

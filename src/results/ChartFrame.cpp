@@ -82,6 +82,11 @@ int ChartFrame::YTick(const AxisTicks& Ticks, int n) const
     return Place((YBottom - FrameInset) - Ticks.Step * YScale * (n - 1));
 }
 
+int ChartFrame::Y2Tick(const AxisTicks& Ticks, int n, const SecondAxis& Second) const
+{
+    return Place((YBottom - FrameInset) - Ticks.Step * Second.Y2Scale * (n - 1));
+}
+
 std::optional<PointedAt> ReadFrame(const ChartScale& Scale, const ChartOrigin& Origin, double X, double Y)
 {
     const bool Drawn = Scale.XScale != 0 && Scale.YScale != 0;

@@ -60,6 +60,7 @@ struct ChartFrame : ChartScale, ChartOrigin {
     // Position of tick n, from 1, on the axis.
     int XTick(const AxisTicks& Ticks, int n) const;
     int YTick(const AxisTicks& Ticks, int n) const;
+    int Y2Tick(const AxisTicks& Ticks, int n, const SecondAxis& Second) const;
 
     int DataBottom() const { return YBottom - FrameInset; }
     int DataTop() const { return YTop - FrameInset; }

@@ -14,10 +14,22 @@ constexpr int TitleBefore = 300; // the title starts this far before the middle
 
 } // namespace
 
-void StartChart(Chart& Plot, int LeftMargin, int RightMargin)
+void StartChart(Chart& Plot)
 {
     Plot.Surface.Clear();
-    Plot.Frame.SetRectangle(Plot.Surface.ScaleWidth(), Plot.Surface.ScaleHeight(), LeftMargin, RightMargin);
+    Plot.Frame.Positions = Plot.Parameters.Positions;
+    Plot.Frame.SetRectangle(Plot.Surface.ScaleWidth(), Plot.Surface.ScaleHeight(), Plot.Parameters.LeftMargin,
+                            Plot.Parameters.RightMargin);
+}
+
+void SetXTicks(Chart& Plot, Single Least, Single Most)
+{
+    Plot.X = FindTicks(Least, Most, Plot.Parameters.XSteps, Plot.Parameters.Origins);
+}
+
+void SetYTicks(Chart& Plot, const DataRange& Values)
+{
+    Plot.Y = FindTicks(Values.Least, Values.Most, Plot.Parameters.YSteps, Plot.Parameters.Origins);
 }
 
 void TakePen(DrawingSurface& Surface, Color Ink, DrawStyle Style)
@@ -61,11 +73,16 @@ void DrawYLabels(Chart& Plot)
     const std::string Pattern = LabelFormat(Plot.Y.Step);
     for (int n = 1; n <= Plot.Y.Intervals + 1; ++n) {
         const int y = Plot.Frame.YTick(Plot.Y, n);
-        Plot.Surface.CurrentX = Plot.LabelColumn;
-        Plot.Surface.CurrentY = y - HalfLabel;
-        Plot.Surface.PrintText(Format(Plot.Y.Value(n), Pattern));
+        PrintYLabel(Plot, Format(Plot.Y.Value(n), Pattern), Plot.Parameters.LabelColumn, y);
         Plot.Surface.Line(Plot.Frame.XLeft, y, Plot.Frame.XLeft + TickLength, y);
     }
+}
+
+void PrintYLabel(Chart& Plot, const std::string& Label, int Column, int TickY)
+{
+    Plot.Surface.CurrentX = Column;
+    Plot.Surface.CurrentY = TickY - HalfLabel;
+    Plot.Surface.PrintText(Label);
 }
 
 void PrintCentred(DrawingSurface& Surface, const std::string& Text, const std::string& Measured, int X, int Y)
@@ -100,10 +117,11 @@ void DrawXLabels(Chart& Plot, const char* Pattern)
     }
 }
 
-void DrawXTitle(Chart& Plot, const std::string& Title, double Width, int Below)
+void DrawXTitle(Chart& Plot, const std::string& Title)
 {
+    const double Width = Plot.X.Step * Plot.X.Intervals * Plot.Frame.XScale;
     Plot.Surface.CurrentX = Plot.Frame.XLeft + RoundEven(Width / 2) - TitleBefore;
-    Plot.Surface.CurrentY = Plot.Frame.YBottom + Below;
+    Plot.Surface.CurrentY = Plot.Frame.YBottom + Plot.Parameters.XTitleBelow;
     Plot.Surface.PrintText(Title);
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/DrawingSurface.h"
 #include "results/ChartFrame.h"
+#include "results/PlotTable.h"
 
 #include <functional>
 
@@ -10,17 +11,21 @@ namespace velorix {
 
 constexpr Color GridGrey = Rgb(128, 128, 128);
 
-// A plot on its way to the surface: where it is drawn, its frame and its ticks.
+// A plot on its way to the surface: where it is drawn, which plot it is, its frame and its ticks.
 struct Chart {
     DrawingSurface& Surface;
-    ChartFrame Frame;
-    AxisTicks X;
-    AxisTicks Y;
-    int LabelColumn = 300; // where the labels of the y axis stand
+    const PlotParameters& Parameters;
+    ChartFrame Frame{};
+    AxisTicks X{};
+    AxisTicks Y{};
 };
 
 // Wipes the surface and sets the frame's rectangle.
-void StartChart(Chart& Plot, int LeftMargin, int RightMargin);
+void StartChart(Chart& Plot);
+
+// The ticks of both axes, by the ladders of the plot. Throw what FindTicks throws.
+void SetXTicks(Chart& Plot, Single Least, Single Most);
+void SetYTicks(Chart& Plot, const DataRange& Values);
 
 // Puts the pen on: a colour, one pixel wide.
 void TakePen(DrawingSurface& Surface, Color Ink, DrawStyle Style = DrawStyle::Solid);
@@ -38,14 +43,16 @@ void DrawYLabels(Chart& Plot);
 void DrawXLabels(Chart& Plot, Single End);
 void DrawXLabels(Chart& Plot, const char* Format);
 
+// A label of a y axis beside the tick at TickY.
+void PrintYLabel(Chart& Plot, const std::string& Label, int Column, int TickY);
+
 // A text whose width is centred on X; narrower or wider than the text that is shown.
 void PrintCentred(DrawingSurface& Surface, const std::string& Text, const std::string& Measured, int X,
                   int Y);
 void DrawXTickMark(Chart& Plot, int X);
 
-// The title below the middle of the x axis, Below twips under the axis line, in the font in force. Width is
-// the width of the data.
-void DrawXTitle(Chart& Plot, const std::string& Title, double Width, int Below);
+// The title below the middle of the x axis, in the font in force.
+void DrawXTitle(Chart& Plot, const std::string& Title);
 
 // A line through the points (X(i), Y(i)), i from First to Last. The first only sets the pen.
 using PositionOf = std::function<int(int)>;

@@ -22,10 +22,6 @@
 namespace velorix {
 namespace {
 
-constexpr int LeftMargin = 800;
-constexpr int RightMargin = 600;
-constexpr int RightMarginOfTwoAxes = 1050;
-constexpr int YTitleLeft = 11;
 constexpr int YTitleTop = 2200;
 constexpr int PumpPoints = 6;
 
@@ -52,9 +48,11 @@ DataRange RangeOf(Single (*Value)(int))
 }
 
 // The flows are taken as they stand: from the first row to the last.
-AxisTicks FlowTicks()
+void SetTicks(Chart& Plot, const DataRange& Heads)
 {
-    return FindTicks(PumpFlowAt(1), PumpFlowAt(PumpPoints), Ladder::ToMillion);
+    SetXTicks(Plot, PumpFlowAt(1), PumpFlowAt(PumpPoints));
+    SetYTicks(Plot, Heads);
+    Plot.Frame.SetAxes(Plot.X, Plot.Y);
 }
 
 void DrawPumpPoints(Chart& Plot)
@@ -93,8 +91,7 @@ void DrawLabelsAndTitles(Chart& Plot)
     DrawYLabels(Plot);
     DrawXLabels(Plot, PumpFlowAt(PumpPoints));
     Plot.Surface.SetFontBold(true);
-    DrawXTitle(Plot, "Flow rate ( " + PumpFlowUnit() + " )",
-               Plot.X.Step * Plot.X.Intervals * Plot.Frame.XScale, 270);
+    DrawXTitle(Plot, "Flow rate ( " + PumpFlowUnit() + " )");
     Plot.Surface.SetFontBold(false);
     Plot.Surface.DrawPicture(wHeadUnits == 1 ? imgHeadft : imgHeadm, YTitleLeft, YTitleTop);
 }
@@ -119,11 +116,8 @@ void DrawEfficiencyAxis(Chart& Plot, const EfficiencyAxis& Second)
     Plot.Surface.Line(x, Plot.Frame.YBottom, x, Plot.Frame.DataTop());
     const std::string Pattern = LabelFormat(Second.Ticks.Step);
     for (int n = 1; n <= Second.Ticks.Intervals + 1; ++n) {
-        Plot.Surface.CurrentX = Plot.Frame.XRight + 350;
-        Plot.Surface.CurrentY =
-            Plot.Frame.Place(Plot.Frame.DataBottom() - Second.Ticks.Step * Second.Axis.Y2Scale * (n - 1)) -
-            85;
-        Plot.Surface.PrintText(Format(Second.Ticks.Value(n), Pattern) + " %");
+        PrintYLabel(Plot, Format(Second.Ticks.Value(n), Pattern) + " %", Plot.Frame.XRight + 350,
+                    Plot.Frame.Y2Tick(Second.Ticks, n, Second.Axis));
     }
 }
 
@@ -143,15 +137,13 @@ bool AnyBoxIsEmpty()
 
 void DrawPumpAndEfficiency()
 {
-    Chart Plot{frmPumpView.picGraph, {}, {}, {}};
+    Chart Plot{frmPumpView.picGraph, PumpCurvePlot};
     const DataRange Heads = RangeOf(PumpHeadAt);
     const DataRange Efficiencies = RangeOf(PumpEfficiencyAt);
-    StartChart(Plot, LeftMargin, RightMarginOfTwoAxes);
-    Plot.X = FlowTicks();
-    Plot.Y = FindTicks(Heads.Least, Heads.Most, Ladder::ToMillion);
+    StartChart(Plot);
+    SetTicks(Plot, Heads);
     EfficiencyAxis Second;
-    Second.Ticks = FindTicks(Efficiencies.Least, Efficiencies.Most, Ladder::ToMillion);
-    Plot.Frame.SetAxes(Plot.X, Plot.Y);
+    Second.Ticks = FindTicks(Efficiencies.Least, Efficiencies.Most, PumpCurvePlot.YSteps);
     Second.Axis = {AxisScale(Plot.Frame.YBottom - Plot.Frame.YTop, Second.Ticks), Second.Ticks.Origin};
     StoreFrame(Plot.Frame);
     CurveSecondAxis = Second.Axis;
@@ -186,12 +178,10 @@ void DrawSystemCurve(Chart& Plot)
 
 void DrawPumpAndSystem(DrawingSurface& Surface, Color GridInk)
 {
-    Chart Plot{Surface, {}, {}, {}};
+    Chart Plot{Surface, PumpAndSystemPlot};
     const DataRange Heads = HeadsOfYear();
-    StartChart(Plot, LeftMargin, RightMargin);
-    Plot.X = FlowTicks();
-    Plot.Y = FindTicks(Heads.Least, Heads.Most, Ladder::ToMillion);
-    Plot.Frame.SetAxes(Plot.X, Plot.Y);
+    StartChart(Plot);
+    SetTicks(Plot, Heads);
     StoreFrame(Plot.Frame);
 
     DrawGrid(Plot, GridInk);

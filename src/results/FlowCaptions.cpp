@@ -8,6 +8,7 @@
 #include "hydraulics/HydraulicResults.h"
 #include "model/Units.h"
 #include "model/WorkingSet.h"
+#include "results/SupplyPlots.h"
 #include "screens/Lcc.h"
 
 #include <cmath>
@@ -21,6 +22,13 @@ std::string NameAt(UnitList Units, int Index)
     return Found ? Found->Name : "";
 }
 
+template <typename Number>
+std::string TextOf(Number Figure, const char* Pattern)
+{
+    ClearArithmeticFlags(); // what the figure raised shows in itself
+    return std::isfinite(static_cast<double>(Figure)) ? Format(Figure, Pattern) : std::string();
+}
+
 std::string WithUnit(double Figure, const ComboBox& Units)
 {
     const std::string Text = FigureText(Figure, "#0.000");
@@ -29,10 +37,14 @@ std::string WithUnit(double Figure, const ComboBox& Units)
 
 } // namespace
 
+std::string FigureText(Single Figure, const char* Pattern)
+{
+    return TextOf(Figure, Pattern);
+}
+
 std::string FigureText(double Figure, const char* Pattern)
 {
-    ClearArithmeticFlags(); // what the figure raised shows in itself
-    return std::isfinite(Figure) ? Format(Single(Figure), Pattern) : std::string();
+    return TextOf(Figure, Pattern);
 }
 
 FlowFacts FactsOfYear(int Year)
@@ -58,10 +70,24 @@ std::string ElevationUnit()
     return NameAt(DistanceUnitList, wElevationUnits);
 }
 
+std::string InBrackets(const std::string& Unit)
+{
+    return Unit.empty() ? Unit : "(" + Unit + ")";
+}
+
 double KsNewFactor()
 {
     const Unit* const Known = UnitAt(FineLengthUnitList, wKsNewUnits);
     return Known ? Known->Factor : 0;
+}
+
+std::string CapacityText(int Year)
+{
+    try {
+        return FigureText(CapacityOfYear(Year), "#0.000");
+    } catch (const ArithmeticFailure&) {
+        return {};
+    }
 }
 
 std::string DemandUnit()

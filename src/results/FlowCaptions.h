@@ -19,13 +19,22 @@ FlowFacts FactsOfYear(int Year);
 std::string LengthUnit();
 std::string ElevationUnit();
 
+// "(m)"; nothing for no unit.
+std::string InBrackets(const std::string& Unit);
+
 // From the unit of wKsNew to metres; 0 for an index outside the list.
 double KsNewFactor();
+
+// What the pipeline can deliver in an operating year, in the unit of the demand; empty where it can't be
+// worked out.
+std::string CapacityText(int Year);
 
 // The unit in which the demand is entered, as its list shows it.
 std::string DemandUnit();
 
-// The figure in that format; empty when it can't be worked out or is no number.
+// The figure in that format, one that is stored by its 32 bits; empty when it can't be worked out or is no
+// number.
+std::string FigureText(Single Figure, const char* Pattern);
 std::string FigureText(double Figure, const char* Pattern);
 
 } // namespace velorix

@@ -23,17 +23,13 @@ DataRange DifferencesBetween(int Begin, int End)
     return Differences;
 }
 
-AxisTicks DifferenceTicks(int Begin, int End)
-{
-    const DataRange Differences = DifferencesBetween(Begin, End);
-    return FindTicks(Differences.Least, Differences.Most, Ladder::ToTenMillion, OriginWidth::Double);
-}
-
 // Amounts that span too much have no step on the axis, or lie below its origin.
 bool HasAxis(int Begin, int End)
 {
     try {
-        return DifferenceTicks(Begin, End).Origin <= DifferencesBetween(Begin, End).Least;
+        const DataRange Differences = DifferencesBetween(Begin, End);
+        return FindTicks(Differences.Least, Differences.Most, IrrPlot.YSteps, IrrPlot.Origins).Origin <=
+               Differences.Least;
     } catch (const Failure&) { // tells that there is none, and ends nothing
         ClearArithmeticFlags();
         return false;
@@ -61,13 +57,10 @@ std::pair<int, int> RangeForPaper()
 
 void DrawBetween(int Begin, int End)
 {
-    constexpr int LabelColumn = 500;
-    Chart Plot{frmIRRView.picIRR, {}, {}, {}, LabelColumn};
-    Plot.Frame.Positions = PositionWidth::Bits32;
-    StartChart(Plot, 1500, 600);
-    Plot.X = FindTicks(Begin / BarUnitsPerPercent, End / BarUnitsPerPercent, Ladder::ClosedAtMillion,
-                       OriginWidth::Double);
-    Plot.Y = DifferenceTicks(Begin, End);
+    Chart Plot{frmIRRView.picIRR, IrrPlot};
+    StartChart(Plot);
+    SetXTicks(Plot, Begin / BarUnitsPerPercent, End / BarUnitsPerPercent);
+    SetYTicks(Plot, DifferencesBetween(Begin, End));
     Plot.Frame.SetAxes(Plot.X, Plot.Y);
     IRRFrame = Plot.Frame;
 
@@ -87,7 +80,7 @@ void DrawBetween(int Begin, int End)
     Plot.Surface.SetFontBold(false);
     Plot.Surface.SetFontSize(9);
     Plot.Surface.SetForeColor(Black);
-    DrawXTitle(Plot, "IRR (%)", Plot.X.Step * Plot.X.Intervals * Plot.Frame.XScale, 270);
+    DrawXTitle(Plot, "IRR (%)");
 }
 
 } // namespace
@@ -112,7 +105,6 @@ void OpenIrrGraph()
     frmIRRView.LoadHidden();
     frmIRRView.hsbBegin.Value = frmIRRView.hsbBegin.Min;
     frmIRRView.hsbEnd.Value = frmIRRView.hsbEnd.Max;
-    DrawIrrGraph();
 }
 
 void OpenIrrGraphForPaper()

@@ -7,11 +7,11 @@ namespace velorix {
 // plot, are told to the user.
 void DrawIrrGraph();
 
-// Loads the screen of the graph, hidden, and draws it over all rates.
+// Loads the screen of the graph, hidden, with its bars at all rates.
 void OpenIrrGraph();
 
-// The same where nobody is there to choose the rates: all, or those around the rate of return of which the
-// amounts fit the axis.
+// Loads it and draws where nobody is there to choose the rates: all, or those around the rate of return of
+// which the amounts fit the axis.
 void OpenIrrGraphForPaper();
 
 } // namespace velorix

@@ -23,10 +23,6 @@
 namespace velorix {
 namespace {
 
-constexpr int LeftMargin = 800;
-constexpr int RightMargin = 600;
-constexpr int YTitleLeft = 11;
-
 // What differs between the three places.
 struct PlotPlace {
     DrawingSurface& Surface;
@@ -55,14 +51,14 @@ std::optional<NodeRange> ChosenRange(const PlotPlace& Place)
 }
 
 // The gradeline raises the range by the points of the nodes less one, and never lowers it.
-AxisTicks LevelTicks(NodeRange Nodes)
+DataRange LevelsOf(NodeRange Nodes)
 {
     DataRange Levels{GroundLevel[Nodes.First], GroundLevel[Nodes.First]};
     for (int i = Nodes.First; i <= Nodes.Last; ++i) Levels.Take(GroundLevel[i]);
     if (HideGradeline == 0)
         for (int i = Nodes.First; i <= Nodes.Last; ++i)
             Levels.Most = std::max<double>(Levels.Most, Ordered(Gradeline(i - 1, PlotYear)));
-    return FindTicks(Levels.Least, Levels.Most, Ladder::ToMillion);
+    return Levels;
 }
 
 // A reservoir stands on its ground point, at the first node of the project on the side away from the line.
@@ -106,8 +102,7 @@ void DrawTitles(Chart& Plot, const PlotPlace& Place)
 {
     Plot.Surface.SetFontSize(10);
     Plot.Surface.SetFontBold(false);
-    DrawXTitle(Plot, "Accumulated length " + Place.LengthUnit,
-               Plot.X.Step * Plot.X.Intervals * Plot.Frame.XScale, 250);
+    DrawXTitle(Plot, "Accumulated length " + Place.LengthUnit);
     constexpr std::array Titles = {&imgM, &imgKm, &imgFt, &imgMiles};
     if (wElevationUnits >= 0 && wElevationUnits < static_cast<int>(Titles.size()))
         Plot.Surface.DrawPicture(*Titles.at(static_cast<std::size_t>(wElevationUnits)), YTitleLeft,
@@ -135,9 +130,9 @@ void DrawLift(Chart& Plot, NodeRange Nodes)
 // Frame, symbols, ground and axes; each layer paints over the one before it.
 void DrawProfile(Chart& Plot, const PlotPlace& Place, NodeRange Nodes, bool Symbols)
 {
-    StartChart(Plot, LeftMargin, RightMargin);
-    Plot.X = FindTicks(Chainage[Nodes.First], Chainage[Nodes.Last], Ladder::ToMillion);
-    Plot.Y = LevelTicks(Nodes);
+    StartChart(Plot);
+    SetXTicks(Plot, Chainage[Nodes.First], Chainage[Nodes.Last]);
+    SetYTicks(Plot, LevelsOf(Nodes));
     Plot.Frame.SetAxes(Plot.X, Plot.Y);
     Place.StoreFrame(Plot.Frame);
 
@@ -166,7 +161,7 @@ void DrawOn(const PlotPlace& Place, bool Symbols, bool StopsWhenFailed, LastLaye
 {
     const std::optional<NodeRange> Nodes = ChosenRange(Place);
     if (!Nodes) return;
-    Chart Plot{Place.Surface, {}, {}, {}};
+    Chart Plot{Place.Surface, ProfilePlot};
     Place.YearDrawn = PlotYear;
     DrawProfile(Plot, Place, *Nodes, Symbols);
     if (StopsWhenFailed && HydraulicsFailed == 1) {

@@ -2,7 +2,6 @@
 #include "results/ResultTables.h"
 
 #include "base/Arithmetic.h"
-#include "base/Failure.h"
 #include "base/Format.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
@@ -47,22 +46,6 @@ private:
     Grid& Table;
 };
 
-// The text that a calculation gives; empty when it fails.
-template <typename Work>
-std::string TextOrNothing(Work Calculated)
-{
-    try {
-        return Calculated();
-    } catch (const Failure&) {
-        return {};
-    }
-}
-
-std::string InBrackets(const std::string& Unit)
-{
-    return "(" + Unit + ")";
-}
-
 // An amount of year k of a series; "0" where the year has none.
 std::string AmountOfYear(bool HasAmount, Single Amount)
 {
@@ -71,8 +54,7 @@ std::string AmountOfYear(bool HasAmount, Single Amount)
 
 std::vector<std::string> DemandRow(int y)
 {
-    const std::string Capacity = TextOrNothing([&] { return FigureText(CapacityOfYear(y), "#0.000"); });
-    return {std::to_string(wSupplyStart + y - 1), Capacity,
+    return {std::to_string(wSupplyStart + y - 1), CapacityText(y),
             FigureText(DemandOfYear(y) - Shortage[y], "#0.000"), FigureText(Shortage[y], "#0.000"),
             FigureText(PumpingHours[y], "#0.00")};
 }

@@ -20,11 +20,16 @@ namespace {
 
 constexpr Color Blue = Rgb(0, 0, 255);
 constexpr Color Violet = Rgb(255, 10, 240);
-constexpr int RightMargin = 600;
 constexpr int BetweenSlots = 50;
 
 // A bar chart on its way: the frame, and the years' slots on it.
 struct BarChart : Chart {
+    BarChart(const PlotParameters& Plot, int YearsShown)
+        : Chart{frmResults.picSystem, Plot}
+        , Years(YearsShown)
+    {
+    }
+
     int Years;
     int BarWidth = 0;
 
@@ -47,11 +52,11 @@ private:
 };
 
 // Frame and horizontal grid. Two intervals are the fewest.
-void StartBarChart(BarChart& Plot, const DataRange& Values, int LeftMargin, Ladder Steps)
+void StartBarChart(BarChart& Plot, const DataRange& Values)
 {
-    StartChart(Plot, LeftMargin, RightMargin);
+    StartChart(Plot);
     Plot.X = {1, 0, Plot.Years};
-    Plot.Y = FindTicks(Values.Least, Values.Most, Steps);
+    SetYTicks(Plot, Values);
     Plot.Y.Intervals = std::max(Plot.Y.Intervals, 2);
     Plot.Frame.SetAxes(Plot.X, Plot.Y);
     const double SlotWidth =
@@ -79,7 +84,7 @@ void DrawYears(BarChart& Plot)
     }
     Plot.Surface.SetFontSize(9);
     Plot.Surface.SetFontBold(false);
-    DrawXTitle(Plot, "Year", Plot.Years * Plot.Frame.XScale, 270);
+    DrawXTitle(Plot, "Year");
 }
 
 void FinishBarChart(BarChart& Plot)
@@ -97,13 +102,13 @@ Single EntryOrZero(const Array& Series, int k)
 
 void DrawDemandBars()
 {
-    BarChart Plot{{frmResults.picSystem, {}, {}, {}}, wLife};
+    BarChart Plot(DemandPlot, wLife);
     DataRange Values{CapacityOfYear(1), CapacityOfYear(1)};
     for (int y = 1; y <= wLife; ++y) {
         Values.Take(CapacityOfYear(y));
         Values.Take(DemandOfYear(y));
     }
-    StartBarChart(Plot, Values, 800, Ladder::ToMillion);
+    StartBarChart(Plot, Values);
     Plot.Surface.DrawPicture(picVLDemand, 10, 1500);
     for (int y = 1; y <= wLife; ++y) {
         Plot.First(y, CapacityOfYear(y), PureGreen);
@@ -139,9 +144,8 @@ void DrawExpenditure(const BarChart& Plot, int Slot, int k)
 
 void DrawIncomeBars()
 {
-    constexpr int LabelColumn = 100;
     const int Construction = wSupplyStart - wBaseYear;
-    BarChart Plot{{frmResults.picSystem, {}, {}, {}, LabelColumn}, YearsOfIncome()};
+    BarChart Plot(IncomePlot, YearsOfIncome());
     DataRange Values{IncomeAt(1), IncomeAt(1)};
     for (int k = 1; k <= Plot.Years; ++k) {
         Values.Take(IncomeAt(k));
@@ -149,7 +153,7 @@ void DrawIncomeBars()
     }
     for (int k = 1; k <= wLife; ++k) Values.Take(AnnualTotal(k));
 
-    StartBarChart(Plot, Values, 1000, Ladder::ClosedAtTenMillion);
+    StartBarChart(Plot, Values);
     for (int k = 1; k <= wLife; ++k) {
         Plot.First(Construction + k, IncomeAt(k), Blue);
         DrawExpenditure(Plot, Construction + k, k);
@@ -192,7 +196,8 @@ int YearsOfIncome()
 
 Single IncomeAt(int k)
 {
-    return EntryOrZero(IncomeSeries, k);
+    return k <= wLife ? EntryOrZero(IncomeSeries, k)
+                      : Single(0); // beyond stands what an earlier project left
 }
 
 Single CostAt(int k)

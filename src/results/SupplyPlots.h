@@ -12,8 +12,8 @@ Single DemandOfYear(int Year);
 // Years on the income plot: those of construction and those of supply.
 int YearsOfIncome();
 
-// Income of operating year k; costs of calendar year k, of which the first is the base year; 0 past the end
-// of a series.
+// Income of operating year k, 0 past the design life; costs of calendar year k, of which the first is the
+// base year, 0 past the end of the series.
 Single IncomeAt(int k);
 Single CostAt(int k);
 

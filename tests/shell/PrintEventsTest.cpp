@@ -15,20 +15,6 @@ namespace {
 
 class PrintEventsTest : public ShellTest {
 protected:
-    void Open(const ProjectFields& Record, bool Results = true)
-    {
-        ProjectRecord = Record;
-        NewProject = 1;
-        LoadProject();
-        Windows.ModalScripts["frmAnalyse"] = [] {
-            Fire(frmAnalyse.tmrStopMatrix);
-            frmAnalyse.sscAnalyse.Click();
-            frmAnalyse.sscAnalyse.Click();
-        };
-        if (Results) MDIProject.mnuAnalyse.Click();
-        Windows.Messages.clear();
-    }
-
     // Opens the selection, does that in it, and looks at what is left.
     template <typename Action>
     void InSelection(Action Script)
@@ -67,7 +53,8 @@ TEST_F(PrintEventsTest, WhatStandsCanBeTickedOnceTheTimerHasRun)
 {
     for (const bool Pumping : {false, true})
         for (const bool Results : {false, true}) {
-            Open(Pumping ? PumpCurveRecord() : GravityRecord(), Results);
+            const ProjectFields& Record = Pumping ? PumpCurveRecord() : GravityRecord();
+            Results ? Analyse(Record) : Open(Record);
             InSelection([&] {
                 EXPECT_FALSE(frmPrint.tmrCheck.Enabled);
                 for (int Index = 0; Index < SectionCount; ++Index)
@@ -82,7 +69,7 @@ TEST_F(PrintEventsTest, WhatStandsCanBeTickedOnceTheTimerHasRun)
 // Nor is there one in nothing. A cancel is the failure of the first section, whatever is ticked.
 TEST_F(PrintEventsTest, TheIncomeGraphAloneIsNoChoice)
 {
-    Open(GravityRecord());
+    Analyse(GravityRecord());
     InSelection([this] {
         for (const bool Income : {false, true}) {
             frmPrint.chkIncome.Value = Income;
@@ -104,7 +91,7 @@ TEST_F(PrintEventsTest, TheIncomeGraphAloneIsNoChoice)
 // At every page of a run, which goes well in two copies first. The next run begins with a fresh page.
 TEST_F(PrintEventsTest, AFailingPrinterEndsTheRunAtItsSection)
 {
-    Open(PumpCurveRecord());
+    Analyse(PumpCurveRecord());
     Windows.Prints = {PrintChoice{2}};
     InSelection(PrintAll);
     EXPECT_TRUE(Windows.Messages.empty());
@@ -139,7 +126,7 @@ TEST_F(PrintEventsTest, AFailingPrinterEndsTheRunAtItsSection)
 
 TEST_F(PrintEventsTest, TheYearIsAskedForWhenTheHydraulicReportIsTicked)
 {
-    Open(GravityRecord());
+    Analyse(GravityRecord());
     Windows.ModalScripts["frmSelectYear"] = [] {
         EXPECT_EQ(frmSelectYear.comYear.List.Get().size(), static_cast<std::size_t>(wLife));
         EXPECT_EQ(frmSelectYear.comYear.Text(), "Year 2003");
@@ -166,7 +153,7 @@ TEST_F(PrintEventsTest, TheYearIsAskedForWhenTheHydraulicReportIsTicked)
 // In two copies, cancelled, and on a printer that fails. Those that begin at page 2 stand upright.
 TEST_F(PrintEventsTest, AButtonPrintsItsGraphByItself)
 {
-    Open(PumpCurveRecord());
+    Analyse(PumpCurveRecord());
     frmResults.sscDutypoint.Click();
     frmResults.sscIRR.Click();
     frmIRRView.hsbBegin.Value = 2000; // the graph follows with its print

@@ -1,5 +1,6 @@
 // The results screen and the viewers, by what their surfaces, labels and tables hold.
 #include "ShellTest.h"
+#include "cost/CostResults.h"
 #include "hydraulics/HydraulicResults.h"
 #include "model/SampleRecords.h"
 #include "results/ChartFrame.h"
@@ -16,20 +17,6 @@ constexpr Color Blue = Rgb(0, 0, 255);
 
 class ResultsEventsTest : public ShellTest {
 protected:
-    void Analyse(const ProjectFields& Record)
-    {
-        ProjectRecord = Record;
-        NewProject = 1;
-        LoadProject();
-        Windows.ModalScripts["frmAnalyse"] = [] {
-            Fire(frmAnalyse.tmrStopMatrix);
-            frmAnalyse.sscAnalyse.Click();
-            frmAnalyse.sscAnalyse.Click();
-        };
-        MDIProject.mnuAnalyse.Click();
-        ASSERT_TRUE(frmResults.Visible);
-    }
-
     template <typename Item>
     static std::vector<Item> ItemsOf(const DrawingSurface& Surface)
     {
@@ -198,6 +185,12 @@ TEST_F(ResultsEventsTest, TheGraphOfRatesComesAndGoes)
     frmIRRView.sscOK.Click();
     EXPECT_TRUE(frmResults.Visible);
     EXPECT_FALSE(frmIRRView.IsLoaded());
+
+    IrrDifference[1] = 1e12; // no axis goes as far
+    Windows.Messages.clear();
+    frmResults.sscIRR.Click();
+    EXPECT_EQ(LastMessage(), "Could not show the Internal Rate of Return graph.");
+    EXPECT_EQ(Windows.Messages.size(), 1U);
 }
 
 TEST_F(ResultsEventsTest, ThePumpCurveNeedsItsData)

@@ -31,6 +31,26 @@ protected:
         Windows.ModalScreens.clear();
     }
 
+    // The record as the project that is edited.
+    static void Open(const ProjectFields& Record)
+    {
+        ProjectRecord = Record;
+        NewProject = 1;
+        LoadProject();
+    }
+
+    void Analyse(const ProjectFields& Record)
+    {
+        Open(Record);
+        Windows.ModalScripts["frmAnalyse"] = [] {
+            Fire(frmAnalyse.tmrStopMatrix);
+            frmAnalyse.sscAnalyse.Click();
+            frmAnalyse.sscAnalyse.Click();
+        };
+        MDIProject.mnuAnalyse.Click();
+        ASSERT_TRUE(frmResults.Visible);
+    }
+
     std::string LastMessage() const { return Windows.Messages.empty() ? "" : Windows.Messages.back().Text; }
 
     ScriptedPlatform Windows;
