@@ -202,7 +202,9 @@ void FillStatusBar(QStatusBar* Bar)
     Bar->addWidget(Hint, 1);
     Bar->addPermanentWidget(View(MDIProject.lblProgessBar));
     Bar->addPermanentWidget(Progress);
-    Bar->addPermanentWidget(View(MDIProject.lblSystem));
+    QLabel* const System = View(MDIProject.lblSystem);
+    System->setContentsMargins(Gap, 0, 0, 0);
+    Bar->addPermanentWidget(System);
     Bar->addPermanentWidget(Clock());
 }
 

@@ -140,7 +140,7 @@ void LiftOutlines(QPalette Palette)
     for (const char* Kind : {"QComboBox", "QPushButton"}) QApplication::setPalette(Palette, Kind);
     Palette.setColor(QPalette::Window, "#8494a0");
     for (const char* Kind :
-         {"QLineEdit", "QPlainTextEdit", "QAbstractSpinBox", "QRadioButton", "QProgressBar"})
+         {"QLineEdit", "QPlainTextEdit", "QAbstractSpinBox", "QRadioButton", "QCheckBox", "QProgressBar"})
         QApplication::setPalette(Palette, Kind);
 }
 
