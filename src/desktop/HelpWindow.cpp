@@ -4,13 +4,17 @@
 #include "desktop/FormRows.h"
 #include "desktop/Style.h"
 
+#include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QImage>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPainter>
 #include <QScreen>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QSplitter>
+#include <QSvgRenderer>
 #include <QTextBrowser>
 #include <QTextTable>
 #include <QToolButton>
@@ -66,6 +70,22 @@ int TopicOf(const QUrl& Address)
     return Address.path().toInt();
 }
 
+// A picture of the help's text, by the name of its file; nothing when there is none. It keeps its size, be it
+// wider than the pane.
+QVariant Picture(const QString& Name)
+{
+    QSvgRenderer Drawing(":/help/" + Name);
+    if (!Drawing.isValid()) return {};
+    const double Scale = qGuiApp->devicePixelRatio();
+    QImage Drawn(Drawing.defaultSize() * Scale, QImage::Format_ARGB32_Premultiplied);
+    Drawn.fill(Qt::transparent);
+    QPainter Painter(&Drawn);
+    Drawing.render(&Painter);
+    Painter.end();
+    Drawn.setDevicePixelRatio(Scale);
+    return Drawn;
+}
+
 // A browser of topics in place of files.
 class TopicBrowser : public QTextBrowser {
 public:
@@ -74,8 +94,9 @@ public:
     {
     }
 
-    QVariant loadResource(int, const QUrl& Address) override
+    QVariant loadResource(int Kind, const QUrl& Address) override
     {
+        if (Kind == QTextDocument::ImageResource) return Picture(Address.fileName());
         const auto Topic = static_cast<std::size_t>(TopicOf(Address));
         return Topic < Topics.size() ? Topics[Topic].Text : QString();
     }

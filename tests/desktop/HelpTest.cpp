@@ -12,6 +12,8 @@
 #include <QListWidget>
 #include <QRegularExpression>
 #include <QTextBrowser>
+#include <QTextDocument>
+#include <QTextFormat>
 #include <QTimer>
 #include <QToolButton>
 
@@ -65,6 +67,24 @@ TEST_F(HelpTest, EveryHelpCommandAndEveryLinkFindsItsTopic)
             const QString Number = Found.next().captured(1);
             EXPECT_TRUE(Numbers.count(Number.toInt())) << Each.Number << ": " << Number.toStdString();
         }
+}
+
+TEST_F(HelpTest, EveryPictureOfTheTextShows)
+{
+    HelpWindow Window(ShippedTopics(), Main.get());
+    QTextDocument& Text = *Window.findChild<QTextBrowser*>()->document();
+    std::set<QString> Pictures;
+    for (const HelpTopic& Topic : ShippedTopics()) {
+        Window.ShowTopic(Topic.Number);
+        for (const QTextFormat& Each : Text.allFormats()) {
+            if (!Each.isImageFormat()) continue;
+            const QUrl Name = Each.toImageFormat().name();
+            EXPECT_GT(Text.resource(QTextDocument::ImageResource, Name).value<QImage>().width(), 0)
+                << Topic.Number << ": " << Name.toString().toStdString();
+            Pictures.insert(Name.fileName());
+        }
+    }
+    EXPECT_EQ(Pictures.size(), 3U);
 }
 
 // Those without a help button ask for that of the dialog behind them, else for topic 5000.
