@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QPainter>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QSplitter>
@@ -70,14 +71,16 @@ int TopicOf(const QUrl& Address)
     return Address.path().toInt();
 }
 
-// A picture of the help's text, by the name of its file; nothing when there is none. It keeps its size, be it
-// wider than the pane.
-QVariant Picture(const QString& Name)
+// A picture of the help's text, by the name of its file, no wider than told; nothing when there is none.
+QVariant Picture(const QString& Name, int Widest)
 {
+    constexpr int Least = 300; // to be legible
     QSvgRenderer Drawing(":/help/" + Name);
     if (!Drawing.isValid()) return {};
+    const QSize Own = Drawing.defaultSize();
+    const QSize Size = Own.scaled(qMax(Widest, Least), Own.height(), Qt::KeepAspectRatio);
     const double Scale = qGuiApp->devicePixelRatio();
-    QImage Drawn(Drawing.defaultSize() * Scale, QImage::Format_ARGB32_Premultiplied);
+    QImage Drawn(Size * Scale, QImage::Format_ARGB32_Premultiplied);
     Drawn.fill(Qt::transparent);
     QPainter Painter(&Drawn);
     Drawing.render(&Painter);
@@ -96,12 +99,19 @@ public:
 
     QVariant loadResource(int Kind, const QUrl& Address) override
     {
-        if (Kind == QTextDocument::ImageResource) return Picture(Address.fileName());
+        if (Kind == QTextDocument::ImageResource) return Picture(Address.fileName(), TextWidth());
         const auto Topic = static_cast<std::size_t>(TopicOf(Address));
         return Topic < Topics.size() ? Topics[Topic].Text : QString();
     }
 
 private:
+    // Between the margins, when a long text has brought the scroll bar up.
+    int TextWidth() const
+    {
+        return maximumViewportSize().width() - verticalScrollBar()->sizeHint().width() -
+               2 * static_cast<int>(document()->documentMargin());
+    }
+
     const std::vector<HelpTopic>& Topics;
 };
 
