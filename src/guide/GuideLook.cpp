@@ -91,7 +91,8 @@ void LookOfBlock(const QTextBlock& Each, double Scale)
         Block.setLineHeight(LineHeight, QTextBlockFormat::ProportionalHeight);
         Block.setTopMargin(0);
         Block.setBottomMargin(Each.textList() ? ListGap : 7);
-        if (Each.textList()) QTextCursor(Each).mergeBlockCharFormat(FontOf(TextFamily, TextSize)); // its digit
+        if (Each.textList())
+            QTextCursor(Each).mergeBlockCharFormat(FontOf(TextFamily, TextSize)); // its digit
         if (Each.textList() && !Each.next().textList()) Block.setBottomMargin(8);
         if (Block.hasProperty(QTextFormat::BlockQuoteLevel)) {
             Block.setBackground(BoxTint);
