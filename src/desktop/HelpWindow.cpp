@@ -4,13 +4,18 @@
 #include "desktop/FormRows.h"
 #include "desktop/Style.h"
 
+#include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QImage>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPainter>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QSplitter>
+#include <QSvgRenderer>
 #include <QTextBrowser>
 #include <QTextTable>
 #include <QToolButton>
@@ -66,6 +71,24 @@ int TopicOf(const QUrl& Address)
     return Address.path().toInt();
 }
 
+// A picture of the help's text, by the name of its file, no wider than told; nothing when there is none.
+QVariant Picture(const QString& Name, int Widest)
+{
+    constexpr int Least = 300; // to be legible
+    QSvgRenderer Drawing(":/help/" + Name);
+    if (!Drawing.isValid()) return {};
+    const QSize Own = Drawing.defaultSize();
+    const QSize Size = Own.scaled(qMax(Widest, Least), Own.height(), Qt::KeepAspectRatio);
+    const double Scale = qGuiApp->devicePixelRatio();
+    QImage Drawn(Size * Scale, QImage::Format_ARGB32_Premultiplied);
+    Drawn.fill(Qt::transparent);
+    QPainter Painter(&Drawn);
+    Drawing.render(&Painter);
+    Painter.end();
+    Drawn.setDevicePixelRatio(Scale);
+    return Drawn;
+}
+
 // A browser of topics in place of files.
 class TopicBrowser : public QTextBrowser {
 public:
@@ -74,13 +97,21 @@ public:
     {
     }
 
-    QVariant loadResource(int, const QUrl& Address) override
+    QVariant loadResource(int Kind, const QUrl& Address) override
     {
+        if (Kind == QTextDocument::ImageResource) return Picture(Address.fileName(), TextWidth());
         const auto Topic = static_cast<std::size_t>(TopicOf(Address));
         return Topic < Topics.size() ? Topics[Topic].Text : QString();
     }
 
 private:
+    // Between the margins, when a long text has brought the scroll bar up.
+    int TextWidth() const
+    {
+        return maximumViewportSize().width() - verticalScrollBar()->sizeHint().width() -
+               2 * static_cast<int>(document()->documentMargin());
+    }
+
     const std::vector<HelpTopic>& Topics;
 };
 

@@ -4,6 +4,7 @@
 #include "desktop/Binding.h"
 #include "paint/ImageFile.h"
 #include "paint/Painter.h"
+#include "shell/Help.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -19,8 +20,10 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QShortcut>
 #include <QStandardPaths>
 #include <QSysInfo>
 
@@ -233,6 +236,10 @@ void QtPlatform::ShowModal(Screen& Shown)
     const std::unique_ptr<QDialog> Dialog(Maker->second(TopWindow()));
     Dialog->setModal(true);
     new DialogFrame(Shown, Dialog.get());
+    Standing.push_back(&Shown);
+    const auto Leave = qScopeGuard([this] { Standing.pop_back(); });
+    QObject::connect(new QShortcut(QKeySequence("F1"), Dialog.get()), &QShortcut::activated, Dialog.get(),
+                     [this] { Guarded([this] { ShowHelpOf(Standing); }); });
     QEventLoop Open;
     Follow(Shown.Caption, Dialog.get(), [&Dialog](const std::string& Caption) {
         Dialog->setWindowTitle(QString::fromStdString(Caption));

@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <unordered_map>
+#include <vector>
 
 class QDialog;
 class QWidget;
@@ -30,7 +31,8 @@ public:
     Answer Show(const Message& Box) override;
 
     // The dialog follows the screen's Visible, Caption and Enabled. Closing it by its frame or by Escape
-    // closes the screen by its frame. Throws std::logic_error for a screen without a dialog.
+    // closes the screen by its frame, F1 asks for its help. Throws std::logic_error for a screen without a
+    // dialog.
     void ShowModal(Screen& Dialog) override;
 
     std::optional<std::filesystem::path> AskFileToOpen(const FileDialog& Dialog) override;
@@ -59,7 +61,8 @@ public:
 
 private:
     std::unordered_map<Screen*, DialogMaker> Dialogs;
-    QPointer<HelpWindow> Help; // while it is open
+    QPointer<HelpWindow> Help;     // while it is open
+    std::vector<Screen*> Standing; // the dialogs, the front one last
     PointerShape Pointer = PointerShape::Default;
     PrintJobs Prints;
     bool Ended = false;

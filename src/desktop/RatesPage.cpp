@@ -76,7 +76,7 @@ QWidget* MaintenanceBar(const QString& Name, ScrollBar& Record)
 
 QWidget* MaintenanceCard()
 {
-    auto* const Card = new QGroupBox("Annual maintenance, as a part of the capital cost");
+    auto* const Card = new QGroupBox("Annual maintenance, as a part of the cost of the works");
     FormRows Rows(Card);
     Rows.AddWide(InRow({MaintenanceBar("Pipeline", frmLCC.hscMPipeline),
                         MaintenanceBar("Mechanical", frmLCC.hscMMechanical),

@@ -26,12 +26,17 @@ struct HeadingLook {
 };
 constexpr HeadingLook Headings[] = {{20, 0, 14}, {13, 16, 4}, {11, 10, 3}}; // by level
 
-void SetFont(QTextCursor& Chosen, const char* Family, double Size)
+QTextCharFormat FontOf(const char* Family, double Size)
 {
     QTextCharFormat Format;
     Format.setFontFamilies({Family});
     Format.setFontPointSize(Size);
-    Chosen.mergeCharFormat(Format);
+    return Format;
+}
+
+void SetFont(QTextCursor& Chosen, const char* Family, double Size)
+{
+    Chosen.mergeCharFormat(FontOf(Family, Size));
 }
 
 // What is to be typed letter for letter keeps its fixed pitch.
@@ -86,6 +91,8 @@ void LookOfBlock(const QTextBlock& Each, double Scale)
         Block.setLineHeight(LineHeight, QTextBlockFormat::ProportionalHeight);
         Block.setTopMargin(0);
         Block.setBottomMargin(Each.textList() ? ListGap : 7);
+        if (Each.textList())
+            QTextCursor(Each).mergeBlockCharFormat(FontOf(TextFamily, TextSize)); // its digit
         if (Each.textList() && !Each.next().textList()) Block.setBottomMargin(8);
         if (Block.hasProperty(QTextFormat::BlockQuoteLevel)) {
             Block.setBackground(BoxTint);

@@ -7,7 +7,6 @@
 #include "platform/Platform.h"
 #include "screens/ConverterScreen.h"
 #include "shell/Help.h"
-#include "shell/Shell.h"
 #include "tools/Converter.h"
 
 namespace velorix {
@@ -69,7 +68,6 @@ void ConnectConverter()
     frmConverter.sscConvert.Click = ConvertPressed;
     frmConverter.sscExit.Click = frmConverter.Close = CloseConverter;
     HelpOn(frmConverter.sscHelp, 8500);
-    ShowConverter = [] { System().ShowModal(frmConverter); };
 }
 
 } // namespace velorix

@@ -3,7 +3,7 @@
 
 namespace velorix {
 
-// Connects frmConverter, and the command that opens it.
+// Connects frmConverter.
 void ConnectConverter();
 
 } // namespace velorix

@@ -1,4 +1,4 @@
-// The check of the guide's file, and the commands.
+// The check of the guide's file, and its chapters.
 #include "shell/GuideEvents.h"
 
 #include "base/Failure.h"
@@ -7,7 +7,6 @@
 #include "platform/Platform.h"
 #include "screens/Guide.h"
 #include "screens/Results.h"
-#include "shell/Shell.h"
 
 namespace velorix {
 namespace {
@@ -61,7 +60,6 @@ void ConnectGuide()
 {
     frmPDFView.Load = GuideLoads;
     frmPDFView.sscOK.Click = [] { frmPDFView.Unload(); };
-    ShowGuide = [] { ShowGuideAt(""); };
     CommandButton* const Buttons[] = {&frmResults.sscHelp1, &frmResults.sscHelp2, &frmResults.sscHelp3};
     std::size_t Page = 0;
     for (CommandButton* Each : Buttons)

@@ -6,8 +6,8 @@
 
 namespace velorix {
 
-// Connects frmPDFView and the commands that open it. The chapters that the help buttons of the results open
-// bear the captions of its pages.
+// Connects frmPDFView and the help buttons of the results. The chapters that they open bear the captions of
+// its pages.
 void ConnectGuide();
 
 // The guide's place in the program's folder.

@@ -4,6 +4,12 @@
 #include "platform/Platform.h"
 
 namespace velorix {
+namespace {
+
+constexpr const char* HelpToolTip = "Help"; // of every help button that stands for its whole screen
+constexpr int OtherHelp = 5000;             // of a screen without a topic of its own
+
+} // namespace
 
 void ShowHelpTopic(int Topic)
 {
@@ -13,6 +19,16 @@ void ShowHelpTopic(int Topic)
 void HelpOn(CommandButton& Button, int Topic)
 {
     Button.Click = [Topic] { ShowHelpTopic(Topic); };
+}
+
+void ShowHelpOf(const std::vector<Screen*>& Dialogs)
+{
+    for (auto Dialog = Dialogs.rbegin(); Dialog != Dialogs.rend(); ++Dialog)
+        for (const Control* Each : (*Dialog)->Controls)
+            if (const auto* const Button = dynamic_cast<const CommandButton*>(Each);
+                Button && Button->Visible && Button->ToolTip == HelpToolTip)
+                return Button->Click();
+    ShowHelpTopic(OtherHelp);
 }
 
 } // namespace velorix

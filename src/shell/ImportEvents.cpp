@@ -8,7 +8,6 @@
 #include "screens/Lcc.h"
 #include "shell/GridEditor.h"
 #include "shell/Help.h"
-#include "shell/Shell.h"
 #include "tools/ImportAdvice.h"
 #include "tools/ProfileImport.h"
 
@@ -147,7 +146,6 @@ void PreviousPressed()
 
 void ConnectImportWizard()
 {
-    ShowImportWizard = [] { System().ShowModal(frmImport); };
     frmImport.Load = WizardLoads;
     frmImport.Close = frmImport.sscCancel.Click = LeaveWizard;
     frmImport.sscPaste.Click = PastePressed;

@@ -3,7 +3,7 @@
 
 namespace velorix {
 
-// Connects frmImport, and the command that opens it.
+// Connects frmImport.
 void ConnectImportWizard();
 
 } // namespace velorix

@@ -9,14 +9,18 @@
 #include "model/WorkingSet.h"
 #include "platform/Platform.h"
 #include "screens/Analyse.h"
+#include "screens/ConverterScreen.h"
 #include "screens/Dialogs.h"
+#include "screens/ImportWizard.h"
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
+#include "screens/Print.h"
 #include "screens/Results.h"
 #include "screens/Viewers.h"
+#include "shell/GuideEvents.h"
 #include "shell/Help.h"
 #include "shell/Hints.h"
-#include "shell/Shell.h"
+#include "shell/RoughnessEvents.h"
 
 namespace velorix {
 namespace {
@@ -65,21 +69,11 @@ void ConnectMenus()
     MDIProject.mnuPreferences.Click = PreferencesCommand;
     MDIProject.mnuContents.Click = [] { ShowHelpTopic(1000); };
     MDIProject.mnuHelpOn.Click = [] { ShowHelpTopic(1000); };
-    MDIProject.mnuStep.Click = [] { ShowGuide(); };
+    MDIProject.mnuStep.Click = [] { ShowGuideAt(""); };
     MDIProject.mnuConvert.Click = ConvertCommand;
     MDIProject.mnuMethod.Click = [] { ShowHelpTopic(7000); };
     MDIProject.mnuDisclaimer.Click = DisclaimerCommand;
     MDIProject.mnuAbout.Click = AboutCommand;
-}
-
-// A command whose screen isn't part of this program can't be chosen.
-void DisableWhatIsMissing()
-{
-    const std::pair<Control*, const Handler*> Commands[] = {
-        {&MDIProject.mnuPrint, &ShowPrintScreen},   {&MDIProject.sscPrint, &ShowPrintScreen},
-        {&MDIProject.mnuImport, &ShowImportWizard}, {&MDIProject.mnuConvert, &ShowConverter},
-        {&MDIProject.mnuStep, &ShowGuide},          {&MDIProject.mnuRoughness, &ShowRoughness}};
-    for (const auto& [Command, Screen] : Commands) Command->Enabled = static_cast<bool>(*Screen);
 }
 
 } // namespace
@@ -95,7 +89,6 @@ void ConnectMainWindow()
     MDIProject.tmrWelcome.Tick = WelcomeTick;
     MDIProject.tmrCurrency.Tick = RefreshCurrency;
     MDIProject.sspProject.MouseMove = ClearHint;
-    DisableWhatIsMissing();
 }
 
 void MainWindowLoads()
@@ -146,20 +139,20 @@ void PrintCommand()
 {
     LeaveProjectScreens();
     if (RequireProject("First open an existing project or start a new project and then print the data."))
-        ShowPrintScreen();
+        System().ShowModal(frmPrint);
 }
 
 void ImportCommand()
 {
     LeaveProjectScreens();
     if (RequireProject("First open an existing project or start a new project and then import the profile"))
-        ShowImportWizard();
+        System().ShowModal(frmImport);
 }
 
 void ConvertCommand()
 {
     LeaveProjectScreens();
-    ShowConverter();
+    System().ShowModal(frmConverter);
 }
 
 void RoughnessCommand()

@@ -10,7 +10,6 @@
 #include "reports/Sections.h"
 #include "screens/MainWindow.h"
 #include "shell/Help.h"
-#include "shell/Shell.h"
 
 namespace velorix {
 namespace {
@@ -67,7 +66,6 @@ void ConnectPointerOverSelection()
 
 void ConnectPrinting()
 {
-    ShowPrintScreen = [] { System().ShowModal(frmPrint); };
     frmPrint.Load = SelectionLoads;
     frmPrint.Close = SelectionCancelled;
     frmPrint.tmrCheck.Tick = EnableWhatStands;

@@ -3,7 +3,6 @@
 
 namespace velorix {
 
-// Connects them, and lets the print command show frmPrint.
 void ConnectPrinting();
 
 } // namespace velorix

@@ -5,17 +5,9 @@
 #include "screens/RoughnessScreen.h"
 #include "shell/GridEditor.h"
 #include "shell/Help.h"
-#include "shell/Shell.h"
 
 namespace velorix {
 namespace {
-
-void OpenRoughness()
-{
-    if (frmViewRoughness.IsLoaded()) frmViewRoughness.Unload();
-    frmRoughness.LoadHidden();
-    frmRoughness.Visible = true;
-}
 
 void ViewGraph()
 {
@@ -38,9 +30,15 @@ void MoveToScenario()
 
 } // namespace
 
+void ShowRoughness()
+{
+    if (frmViewRoughness.IsLoaded()) frmViewRoughness.Unload();
+    frmRoughness.LoadHidden();
+    frmRoughness.Visible = true;
+}
+
 void ConnectRoughness()
 {
-    ShowRoughness = OpenRoughness;
     frmRoughness.Load = LoadRoughness;
     frmRoughness.Shown = [] { SettleGridEditor(frmRoughness.msgRoughness); };
     frmRoughness.hscScenario.Change = MoveToScenario;

@@ -3,7 +3,10 @@
 
 namespace velorix {
 
-// Connects frmRoughness, and the command that opens it. To be called before ConnectGridEditors.
+// To be called before ConnectGridEditors.
 void ConnectRoughness();
+
+// Shows frmRoughness in place of its plot.
+void ShowRoughness();
 
 } // namespace velorix

@@ -50,12 +50,6 @@ void ConnectAnalyseDialog()
 
 } // namespace
 
-Handler ShowPrintScreen;
-Handler ShowImportWizard;
-Handler ShowConverter;
-Handler ShowGuide;
-Handler ShowRoughness;
-
 void ConnectScreens()
 {
     ConnectHints();

@@ -1,14 +1,20 @@
 // The help: the file that is shipped, and the window that shows it.
+#include "desktop/DialogLayouts.h"
 #include "desktop/HelpWindow.h"
 #include "desktop/MainWindowTest.h"
-#include "screens/Analyse.h"
+#include "screens/ConverterScreen.h"
 #include "screens/Dialogs.h"
+#include "screens/ImportWizard.h"
+#include "screens/Print.h"
 
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRegularExpression>
 #include <QTextBrowser>
+#include <QTextDocument>
+#include <QTextFormat>
+#include <QTimer>
 #include <QToolButton>
 
 #include <set>
@@ -32,9 +38,9 @@ std::set<int> NumbersOf(const std::vector<HelpTopic>& Topics)
 
 class TopicPlatform : public NotingPlatform {
 public:
-    std::set<int> Asked;
+    std::vector<int> Asked;
 
-    void ShowHelp(const std::filesystem::path&, int Topic) override { Asked.insert(Topic); }
+    void ShowHelp(const std::filesystem::path&, int Topic) override { Asked.push_back(Topic); }
 };
 
 class HelpTest : public MainWindowTest {};
@@ -49,10 +55,11 @@ TEST_F(HelpTest, EveryHelpCommandAndEveryLinkFindsItsTopic)
             if (auto* Button = dynamic_cast<CommandButton*>(Command)) Button->Click();
             if (auto* Entry = dynamic_cast<MenuItem*>(Command)) Entry->Click();
         }
-    EXPECT_GE(Topics.Asked.size(), 11U);
+    const std::set<int> Asked(Topics.Asked.begin(), Topics.Asked.end());
+    EXPECT_EQ(Asked.size(), 14U);
     const std::vector<HelpTopic> Shipped = ShippedTopics();
     const std::set<int> Numbers = NumbersOf(Shipped);
-    for (const int Each : Topics.Asked) EXPECT_TRUE(Numbers.count(Each)) << Each;
+    for (const int Each : Asked) EXPECT_TRUE(Numbers.count(Each)) << Each;
 
     static const QRegularExpression Link("\\]\\(#(\\d*)\\)");
     for (const HelpTopic& Each : Shipped)
@@ -60,6 +67,61 @@ TEST_F(HelpTest, EveryHelpCommandAndEveryLinkFindsItsTopic)
             const QString Number = Found.next().captured(1);
             EXPECT_TRUE(Numbers.count(Number.toInt())) << Each.Number << ": " << Number.toStdString();
         }
+}
+
+TEST_F(HelpTest, EveryPictureOfTheTextShows)
+{
+    HelpWindow Window(ShippedTopics(), Main.get());
+    QTextDocument& Text = *Window.findChild<QTextBrowser*>()->document();
+    qsizetype Pictures = 0;
+    for (const HelpTopic& Topic : ShippedTopics()) {
+        Window.ShowTopic(Topic.Number);
+        const qsizetype Told = Topic.Text.count("![");
+        EXPECT_EQ(Text.toRawText().count(QChar::ObjectReplacementCharacter), Told) << Topic.Number;
+        Pictures += Told;
+        for (const QTextFormat& Each : Text.allFormats()) {
+            if (!Each.isImageFormat()) continue;
+            const QUrl Name = Each.toImageFormat().name();
+            EXPECT_GT(Text.resource(QTextDocument::ImageResource, Name).value<QImage>().width(), 0)
+                << Topic.Number << ": " << Name.toString().toStdString();
+        }
+    }
+    EXPECT_EQ(Pictures, 3);
+}
+
+// Those without a help button ask for that of the dialog behind them, else for topic 5000.
+TEST_F(HelpTest, F1AsksForTheHelpOfADialog)
+{
+    TopicPlatform Topics;
+    InstallPlatform(&Topics);
+    RegisterDialogs(Topics);
+    const auto PressF1 = [](Screen& Shown) {
+        QWidget* const Dialog = QApplication::activeModalWidget();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == Dialog; })) << Shown.Name;
+        QTest::keyClick(Dialog->focusWidget() ? Dialog->focusWidget() : Dialog, Qt::Key_F1);
+    };
+    const std::pair<Screen*, int> Cases[] = {{&frmAbout, 5000},  {&frmPref, 4000},      {&frmConverter, 8500},
+                                             {&frmImport, 3030}, {&frmDeleteRow, 3060}, {&frmPrint, 4500}};
+    for (const auto& [Shown, Topic] : Cases) {
+        QTimer::singleShot(0, Main.get(), [&, Front = Shown] {
+            PressF1(*Front);
+            Front->Unload();
+        });
+        Topics.ShowModal(*Shown);
+        EXPECT_EQ(Topics.Asked, std::vector<int>{Topic}) << Shown->Name;
+        Topics.Asked.clear();
+    }
+
+    QTimer::singleShot(0, Main.get(), [&] {
+        QTimer::singleShot(0, Main.get(), [&] {
+            PressF1(frmSelectYear);
+            frmSelectYear.Unload();
+        });
+        Topics.ShowModal(frmSelectYear);
+        frmPrint.Unload();
+    });
+    Topics.ShowModal(frmPrint);
+    EXPECT_EQ(Topics.Asked, std::vector<int>{4500});
 }
 
 class HelpWindowTest : public DesktopTest {
