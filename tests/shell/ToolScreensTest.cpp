@@ -157,6 +157,7 @@ TEST_F(ConverterScreenTest, AResultStandsUntilAnythingIsTouched)
                                              [&] { Type(U"-"); }, // a key that is dropped
                                              [] { frmConverter.comUnit[0].ListIndex = 3; },
                                              [] { frmConverter.comUnit[1].Click(); }, // the same entry
+                                             [] { frmConverter.lstUnit.Click(); },
                                              [] { frmConverter.lstUnit.ListIndex = 5; }};
     Windows.ModalScripts["frmConverter"] = [&] {
         EXPECT_FALSE(frmLCC.Visible);
