@@ -6,6 +6,7 @@
 #include "shell/GridEditor.h"
 #include "shell/Help.h"
 #include "shell/Shell.h"
+#include "shell/ViewerEvents.h"
 
 namespace velorix {
 namespace {
@@ -13,8 +14,12 @@ namespace {
 void OpenRoughness()
 {
     if (frmViewRoughness.IsLoaded()) frmViewRoughness.Unload();
+    const bool OpensAnew = !frmRoughness.IsLoaded();
     frmRoughness.LoadHidden();
     frmRoughness.Visible = true;
+    // The first length is ready to be chosen; until then the cell under the list is empty.
+    ComboBox& Lengths = frmRoughness.comAccLength;
+    if (OpensAnew && !Lengths.List.Get().empty()) Lengths.ListIndex.Restore(0);
 }
 
 void ViewGraph()
@@ -26,8 +31,9 @@ void ViewGraph()
 
 void BackToProfile()
 {
+    TakeChanges();
     frmRoughness.Unload();
-    frmView.Visible = true;
+    ShowProfileAgain();
 }
 
 void MoveToScenario()
