@@ -21,6 +21,13 @@ std::string_view Trimmed(std::string_view Text)
     return TrimmedRight(TrimmedLeft(Text));
 }
 
+std::string_view TrimmedCell(std::string_view Text)
+{
+    constexpr std::string_view Around = " \r\n";
+    Text.remove_prefix(std::min(Text.find_first_not_of(Around), Text.size()));
+    return Text.substr(0, Text.find_last_not_of(Around) + 1);
+}
+
 int CharacterCount(std::string_view Utf8)
 {
     return static_cast<int>(std::count_if(Utf8.begin(), Utf8.end(), StartsCharacter));

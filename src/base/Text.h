@@ -12,6 +12,9 @@ std::string_view Trimmed(std::string_view Text);
 std::string_view TrimmedLeft(std::string_view Text);
 std::string_view TrimmedRight(std::string_view Text);
 
+// Without the blanks and line ends around a number that was copied from the cell of a table.
+std::string_view TrimmedCell(std::string_view Text);
+
 inline std::string Trim(std::string_view Text)
 {
     return std::string(Trimmed(Text));

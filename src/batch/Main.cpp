@@ -209,6 +209,17 @@ CLI::App* AddConvert(CLI::App& Program, Conversion& Asked)
     return Command;
 }
 
+// A value to convert may begin with a minus sign, and is no option then: a mark before it says so.
+std::vector<const char*> WithValueMarked(int ArgumentCount, const char* const* Words)
+{
+    constexpr std::size_t WordsOfConversion = 6;
+    std::vector<const char*> Marked(Words, Words + ArgumentCount);
+    if (Marked.size() != WordsOfConversion || std::string_view(Marked[1]) != "convert") return Marked;
+    const std::string_view Value = Marked.back();
+    if (Value.starts_with('-') && Value != "-h" && Value != "--help") Marked.insert(Marked.end() - 1, "--");
+    return Marked;
+}
+
 RoughnessOptions RoughnessOptionsOf(const Arguments& Given)
 {
     const std::vector<InputFile> Inputs = OpenInputs({Given.Project, Given.ReadingsFile});
@@ -266,7 +277,8 @@ Ending Run(int ArgumentCount, char** Words)
     CLI::App* ConvertUnit = AddConvert(Program, Asked);
 
     try {
-        Program.parse(ArgumentCount, Words);
+        const std::vector<const char*> Marked = WithValueMarked(ArgumentCount, Words);
+        Program.parse(static_cast<int>(Marked.size()), Marked.data());
     } catch (const CLI::ParseError& Problem) {
         std::ostringstream Help;
         std::ostringstream Error;

@@ -110,6 +110,7 @@ QListWidget* OpenView(ComboBox& Record)
     Follow(Record.ListIndex, View, [View](int Index) { View->setCurrentRow(Index); });
     QObject::connect(View, &QListWidget::currentRowChanged, View,
                      [&Record, View](int Index) { Enter(Record.ListIndex, Index, View); });
+    QObject::connect(View, &QListWidget::itemClicked, View, [&Record] { Guarded([&] { Record.Click(); }); });
     Attach(Record, View);
     return View;
 }

@@ -90,6 +90,11 @@ QWidget* InBox(QBoxLayout::Direction Direction, const std::vector<QWidget*>& Wid
     return Box;
 }
 
+QBoxLayout::Direction Across(QBoxLayout::Direction Way)
+{
+    return Way == QBoxLayout::LeftToRight ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight;
+}
+
 // Whether the page of tabs that holds the widget is the one on top.
 bool OnTopPage(const QWidget* Held)
 {
@@ -212,6 +217,13 @@ QWidget* InColumn(const std::vector<QWidget*>& Widgets)
     return InBox(QBoxLayout::TopToBottom, Widgets);
 }
 
+QWidget* Named(const char* Name, QWidget* Field)
+{
+    QLabel* const Caption = Text(Name);
+    TieCaption(Caption, Field);
+    return InRow({Caption, Field});
+}
+
 void WhenShown(QWidget* Watched, std::function<void(bool)> Then)
 {
     Then(!(Watched->isHidden() && Watched->testAttribute(Qt::WA_WState_ExplicitShowHide)));
@@ -287,13 +299,47 @@ void TurningBox::Add(QWidget* Content, int Stretch, Qt::Alignment Place)
     Box->addWidget(Content, Stretch, Place);
 }
 
-void TurningBox::resizeEvent(QResizeEvent* Event)
+int TurningBox::LeastWidth(QBoxLayout::Direction Way) const
 {
-    QWidget::resizeEvent(Event);
-    if (RowFromDigits == 0) return;
-    const bool Wide = width() >= RowFromDigits * fontMetrics().horizontalAdvance('0');
-    Box->setDirection(Wide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    if (Inner) Inner->Box->setDirection(Wide ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    const bool IsRow = Way == QBoxLayout::LeftToRight;
+    int Width = 0;
+    bool First = true;
+    for (int Index = 0; Index < Box->count(); ++Index) {
+        const QLayoutItem* const Item = Box->itemAt(Index);
+        if (Item->isEmpty()) continue;
+        const int Own =
+            Inner && Item->widget() == Inner ? Inner->LeastWidth(Across(Way)) : Item->minimumSize().width();
+        const int Space = First ? 0 : Gap;
+        Width = IsRow ? Width + Space + Own : std::max(Width, Own);
+        First = false;
+    }
+    return Width;
+}
+
+QSize TurningBox::minimumSizeHint() const
+{
+    const QSize Least = QWidget::minimumSizeHint();
+    return RowFromDigits == 0 ? Least : QSize(LeastWidth(QBoxLayout::TopToBottom), Least.height());
+}
+
+void TurningBox::Turn()
+{
+    const int Told = RowFromDigits * fontMetrics().horizontalAdvance('0');
+    const bool Wide = width() >= std::max(Told, LeastWidth(QBoxLayout::LeftToRight));
+    const QBoxLayout::Direction Way = Wide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
+    if (Way == Box->direction()) return;
+    Box->setDirection(Way);
+    if (Inner) Inner->Box->setDirection(Across(Way));
+    Box->update(); // the page has another height to reckon with
+}
+
+// The content may come to need more room while the box keeps its size.
+bool TurningBox::event(QEvent* Event)
+{
+    const bool Taken = QWidget::event(Event);
+    const bool Weighed = Event->type() == QEvent::Resize || Event->type() == QEvent::LayoutRequest;
+    if (Weighed && RowFromDigits > 0) Turn();
+    return Taken;
 }
 
 } // namespace velorix

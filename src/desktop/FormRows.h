@@ -78,6 +78,9 @@ Widget* WithRole(Widget* Marked, const char* Role)
 QWidget* InRow(const std::vector<QWidget*>& Widgets);
 QWidget* InColumn(const std::vector<QWidget*>& Widgets);
 
+// A field behind its caption.
+QWidget* Named(const char* Name, QWidget* Field);
+
 // Tells whenever the widget is shown or hidden within its parent, and at once how it stands now.
 void WhenShown(QWidget* Watched, std::function<void(bool)> Then);
 
@@ -93,8 +96,8 @@ QWidget* Readable(QWidget* Content);
 // A page of a screen. A display that is smaller than the content scrolls.
 QScrollArea* Page(QWidget* Content);
 
-// Widgets in a row from the given width on and in a column below it. A box inside it turns the other way
-// round.
+// Widgets in a row from the given width on, if they find room there, and in a column below it, which is the
+// room that they need at least. A box inside it turns the other way round.
 class TurningBox : public QWidget {
 public:
     explicit TurningBox(int RowFromDigits);
@@ -104,10 +107,15 @@ public:
 
     void Add(QWidget* Content, int Stretch = 0, Qt::Alignment Place = {});
 
+    QSize minimumSizeHint() const override;
+
 protected:
-    void resizeEvent(QResizeEvent* Event) override;
+    bool event(QEvent* Event) override;
 
 private:
+    int LeastWidth(QBoxLayout::Direction Way) const; // if the content stood that way
+    void Turn();
+
     QBoxLayout* Box;
     int RowFromDigits = 0; // 0 in an inner box, which follows the outer one
     TurningBox* Inner = nullptr;

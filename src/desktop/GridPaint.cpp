@@ -30,8 +30,8 @@ void DrawCell(QPainter& Painter, const QRect& Place, const QColor& Back, int Fla
                          : Painter.fontMetrics().elidedText(Text, Qt::ElideRight, Room.width()));
 }
 
-// Numbers at the right, texts at the left. What a cell that can be edited won't be read as, with commas or
-// blanks in it, is a text.
+// Numbers at the right, texts at the left, unless all are centred. What a cell that can be edited won't be
+// read as, with commas or blanks in it, is a text.
 int AlignmentOf(const QString& Text, bool Editable)
 {
     return (IsNumberText(Text, !Editable) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
@@ -61,6 +61,7 @@ protected:
             Whole.setLeft(sectionViewportPosition(Span.left() - Model.HeadCols()));
             Whole.setWidth(sectionViewportPosition(Last) + sectionSize(Last) - Whole.left());
         }
+        Painter->setFont(HeadingFont(font()));
         Painter->setPen(palette().color(QPalette::ButtonText));
         DrawCell(*Painter, Whole, palette().color(QPalette::Button),
                  orientation() == Qt::Horizontal ? Centred : AlignmentOf(Text, true), Text);
@@ -87,12 +88,27 @@ public:
     {
         const QString Text = Index.data().toString();
         const int Room = Option.rect.width() - 2 * CellPadding;
-        const bool Fits = View.fontMetrics().horizontalAdvance(Text) <= Room;
+        const bool Fits = QFontMetrics(FontOf(Index)).horizontalAdvance(Text) <= Room;
         QToolTip::showText(Help->globalPos(), Fits ? View.toolTip() : Text, Asked->viewport());
         return true;
     }
 
 private:
+    bool OnButton(const QModelIndex& Index) const
+    {
+        const GridModel& Model = View.Cells();
+        return View.Table().IsHeadingRow(Model.RowOf(Index)) || !Model.IsData(Index);
+    }
+    QFont FontOf(const QModelIndex& Index) const
+    {
+        return OnButton(Index) ? HeadingFont(View.font()) : View.font();
+    }
+    int AlignmentIn(const QModelIndex& Index, const QString& Text) const
+    {
+        if (View.Table().IsHeadingRow(View.Cells().RowOf(Index))) return Centred;
+        return View.Table().Centred ? int(Qt::AlignCenter) : AlignmentOf(Text, View.EditorView());
+    }
+
     GridView& View;
 };
 
@@ -104,27 +120,24 @@ void Cells::paint(QPainter* Painter, const QStyleOptionViewItem& Option, const Q
     const int Row = Model.RowOf(Index);
     const int Col = Model.ColOf(Index);
     const QPalette& Palette = View.palette();
-    const bool Heading = View.Table().IsHeadingRow(Row);
     const bool Current = Option.rect == View.visualRect(View.currentIndex());
     // A merged cell is painted as its first one, but the current one of them tells the colour.
     const GridCell* const Chosen = Current ? Model.CellOf(View.currentIndex()) : Cell;
     const Color Back = (Chosen ? Chosen : Cell)->BackColor;
     const bool Told = !IsPaletteColor(Back) && View.isEnabled();
-    const bool Fixed = !Model.IsData(Index);
-    const bool OnButton = Heading || Fixed;
+    const bool Raised = OnButton(Index);
 
     Painter->save();
-    Painter->setFont(Heading ? HeadingFont(View.font()) : View.font());
-    Painter->setPen(Told ? QColor(Qt::black)
-                         : Palette.color(OnButton ? QPalette::ButtonText : QPalette::Text));
+    Painter->setFont(FontOf(Index));
+    Painter->setPen(Told ? QColor(Qt::black) : Palette.color(Raised ? QPalette::ButtonText : QPalette::Text));
     const QString Text = Index.data().toString();
     const int Lines = Model.Span(Row, Col).height() > 1 ? Qt::TextWordWrap : 0;
     DrawCell(*Painter, Option.rect,
-             Told ? ToQColor(Back) : Palette.color(OnButton ? QPalette::Button : QPalette::Base),
-             Heading ? Centred : AlignmentOf(Text, View.EditorView()) | Lines, Text);
+             Told ? ToQColor(Back) : Palette.color(Raised ? QPalette::Button : QPalette::Base),
+             AlignmentIn(Index, Text) | Lines, Text);
 
     const QRect Inside = Option.rect.adjusted(0, 0, -1, -1);
-    if (View.isEnabled() && !Fixed && !Current && View.Table().Selected().Holds(Row, Col)) {
+    if (View.isEnabled() && Model.IsData(Index) && !Current && View.Table().Selected().Holds(Row, Col)) {
         constexpr int Veil = 70; // of 255
         QColor Tint = Palette.color(QPalette::Highlight);
         Tint.setAlpha(Veil);
@@ -147,6 +160,7 @@ QFont HeadingFont(const QFont& Font)
 void DrawHeading(QWidget& Place, const QString& Text)
 {
     QPainter Painter(&Place);
+    Painter.setFont(HeadingFont(Place.font()));
     Painter.setPen(Place.palette().color(QPalette::ButtonText));
     DrawCell(Painter, Place.rect(), Place.palette().color(QPalette::Button), Centred, Text);
 }

@@ -138,8 +138,9 @@ void GridView::Measure()
         const bool ByCells = !Editor || Col < Record.FixedCols;
         for (int Row = Model.HeadRows(); ByCells && Row < Record.Rows(); ++Row)
             if (Model.Span(Row, Col).size() == QSize(1, 1))
-                Needed = std::max(Needed,
-                                  Letters.horizontalAdvance(QString::fromStdString(Record.Text(Row, Col))));
+                Needed =
+                    std::max(Needed, // which may be rounded down
+                             Letters.horizontalAdvance(QString::fromStdString(Record.Text(Row, Col))) + 1);
         LeastWidths.push_back(std::max(Pixels(Record.ColWidth.at(static_cast<std::size_t>(Col))),
                                        Needed + 2 * CellPadding + 1));
     }

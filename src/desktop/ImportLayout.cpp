@@ -127,7 +127,11 @@ QWidget* Reviewing()
     QGroupBox* const Box = Step(frmImport.fraStep3, ReviewWidth);
     FormRows Rows(Box);
     Rows.AddWide(Wrapped(frmImport.lblReview));
-    Rows.AddWide(View(frmImport.msgFImport), 1);
+    QLabel* const Heading = WithRole(View(frmImport.lblProfileData), "heading");
+    QWidget* const Table = View(frmImport.msgFImport);
+    TieCaption(Heading, Table);
+    Rows.AddWide(Heading);
+    Rows.AddWide(Table, 1);
     QLabel* const Advice = KeepsRoom(Wrapped(frmImport.lblAdvice));
     Advice->setMinimumHeight(AdviceLines * Advice->fontMetrics().lineSpacing());
     auto* const Sign = new PictureView("message-exclamation", SignWidth, QString());

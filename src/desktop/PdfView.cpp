@@ -10,9 +10,9 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPdfPageNavigator>
+#include <QPdfPageRenderer>
 #include <QScreen>
 #include <QScrollBar>
-#include <QScroller>
 #include <QShortcut>
 #include <QSpinBox>
 #include <QTimer>
@@ -54,10 +54,11 @@ PdfPages::PdfPages(QPdfDocument& Shown)
     NameField(this, "Pages");
 }
 
-// The toolkit keeps the scroller that it has made.
+// The toolkit forgets to end the thread that draws.
 PdfPages::~PdfPages()
 {
-    QScroller::ungrabGesture(this);
+    for (QPdfPageRenderer* Each : findChildren<QPdfPageRenderer*>())
+        Each->setRenderMode(QPdfPageRenderer::RenderMode::SingleThreaded);
 }
 
 void PdfPages::GoTo(int Page)

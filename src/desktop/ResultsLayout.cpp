@@ -92,13 +92,6 @@ QWidget* YearOfPlot()
     return InColumn({InRow({Text("Year"), View(frmResults.lblYear), nullptr}), Year});
 }
 
-QWidget* Choice(const char* Name, QComboBox* List)
-{
-    QLabel* const Caption = Text(Name);
-    TieCaption(Caption, List);
-    return InRow({Caption, List});
-}
-
 QWidget* Components()
 {
     QGroupBox* const Box = View(frmResults.fraComponents);
@@ -142,8 +135,8 @@ QWidget* HydraulicPage()
              {LineKey({{GroundInk, "Pipeline"}, {GradelineInk, "Hydraulic gradeline"}}),
               InRow({nullptr, ReadOut("Distance", frmResults.lblX), ReadOut("Level", frmResults.lblY)})})},
         View(frmResults.picHydraulic),
-        {YearOfPlot(), View(frmResults.sscChangeView), Choice("From", View(frmResults.comBegin)),
-         Choice("To", View(frmResults.comEnd)), View(frmResults.sscView), View(frmResults.sscComponents),
+        {YearOfPlot(), View(frmResults.sscChangeView), Named("From", View(frmResults.comBegin)),
+         Named("To", View(frmResults.comEnd)), View(frmResults.sscView), View(frmResults.sscComponents),
          Components(), InRow({View(frmResults.sscViewHydraulicTable), View(frmResults.sscDutypoint)}),
          nullptr, InRow({View(frmResults.sscPrintView), ToolView(frmResults.sscHelp1, "help"), nullptr})});
     QWidget* const Table = TablePane(frmResults.fraTable, {View(frmResults.lblYear1)},

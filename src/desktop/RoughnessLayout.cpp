@@ -21,13 +21,6 @@
 namespace velorix {
 namespace {
 
-QWidget* Named(const char* Name, QWidget* Field)
-{
-    QLabel* const Caption = Text(Name);
-    TieCaption(Caption, Field);
-    return InRow({Caption, Field});
-}
-
 QWidget* ScenarioBar()
 {
     constexpr int BarWidth = 260;

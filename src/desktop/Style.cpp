@@ -101,6 +101,7 @@ QGroupBox[role="bar"] {
 QGroupBox[role="bar"]::title { width: 0; height: 0; color: transparent; }
 QFrame[role="card"] { background: @card; border: 1px solid @border; border-radius: 6px; }
 QLabel[role="screen"] { font-size: @title; font-weight: bold; }
+QLabel[role="heading"] { font-weight: bold; }
 QLabel[role="muted"] { color: @muted; }
 QLabel[role="figure"] { font-size: @figure; font-weight: bold; color: @accent; }
 QTabWidget::pane { border: none; border-top: 1px solid @border; }

@@ -49,13 +49,6 @@ QWidget* Viewer(const Screen& Record, const Pointed& ReadOuts, const std::vector
     return Page(Column);
 }
 
-QWidget* Named(const char* Name, QWidget* Field)
-{
-    QLabel* const Caption = Text(Name);
-    TieCaption(Caption, Field);
-    return InRow({Caption, Field});
-}
-
 QWidget* Range(ProfileViewer& Record)
 {
     QWidget* const Year = View(Record.hscYears);

@@ -37,9 +37,8 @@ bool Passes(const KeyFilter& Filter, int Key)
 
 void TellOfInserted(const KeyFilter& Filter, const std::string& Text)
 {
-    // The bytes of a foreign character are no digits either; a line end behind the text comes from a table.
-    const std::string_view Line =
-        Trimmed(std::string_view(Text).substr(0, Text.find_last_not_of("\r\n") + 1));
+    // The bytes of a foreign character are no digits either.
+    const std::string_view Line = TrimmedCell(Text);
     const auto Taken = [&Filter](char Each) { return Filter.Takes(static_cast<unsigned char>(Each)); };
     if (!std::all_of(Line.begin(), Line.end(), Taken)) MDIProject.StatusText.Caption = Filter.Sentence;
 }

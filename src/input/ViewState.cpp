@@ -34,9 +34,10 @@ void RestoreScreens()
 
 void CloseViewers()
 {
-    for (Screen* Viewer : std::initializer_list<Screen*>{&frmView, &frmPumpView, &frmIRRView, &frmRoughness,
-                                                         &frmViewRoughness})
+    for (Screen* Viewer :
+         std::initializer_list<Screen*>{&frmView, &frmPumpView, &frmIRRView, &frmViewRoughness})
         if (Viewer->IsLoaded()) Viewer->Unload();
+    frmRoughness.Visible = false; // with all that was typed into it
     MDIProject.mnuRoughness.Visible = false;
 }
 

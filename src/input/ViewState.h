@@ -13,7 +13,7 @@ void RestoreScreens();
 // A command takes the screens of the open project out of the way: input screen, viewers, results screen.
 void LeaveProjectScreens();
 
-// Unloads the viewers that stand in the main window, and the roughness screen that is reached from one.
+// Unloads the viewers that stand in the main window, and hides the roughness screen that is reached from one.
 void CloseViewers();
 
 // Tells in the empty workspace how to go on, with a project that is hidden or with none.

@@ -14,8 +14,8 @@ Grid::Grid(int DesignRows, int DesignCols, std::string Hint)
     , ColCount(DesignCols)
 {
     SetRows(DesignRows);
-    Keep(ColWidth, HeaderHeight, DataRowHeight, FixedRows, FixedCols, HeadingRows, MergeEqualCells, MergeCols,
-         Cells, ColCount, CurrentRow, CurrentCol, ExtentRow, ExtentCol);
+    Keep(ColWidth, HeaderHeight, DataRowHeight, FixedRows, FixedCols, HeadingRows, Centred, MergeEqualCells,
+         MergeCols, Cells, ColCount, CurrentRow, CurrentCol, ExtentRow, ExtentCol);
     DesignIsBack = [this] {
         History.clear();
         ShapeView();

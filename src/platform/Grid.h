@@ -58,6 +58,7 @@ struct Grid : Control {
     int FixedRows = 1;
     int FixedCols = 0;
     std::vector<int> HeadingRows; // rows below the fixed ones that hold headings and can't be edited
+    bool Centred = false;         // the texts of the cells, instead of numbers at the right
     bool MergeEqualCells = false; // neighbouring equal cells of a row show as one
     std::vector<int> MergeCols;   // columns in which those of neighbouring rows do so too
 

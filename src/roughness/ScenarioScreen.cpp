@@ -5,10 +5,13 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "input/GridReading.h"
-#include "results/PlotState.h"
 #include "roughness/ResultRows.h"
 #include "roughness/RoughnessCalculation.h"
 #include "screens/RoughnessScreen.h"
+
+#include <algorithm>
+#include <array>
+#include <functional>
 
 namespace velorix {
 namespace {
@@ -21,33 +24,60 @@ int RowOf(int Value)
     return Value + 1;
 }
 
-// All that can be entered for a scenario.
-std::vector<std::string> Entries()
+// All that can be entered for a scenario: the flow, the two units, the cells.
+constexpr std::size_t EntryCount = ThePressureUnit + 1 + ReadingsOfPoint * MaxPoints;
+using EntryTexts = std::array<std::string, EntryCount>;
+
+EntryTexts Entries()
 {
-    std::vector<std::string> Texts = {frmRoughness.txtFlowrate.Text, frmRoughness.comFlowrateUnits.Text(),
-                                      frmRoughness.comPressureUnits.Text()};
-    for (int Row = 1; Row < Measured.Rows(); ++Row)
-        for (int Col = 1; Col < Measured.Cols(); ++Col) Texts.push_back(Measured.Text(Row, Col));
+    EntryTexts Texts = {frmRoughness.txtFlowrate.Text, frmRoughness.comFlowrateUnits.Text(),
+                        frmRoughness.comPressureUnits.Text()};
+    std::size_t Next = ThePressureUnit + 1;
+    for (int Value = 0; Value < ReadingsOfPoint; ++Value)
+        for (int Point = 1; Point <= MaxPoints; ++Point) Texts[Next++] = Measured.Text(RowOf(Value), Point);
     return Texts;
 }
 
 // As they stood when the screen was filled, or taken over, last.
-std::vector<std::string> EntriesBefore;
+EntryTexts EntriesBefore;
 
-// A cell or a flow without a number counts as 0, one that is too large is left out.
-void TakeScreen()
+bool HoldsNothing(int Scenario)
 {
-    ScenarioFlows& Stored = ScenarioFlow[CurrentScenario];
+    const auto IsZero = [](const auto& Values) {
+        return std::all_of(Values.begin(), Values.end(), [](const Single& Each) { return Each == 0; });
+    };
+    const ScenarioReadings& Read = Readings[Scenario];
+    return IsZero(ScenarioFlow[Scenario]) && std::all_of(Read.begin(), Read.end(), IsZero);
+}
+
+void TakeFlow(Single& Stored)
+{
     try {
-        Stored[TheFlow] = LeadingNumber(frmRoughness.txtFlowrate.Text.Get());
+        Stored = LeadingNumber(frmRoughness.txtFlowrate.Text.Get());
     } catch (const Failure&) {
         ClearArithmeticFlags(); // the flow keeps what it held, and the rest is taken
     }
-    Stored[TheFlowUnit] = frmRoughness.comFlowrateUnits.ListIndex.Get();
-    Stored[ThePressureUnit] = frmRoughness.comPressureUnits.ListIndex.Get();
+}
+
+// A cell or a flow without a number counts as 0, one that is too large is left out. A number that is taken
+// takes the unit with it in which it was read on the screen.
+void TakeScreen(const std::function<bool(std::size_t Entry)>& IsTaken)
+{
+    ScenarioFlows& Stored = ScenarioFlow[CurrentScenario];
+    bool TakesPressure = false;
+    std::size_t Next = ThePressureUnit + 1;
     for (int Value = 0; Value < ReadingsOfPoint; ++Value)
-        for (int Point = 1; Point <= MaxPoints; ++Point)
+        for (int Point = 1; Point <= MaxPoints; ++Point) {
+            if (!IsTaken(Next++)) continue;
             ReadCell(Measured, RowOf(Value), Point, Readings[CurrentScenario][Value][Point]);
+            TakesPressure = TakesPressure || Value == AtPressure;
+        }
+    const bool TakesFlow = IsTaken(TheFlow);
+    if (TakesFlow) TakeFlow(Stored[TheFlow]);
+    if (TakesFlow || IsTaken(TheFlowUnit))
+        Stored[TheFlowUnit] = frmRoughness.comFlowrateUnits.ListIndex.Get();
+    if (TakesPressure || IsTaken(ThePressureUnit))
+        Stored[ThePressureUnit] = frmRoughness.comPressureUnits.ListIndex.Get();
     EntriesBefore = Entries();
 }
 
@@ -79,14 +109,21 @@ void ForEachResultRow(ShowRow Show)
 
 void LoadRoughness()
 {
-    frmRoughness.comAccLength.List = DistanceEntries();
-    frmRoughness.comAccLength.ListIndex.Restore(0); // chosen by nobody, so no cell takes it
     EntriesBefore = Entries();
+}
+
+void TakeChanges()
+{
+    const EntryTexts Now = Entries();
+    if (Now == EntriesBefore) return;
+    // The screen may stand empty before a scenario that holds something.
+    const bool All = HoldsNothing(CurrentScenario);
+    TakeScreen([&](std::size_t Entry) { return All || Now.at(Entry) != EntriesBefore.at(Entry); });
 }
 
 void ScenarioChanged()
 {
-    if (Entries() != EntriesBefore) TakeScreen();
+    TakeChanges();
     const int Scenario = frmRoughness.hscScenario.Value;
     ShowCaptions(std::to_string(Scenario));
     CurrentScenario = static_cast<std::int16_t>(Scenario);
@@ -108,7 +145,7 @@ void RefreshScenario()
 
 void CalculatePressed()
 {
-    TakeScreen();
+    TakeScreen([](std::size_t) { return true; });
     CalculateRoughness();
     ForEachResultRow([](int Row, const RoughnessRow& Results) {
         Grid& Table = frmRoughness.msgRoughnessResults;

@@ -6,8 +6,11 @@ namespace velorix {
 // The screen opens on scenario 1, empty whatever the stores hold: it is filled by a move to another scenario.
 void LoadRoughness();
 
-// The bar has moved. What was changed on the screen since it was filled is taken into the stores of the
-// scenario that it leaves.
+// What was changed on the screen since it was filled goes into the stores of CurrentScenario; all that stands
+// there when they hold nothing yet.
+void TakeChanges();
+
+// The bar has moved. The scenario that it leaves keeps the changes.
 void ScenarioChanged();
 
 // Fills the screen from the stores of CurrentScenario, and empties the results.

@@ -27,6 +27,7 @@ ImportScreen::ImportScreen()
     }
 
     msgFImport.FixedCols = 1;
+    msgFImport.Centred = true;
     msgFImport.HeaderHeight = 500;
     msgFImport.ColWidth = {800, 1400, 1400, 1200, 1200, 1200, 1200, 1200};
     for (Control* Each :

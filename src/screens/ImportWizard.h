@@ -31,6 +31,7 @@ struct ImportScreen : Screen {
     Label lblReview{
         "The final step shows your imported data and if satisfied, the data will be imported into "
         "the existing project. (Click on Finish)"};
+    Label lblProfileData{"Profile data to be imported"};
     Grid msgFImport{2, 8, "Profile data to be imported"};
     Label lblAdvice; // what to change in the spreadsheet
 

@@ -57,7 +57,7 @@ void CloseConverter()
 void ConnectConverter()
 {
     frmConverter.Load = LoadConverter;
-    frmConverter.lstUnit.Change = FillUnits;
+    frmConverter.lstUnit.Change = frmConverter.lstUnit.Click = FillUnits;
     for (ComboBox& Each : frmConverter.comUnit) Each.Change = Each.Click = DropResult;
     FilterKeys(frmConverter.txtConvert, NumberKeys);
     frmConverter.txtConvert.KeyPress = [Filter = frmConverter.txtConvert.KeyPress](int& Key) {

@@ -386,7 +386,7 @@ void ConnectGridEditor(const CellEditing& Editing)
     Editing.Editor.Inserted = [&Editing, &Table](const std::string& Text) {
         if (Contains(Editing.FilteredInEditor, Table.Col())) TellOfInserted(CellNumberKeys, Text);
     };
-    if (Editing.List) Editing.List->Change = [&Editing] { EntryChosen(Editing); };
+    if (Editing.List) Editing.List->Change = Editing.List->Click = [&Editing] { EntryChosen(Editing); };
 }
 
 void ConnectGridEditors()

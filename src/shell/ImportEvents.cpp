@@ -50,11 +50,14 @@ void PastePressed()
 {
     PasteFrame = 1;
     frmImport.tmrPaste.Enabled = true;
-    frmImport.lblPaste.Visible = TakeClipText(System().ClipboardText());
-    if (frmImport.lblPaste.Visible) return System().SetFocus(frmImport.sscNext);
+    if (TakeClipText(System().ClipboardText())) {
+        frmImport.lblPaste.Visible = true;
+        return System().SetFocus(frmImport.sscNext);
+    }
     System().Show({.Text = "There was nothing on the clipboard to paste",
                    .Title = "Velorix: Error",
                    .Icon = MessageIcon::Question});
+    frmImport.lblPaste.Visible = false;
 }
 
 ParseOutcome Parse()

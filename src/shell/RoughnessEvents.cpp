@@ -5,6 +5,7 @@
 #include "screens/RoughnessScreen.h"
 #include "shell/GridEditor.h"
 #include "shell/Help.h"
+#include "shell/ViewerEvents.h"
 
 namespace velorix {
 namespace {
@@ -18,8 +19,9 @@ void ViewGraph()
 
 void BackToProfile()
 {
+    TakeChanges();
     frmRoughness.Unload();
-    frmView.Visible = true;
+    ShowProfileAgain();
 }
 
 void MoveToScenario()
@@ -33,8 +35,12 @@ void MoveToScenario()
 void ShowRoughness()
 {
     if (frmViewRoughness.IsLoaded()) frmViewRoughness.Unload();
+    const bool OpensAnew = !frmRoughness.IsLoaded();
     frmRoughness.LoadHidden();
     frmRoughness.Visible = true;
+    // The first length is ready to be chosen; until then the cell under the list is empty.
+    ComboBox& Lengths = frmRoughness.comAccLength;
+    if (OpensAnew && !Lengths.List.Get().empty()) Lengths.ListIndex.Restore(0);
 }
 
 void ConnectRoughness()

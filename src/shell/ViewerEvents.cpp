@@ -38,15 +38,23 @@ void ConnectProfileViewer(ProfileViewer& Viewer, void (*Draw)(), void (*ReadOut)
     ConnectPointer(Viewer);
 }
 
+// The year and the gradeline's tick are those that all profile plots share.
+void ShowPlotState(ProfileViewer& Viewer)
+{
+    Viewer.hscYears.Max = wLife;
+    Viewer.hscYears.Value.Restore(PlotYear);
+    Viewer.lblYear.Caption = std::to_string(wSupplyStart + PlotYear - 1);
+    Viewer.chkHydraulic.Value.Restore(HideGradeline == 0);
+}
+
 // The viewer as it opens: the whole profile, the first year.
 void LoadProfileView()
 {
     frmView.LoadHidden();
     TakeProfileForPlot();
     FillDistances(frmView.comBegin, frmView.comEnd);
-    frmView.hscYears.Max = wLife;
-    frmView.lblYear.Caption = std::to_string(wSupplyStart);
     HideGradeline = 0;
+    ShowPlotState(frmView);
     frmResults.chkGradeline.Value.Restore(true);
 }
 
@@ -62,10 +70,7 @@ void LoadRoughnessView()
 {
     TakeProfileForPlot();
     FillDistances(frmViewRoughness.comBegin, frmViewRoughness.comEnd);
-    frmViewRoughness.hscYears.Max = wLife;
-    frmViewRoughness.hscYears.Value.Restore(PlotYear);
-    frmViewRoughness.lblYear.Caption = std::to_string(wSupplyStart + PlotYear - 1);
-    frmViewRoughness.chkHydraulic.Value.Restore(HideGradeline == 0);
+    ShowPlotState(frmViewRoughness);
     DrawRoughnessProfilePlot();
 }
 
@@ -93,6 +98,14 @@ void ViewProfile()
     DrawProfilePlot();
     MDIProject.mnuRoughness.Visible = true;
     frmLCC.Visible = false;
+    frmView.Visible = true;
+}
+
+void ShowProfileAgain()
+{
+    const bool TickFollows = frmView.chkHydraulic.Value != (HideGradeline == 0);
+    ShowPlotState(frmView);
+    if (TickFollows || ProfileYearDrawn != PlotYear) DrawProfilePlot();
     frmView.Visible = true;
 }
 

@@ -10,6 +10,9 @@ void ConnectViewers();
 // point, the input screen stays.
 void ViewProfile();
 
+// Brings the loaded profile view back, with the year and the gradeline that the plots show by now.
+void ShowProfileAgain();
+
 // Takes the pump curve from its boxes and shows it, once they are complete.
 void ViewPumpCurve();
 

@@ -64,7 +64,7 @@ std::string ConvertUnits(std::string_view Group, std::string_view Source, std::s
     const ConverterGroup* const Found = GroupNamed(Group);
     const double SourceFactor = FactorOf(Found, Source, &ConverterUnit::Factor);
     const double TargetFactor = FactorOf(Found, Target, &ConverterUnit::TargetFactor);
-    const double InBaseUnits = Finite(ParseDouble(Value) * SourceFactor);
+    const double InBaseUnits = Finite(ParseDouble(TrimmedCell(Value)) * SourceFactor);
     return GeneralText(Finite(InBaseUnits / TargetFactor));
 }
 

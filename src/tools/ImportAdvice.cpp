@@ -35,6 +35,14 @@ bool IsEmpty(int Row)
     return true;
 }
 
+// The last row that holds anything; 0 when none does.
+int LastFilledRow()
+{
+    int Last = ImportRows;
+    while (Last > 0 && IsEmpty(Last)) --Last;
+    return Last;
+}
+
 struct CellPlace {
     int Row;
     int Col;
@@ -48,26 +56,74 @@ std::optional<CellPlace> FirstWithoutNumber()
     return std::nullopt;
 }
 
-// Not one number in it.
-bool IsHeading(int Row)
+bool IsDigit(char Byte)
+{
+    return Byte >= '0' && Byte <= '9';
+}
+
+// Of the code page, letters with accents among them.
+bool IsLetter(char Byte)
+{
+    const auto Code = static_cast<unsigned char>(Byte);
+    const auto Capital = static_cast<unsigned char>(Code & ~0x20U);
+    return (Capital >= 'A' && Capital <= 'Z') || (Code >= 0xC0 && Capital != 0xD7);
+}
+
+// What spreadsheets show where a formula fails: #N/A, #DIV/0!, Err:502.
+bool IsErrorMark(const std::string& Bytes)
+{
+    return Bytes.starts_with("Err:") || (Bytes.size() > 1 && Bytes[0] == '#' && IsLetter(Bytes[1]));
+}
+
+// As over a column: a letter comes before any digit, or nothing but signs of a foreign alphabet.
+bool IsWords(const std::string& Bytes)
+{
+    if (IsErrorMark(Bytes)) return false;
+    const auto First =
+        std::find_if(Bytes.begin(), Bytes.end(), [](char Each) { return IsDigit(Each) || IsLetter(Each); });
+    return First != Bytes.end() ? IsLetter(*First) : Bytes.find("??") != std::string::npos;
+}
+
+bool HoldsNumbers(int Row)
 {
     for (int Col = 1; Col <= ImportColumnCount; ++Col)
-        if (!ImportedText(Row, Col).empty() && Converts(Row, Col)) return false;
-    return true;
+        if (!Converts(Row, Col)) return false;
+    return !IsEmpty(Row);
+}
+
+// Who takes a node for a heading loses it: a row is one when it holds words only, and with digits in them
+// only when a row of numbers follows.
+bool IsHeading(int Row)
+{
+    bool Digits = false;
+    for (int Col = 1; Col <= ImportColumnCount; ++Col) {
+        const std::string Bytes = ToCodePage(ImportedText(Row, Col));
+        if (Bytes.empty()) continue;
+        if (!IsWords(Bytes)) return false;
+        Digits = Digits || std::any_of(Bytes.begin(), Bytes.end(), IsDigit);
+    }
+    for (int Other = Row + 1; Digits && Other <= ImportRows; ++Other)
+        if (HoldsNumbers(Other)) return true;
+    return !Digits;
 }
 
 // Without what stands between the digits of a number written in groups; a sign that the code page doesn't
 // know, as a narrow blank, has become "?".
-std::string WithoutGroups(const std::string& Text)
+std::string WithoutGroups(std::string Bytes)
 {
-    std::string Bytes = ToCodePage(Text);
     constexpr std::string_view Separators = " \xA0'\x92?";
-    const auto IsDigit = [](char Each) { return Each >= '0' && Each <= '9'; };
     for (std::size_t At = Bytes.size(); At-- > 1;)
         if (Separators.find(Bytes[At]) != std::string_view::npos && At + 1 < Bytes.size() &&
             IsDigit(Bytes[At - 1]) && IsDigit(Bytes[At + 1]))
             Bytes.erase(At, 1);
-    return FromCodePage(Bytes);
+    return Bytes;
+}
+
+// A typographic minus or dash, or the mark of the byte order that some programs put first.
+bool BeginsWithForeignSign(const std::string& Bytes)
+{
+    constexpr std::string_view Signs = "?\x96\x97";
+    return Signs.find(Bytes.front()) != std::string_view::npos && IsNumber(WithoutGroups(Bytes.substr(1)));
 }
 
 // What keeps the cell from being a number, and what to do in the spreadsheet.
@@ -77,7 +133,10 @@ std::string Remedy(const std::string& Text)
         return "has quotation marks. Take line breaks and quotation marks out of the cells";
     if (Text.find(',') != std::string::npos)
         return "has a comma. Show the numbers with a decimal point and without thousands separators";
-    if (IsNumber(WithoutGroups(Text)))
+    const std::string Bytes = ToCodePage(Text);
+    if (BeginsWithForeignSign(Bytes))
+        return "begins with a sign that is no plain minus. Replace it, or leave it out";
+    if (IsNumber(WithoutGroups(Bytes)))
         return "has a sign between its digits. Show the numbers without thousands separators";
     return "is no number. Copy cells with plain numbers only";
 }
@@ -140,8 +199,7 @@ std::optional<CellPlace> FirstCut()
 // The row that ends the profile with rows of data behind it. Each number converts.
 std::optional<int> RowThatEndsProfile()
 {
-    int Last = ImportRows;
-    while (Last > 0 && IsEmpty(Last)) --Last;
+    const int Last = LastFilledRow();
     for (int Row = 1; Row <= Last; ++Row)
         if (ImportedNumber(Row, 1) == 0 && ImportedNumber(Row, 2) == 0)
             return Last > std::max(Row - 1, LeastNodes) ? std::optional(Row) : std::nullopt;
@@ -155,6 +213,8 @@ Advice OfNumbers()
         return {"The last line was not taken, as no line end follows it. Go back and copy an empty row more "
                 "below the data.",
                 std::max<int>(ImportRows, 1)};
+    if (LastFilledRow() == 0)
+        return {"The data has no filled cells. Go back and copy the rows with numbers."};
     if (const auto Cut = FirstCut())
         return {"Row " + std::to_string(Cut->Row) + ", " + ImportHeading(Cut->Col) +
                     ": the cell was cut to 30 characters. Show the number with fewer digits, then copy and "
@@ -182,10 +242,12 @@ Advice ImportAdvice(ParseOutcome Outcome)
         Told = Bad ? OfCell(*Bad) : OfNumbers();
     if (Bad)
         Told.Text += " Finish would end the program without a save.";
-    else if (ImportRows == 0)
-        Told.Text += (Told.Text.empty() ? "" : " ") + std::string("Finish would empty the profile.");
-    else if (Outcome != ParseOutcome::Taken)
+    else if (LastFilledRow() == 0)
+        Told.Text += " Finish would empty the profile.";
+    else if (Outcome == ParseOutcome::NothingPasted)
         Told.Text += " The table shows what an earlier paste has left.";
+    else if (Outcome != ParseOutcome::Taken)
+        Told.Text += " The table shows what was read of it, in as many rows as an earlier paste had.";
     return Told;
 }
 

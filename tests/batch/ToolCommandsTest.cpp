@@ -107,6 +107,9 @@ TEST_F(ToolCommandsTest, ConvertPrintsTheNumberAlone)
     const Case Cases[] = {
         {"Length 'meter (m)' 'inch (in)' 1", 0, "4.86854917234664\n"},
         {"Length 'meter (m)' 'kilometre (km)' -1e-3", 0, "-1E-06\n"},
+        {"Length 'meter (m)' 'kilometre (km)' -.5", 0, "-0.0005\n"},
+        {"Length 'meter (m)' 'kilometre (km)' -inf", 2, ""},
+        {"Length 'meter (m)' 'kilometre (km)' --x", 2, ""},
         {"Pressure 'millimetres of water (mm)\"' bar 5", 0, "0\n"},
         {"Pressure bar 'millimetres of water (mm)\"' 5", 2, ""},
         {"Time 'day (d)' 'hour (h)' 1", 2, ""},
@@ -116,6 +119,7 @@ TEST_F(ToolCommandsTest, ConvertPrintsTheNumberAlone)
         {"Length 'meter (m) ' 'inch (in)' 1", 1, ""},
         {"Temperature 'Kelvin (K)' 'Kelvin (K)' 1", 1, ""},
         {"Length 'meter (m)' 'inch (in)'", 1, ""},
+        {"Length 'meter (m)' -5", 1, ""},
     };
     for (const auto& [Words, Status, Output] : Cases) {
         const Run Done = Batch("convert " + std::string(Words));

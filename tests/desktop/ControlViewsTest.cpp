@@ -14,6 +14,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
@@ -70,6 +71,15 @@ TEST_F(ControlViewTest, AListShowsAndTellsWhatIsChosen)
     QTest::keyClick(List, Qt::Key_Down);
     EXPECT_EQ(List->count(), 3);
     EXPECT_EQ(List->currentIndex(), Units.ListIndex);
+
+    QListWidget* const Open = Put(OpenView(Units));
+    int Clicks = 0;
+    Units.Click = [&] { ++Clicks; };
+    Units.Change = {};
+    QCoreApplication::processEvents();
+    const QPoint Chosen = Open->visualItemRect(Open->currentItem()).center();
+    QTest::mouseClick(Open->viewport(), Qt::LeftButton, {}, Chosen); // the same again
+    EXPECT_EQ(Clicks, 1);
 }
 
 TEST_F(ControlViewTest, OptionsFollowTheirGroupAndMayAllBeOff)

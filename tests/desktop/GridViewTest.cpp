@@ -178,6 +178,39 @@ TEST_F(GridViewTest, ColoursAreTheToldOnesAndEqualNeighboursShowAsOneCell)
     EXPECT_EQ(ColorAt(2, 2), Shown->palette().color(QPalette::Base));
 }
 
+// Ink is what differs from the surface, in how much and around which part of the width.
+TEST_F(GridViewTest, HeadingsAreBoldAndCellsCanBeCentred)
+{
+    const auto Ink = [](QWidget* Place, const QRect& Cell) {
+        const QImage Image = Place->grab(Cell.adjusted(3, 3, -4, -4)).toImage();
+        const int Surface = Image.pixelColor(0, 0).lightness();
+        double Sum = 0, Moment = 0;
+        for (int Y = 0; Y < Image.height(); ++Y)
+            for (int X = 0; X < Image.width(); ++X) {
+                const int Differs = std::abs(Image.pixelColor(X, Y).lightness() - Surface);
+                Sum += Differs;
+                Moment += Differs * X;
+            }
+        return std::pair(Sum, Moment / Sum / Image.width());
+    };
+    for (const auto& [Row, Col] : {std::pair(2, 0), std::pair(0, 2), std::pair(2, 2), std::pair(4, 2)})
+        Table.SetText(Row, Col, "8888");
+    Table.HeadingRows = {4};
+    QCoreApplication::processEvents();
+    const QRect Cell = Shown->CellRect(2, 2);
+    QHeaderView* const Above = Shown->horizontalHeader();
+    QHeaderView* const Beside = Shown->verticalHeader();
+    const auto Plain = Ink(Shown->viewport(), Cell);
+    const std::pair<QWidget*, QRect> Headings[] = {
+        {Above->viewport(), QRect(Cell.left(), 0, Cell.width(), Above->height())},
+        {Beside->viewport(), QRect(0, Cell.top(), Beside->width(), Cell.height())},
+        {Shown->viewport(), Shown->CellRect(4, 2)}};
+    for (const auto& [Place, Rect] : Headings) EXPECT_GT(Ink(Place, Rect).first, 1.15 * Plain.first);
+    EXPECT_GT(Plain.second, 0.6);
+    Table.Centred = true;
+    EXPECT_NEAR(Ink(Shown->viewport(), Cell).second, 0.5, 0.03);
+}
+
 TEST_F(GridViewTest, AClickSelectsTheCellAndTellsTheButton)
 {
     std::vector<std::string> Heard;

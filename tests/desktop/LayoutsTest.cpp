@@ -329,6 +329,12 @@ TEST_F(LayoutsTest, OneScreenStandsAtATime)
     QCoreApplication::processEvents();
     ExpectRoomForAll(*Main);
     ExpectTabsReach(frmRoughness, *Main); // "Previous screen" shares its letter with the preferences
+    frmRoughness.sscViewGraph.Click();
+    for (const int Width : {1100, 800}) { // wide and narrow again
+        Main->resize(Width, 600);
+        QCoreApplication::processEvents(); // rows that turn need another round
+        Examine(frmViewRoughness, "measured data, " + std::to_string(Width));
+    }
 }
 
 TEST_F(LayoutsTest, DialogsAreCompleteAndFit)

@@ -77,6 +77,7 @@ TEST_F(ImportEventsTest, ARefusedPasteIsToldAndGoesOnToTheReview)
     for (const Case& Each : Cases) {
         Windows.ModalScripts["frmImport"] = [this, &Each] {
             Next();
+            frmImport.lblPaste.Visible = true; // an earlier paste; it goes once the user has been told
             Paste(Each.Text);
             EXPECT_EQ(LastMessage(), *Each.Text ? "" : "There was nothing on the clipboard to paste");
             Next();

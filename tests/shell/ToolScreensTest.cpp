@@ -57,7 +57,10 @@ TEST_F(RoughnessScreenTest, WhatIsMeasuredGivesTheRoughnessBetweenThePoints)
     ASSERT_TRUE(frmRoughness.Visible && !frmView.Visible);
     EXPECT_TRUE(frmRoughness.comAccLength.Visible); // over the first length
     EXPECT_EQ(frmRoughness.comAccLength.List.Get().size(), 10U);
+    EXPECT_EQ(frmRoughness.comAccLength.ListIndex, 0);
     EXPECT_EQ(Column(Table, 1) + Results.Text(3, 0), "; ; ; Karman-Prandtl (ks in mm)");
+    frmRoughness.comAccLength.Click(); // the entry that is chosen already
+    EXPECT_EQ(Table.Text(1, 1), "0.000");
     Enter(1, 1, U"150", U"10");
     Enter(2, 4, U"131-.6", U"25");
     EXPECT_EQ(Column(Table, 2), "2000.000; 131.6; 25; "); // no sign can be typed
@@ -103,6 +106,56 @@ TEST_F(RoughnessScreenTest, AScenarioKeepsItsEntriesWhileAnotherIsOnTheScreen)
     }
 }
 
+TEST_F(RoughnessScreenTest, WhatWasTypedOutlivesTheCommandsOfTheMenu)
+{
+    frmRoughness.txtFlowrate.Text = "90";
+    Go(Table, 3, 2);
+    Type(U"55⏎");
+    Windows.ModalScripts["frmConverter"] = [] { frmConverter.sscExit.Click(); };
+    for (MenuItem* Command : {&MDIProject.mnuGeneral, &MDIProject.mnuSave, &MDIProject.mnuConvert}) {
+        Command->Click();
+        EXPECT_TRUE(frmLCC.Visible && !frmRoughness.Visible) << Command->Caption.Get();
+        frmLCC.sscViewProfile.Click();
+        MDIProject.mnuRoughness.Click();
+        EXPECT_EQ(Table.Text(3, 2) + frmRoughness.txtFlowrate.Text.Get(), "5590") << Command->Caption.Get();
+    }
+    frmRoughness.sscPrevious.Click(); // the texts go, what they said stays
+    EXPECT_EQ(Readings[1][AtPressure][2], 55.0);
+    EXPECT_EQ(ScenarioFlow[1][TheFlow], 90.0);
+}
+
+// The empty screen that stands before a scenario with readings: only what is touched goes into it.
+TEST_F(RoughnessScreenTest, AReopenedScreenReplacesNothingButWhatIsEnteredOnIt)
+{
+    MoveTo(3);
+    Enter(1, 1, U"150", U"10");
+    Enter(2, 4, U"131.6", U"25");
+    frmRoughness.txtFlowrate.Text = "90";
+    frmRoughness.comFlowrateUnits.ListIndex = 3;
+    frmRoughness.comPressureUnits.ListIndex = 15;
+    const std::function<void()> Touches[] = {[] { frmRoughness.comPressureUnits.ListIndex = 5; },
+                                             [&] {
+                                                 Go(Table, 2, 2);
+                                                 Type(U"130⏎");
+                                             },
+                                             [] { frmRoughness.txtFlowrate.Text = "0.08"; }};
+    const char* const Stored[] = {"2000131.62590; 3; 5", "20001302590; 3; 5",
+                                  "2000130250.08; 2; 5"}; // a flow with the unit beside it
+    for (std::size_t Touched = 0; Touched < std::size(Touches); ++Touched) {
+        frmRoughness.sscPrevious.Click();
+        MDIProject.mnuRoughness.Click();
+        EXPECT_EQ(Column(Table, 2), "; ; ; ");
+        Touches[Touched]();
+        MoveTo(2);
+        MoveTo(3);
+        EXPECT_EQ(Table.Text(1, 2) + Table.Text(2, 2) + Table.Text(3, 2) +
+                      frmRoughness.txtFlowrate.Text.Get() + "; " +
+                      std::to_string(frmRoughness.comFlowrateUnits.ListIndex) + "; " +
+                      std::to_string(frmRoughness.comPressureUnits.ListIndex),
+                  Stored[Touched]);
+    }
+}
+
 TEST_F(RoughnessScreenTest, TheGraphShowsTheMeasuredStretchesOverTheProfile)
 {
     MoveTo(3);
@@ -130,14 +183,19 @@ TEST_F(RoughnessScreenTest, TheGraphShowsTheMeasuredStretchesOverTheProfile)
     EXPECT_EQ(Drawn(10, true), "---o---o");
     EXPECT_EQ(Drawn(4, true), "---o");
     EXPECT_EQ(Drawn(4, false), "");
+    frmViewRoughness.hscYears.Value = 6;
+    frmViewRoughness.chkHydraulic.Value = false;
     frmViewRoughness.sscOK.Click();
     EXPECT_TRUE(frmRoughness.Visible);
     EXPECT_NE(Results.Text(1, 1), ""); // hidden, not unloaded
     frmRoughness.sscViewGraph.Click();
     MDIProject.mnuRoughness.Click();
     EXPECT_TRUE(frmRoughness.Visible && !frmViewRoughness.IsLoaded());
+    frmRoughness.sscPrevious.Click(); // the profile view follows year and gradeline, in its picture too
+    EXPECT_EQ(frmView.lblYear.Caption.Get(), std::to_string(wSupplyStart + 5));
+    EXPECT_TRUE(frmView.hscYears.Value == 6 && ProfileYearDrawn == 6 && !frmView.chkHydraulic.Value);
     MDIProject.mnuGeneral.Click();
-    EXPECT_FALSE(frmRoughness.IsLoaded() || frmView.IsLoaded() || MDIProject.mnuRoughness.Visible);
+    EXPECT_FALSE(frmRoughness.Visible || frmView.IsLoaded() || MDIProject.mnuRoughness.Visible);
     EXPECT_EQ(Readings[3][AtPressure][3], 30.0);
 }
 
@@ -157,6 +215,7 @@ TEST_F(ConverterScreenTest, AResultStandsUntilAnythingIsTouched)
                                              [&] { Type(U"-"); }, // a key that is dropped
                                              [] { frmConverter.comUnit[0].ListIndex = 3; },
                                              [] { frmConverter.comUnit[1].Click(); }, // the same entry
+                                             [] { frmConverter.lstUnit.Click(); },
                                              [] { frmConverter.lstUnit.ListIndex = 5; }};
     Windows.ModalScripts["frmConverter"] = [&] {
         EXPECT_FALSE(frmLCC.Visible);

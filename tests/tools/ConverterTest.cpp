@@ -93,6 +93,8 @@ TEST(ConverterTest, NumbersAreTakenAndWrittenAsTold)
         {"0.01", "kilometre (km)", "0.00001"},
         {"999999999999999", Meter, "999999999999999"},
         {"1e15", Meter, "1E+15"},
+        {" 12.5\r\n", Meter, "12.5"}, // the cell of a table
+        {"12\n5", Meter, ""},
         {"+.5", "millimetre (mm)", "500"},
         {"1e308", "millimetre (mm)", ""},
         {"1e-320", "kilometre (km)", "9.88131291682493E-324"}, // an underflow is no failure
