@@ -6,6 +6,7 @@
 #include "paint/PdfOutline.h"
 
 #include <QBuffer>
+#include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
 
@@ -13,6 +14,13 @@ namespace velorix {
 namespace {
 
 constexpr int DotsPerInch = 1200;
+
+// The paper that the page is meant for, upright or on its side, without margins.
+QPageLayout PaperOf(const PrintedPage& Page)
+{
+    const bool Wide = Page.Print.Width > Page.Print.Height;
+    return {QPageSize(QPageSize::A4), Wide ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()};
+}
 
 QByteArray PaintedPages(const std::vector<PrintedPage>& Pages)
 {
@@ -47,12 +55,6 @@ std::vector<PdfBookmark> BookmarksOf(const std::vector<PrintedPage>& Pages)
 }
 
 } // namespace
-
-QPageLayout PaperOf(const PrintedPage& Page)
-{
-    const bool Wide = Page.Print.Width > Page.Print.Height;
-    return {QPageSize(QPageSize::A4), Wide ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()};
-}
 
 std::string ToPdfBytes(const std::vector<PrintedPage>& Pages, const DocumentFacts& Facts)
 {
