@@ -71,11 +71,11 @@ void PagePrinter::Print(std::span<const PrintItem> Items)
 void PagePrinter::PrintCells(const Cells& Row)
 {
     const Font Face = InForce();
-    const double Gap = 0.9 * AverageCharacterWidth(Face);
     for (std::size_t Index = 0; Index < Row.size(); ++Index) {
-        Move(Tab{Row[Index].Column}, Face);
+        const auto& [Column, Text] = Row[Index];
+        Move(Tab{Column}, Face);
         const bool Last = Index + 1 == Row.size();
-        Write(Row[Index].Text, Face, Last ? RightEdge() : ColumnStart(Row[Index + 1].Column, Face) - Gap);
+        Write(Text, Face, Last ? RightEdge() : EndOfCell(Text, ColumnStart(Row[Index + 1].Column, Face)));
     }
     EndLine(Face);
 }
@@ -191,6 +191,18 @@ void PagePrinter::Write(const std::string& Text, const Font& Face, double End)
     }
     Page.Print.Items.push_back(TextItem{PenX, Y, Width, Written, Fitting, ForeColor});
     PenX += Width;
+}
+
+// A text may come close to the next column; one that would run into it is set clear of it.
+double PagePrinter::EndOfCell(const std::string& Text, double Next) const
+{
+    constexpr double Least = 0.3; // average characters
+    constexpr double Clear = 0.9;
+    const Font Face = InForce();
+    const double Ink = System().TextWidth(std::string(TrimmedRight(OnOneLine(Text))), Face);
+    const double Character = AverageCharacterWidth(Face);
+    const bool Fits = PenX + Ink <= Next - Least * Character;
+    return Next - (Fits ? Least : Clear) * Character;
 }
 
 double PagePrinter::RightEdge() const

@@ -227,6 +227,9 @@ TEST_F(ReportsTest, PumpingProjectStandsAtItsColumns)
     Expect({{PrintGeneralData, 0,
              "|[7]Preferred option:[30]Specified operating Flow rate|[9]Operating flow rate:[30]136 m³/h|"
              "[9]Pump efficiency:[30]70 %|"}});
+    Print(PrintEnergyData);
+    for (const PageLine& Line : Body(0))
+        for (const TextItem& Each : Line) EXPECT_TRUE(Line[0].Text != "Summer" || Each.Face.Size == 12);
     Print(PrintDuty);
     EXPECT_EQ(Windows.Pages.at(0).Drawings.at(0).Drawn, frmResults.picDuty.Image());
     Print(PrintIncomeAndExpenditure);
