@@ -63,7 +63,7 @@ void PrintAll(const std::vector<ReportSection>& Wanted)
 {
     ClearArithmeticFlags();
     for (const ReportSection& Each : Wanted) {
-        Printer.Section = Each.Title;
+        Printer.BeginSection(Each.Title);
         Printer.Orientation = PaperOrientation::Portrait;
         try {
             Each.Print();

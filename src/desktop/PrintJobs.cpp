@@ -77,14 +77,22 @@ void PrintJobs::Take(const PrintedPage& Page)
         Gathered.push_back(Page);
 }
 
-void PrintJobs::End(QWidget* Owner)
+std::vector<PrintedPage> PrintJobs::TakeGathered(PrintTarget Target)
 {
-    const std::vector<PrintedPage> Pages = std::exchange(Gathered, {});
-    if (Pages.empty()) return;
-    if (Settings->Target == PrintTarget::PdfFile)
-        WritePdf(PdfFile, Pages);
-    else
-        ShowPreview(Owner, Pages, [&Pages] { SavePreviewed(Pages); });
+    if (!Settings || Settings->Target != Target) return {};
+    return std::exchange(Gathered, {});
+}
+
+void PrintJobs::End()
+{
+    const std::vector<PrintedPage> Pages = TakeGathered(PrintTarget::PdfFile);
+    if (!Pages.empty()) WritePdf(PdfFile, Pages);
+}
+
+void PrintJobs::Show(QWidget* Owner)
+{
+    const std::vector<PrintedPage> Pages = TakeGathered(PrintTarget::Preview);
+    if (!Pages.empty()) ShowPreview(Owner, Pages, [&Pages] { SavePreviewed(Pages); });
 }
 
 } // namespace velorix

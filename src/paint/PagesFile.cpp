@@ -49,8 +49,7 @@ std::vector<PdfBookmark> BookmarksOf(const std::vector<PrintedPage>& Pages)
 {
     std::vector<PdfBookmark> Bookmarks;
     for (std::size_t Index = 0; Index < Pages.size(); ++Index)
-        if (Pages[Index].Section != (Bookmarks.empty() ? std::string() : Bookmarks.back().Title))
-            Bookmarks.push_back({Pages[Index].Section, Index});
+        if (Pages[Index].BeginsSection) Bookmarks.push_back({Pages[Index].Section, Index});
     return Bookmarks;
 }
 

@@ -56,6 +56,12 @@ std::size_t BytesThatFit(const std::string& Text, double Width, const Font& Face
 
 } // namespace
 
+void PagePrinter::BeginSection(const std::string& Title)
+{
+    Section = Title;
+    IsSectionsFirst = true;
+}
+
 void PagePrinter::Print(std::span<const PrintItem> Items)
 {
     const Font Face = InForce();
@@ -158,6 +164,7 @@ void PagePrinter::EndDoc()
     Page.Print.Width = Millimetres(IsUpright() ? PaperWidth : PaperHeight);
     Page.Print.Height = Millimetres(IsUpright() ? PaperHeight : PaperWidth);
     Page.Section = Section;
+    Page.BeginsSection = std::exchange(IsSectionsFirst, false);
     const PrintedPage Ended = std::exchange(Page, {});
     PenX = PenY = 0;
     System().PrintPage(Ended);

@@ -40,7 +40,9 @@ public:
     Color ForeColor = Black;
     PaperScale ScaleMode = PaperScale::Twips; // unit of the positions below
     PaperOrientation Orientation = PaperOrientation::Portrait;
-    std::string Section; // goes with each page
+
+    // What the pages from here on belong to.
+    void BeginSection(const std::string& Title);
 
     // Where the next text begins, from the top of the page.
     double CurrentY() const { return PenY / Unit(); }
@@ -92,7 +94,9 @@ private:
     void EndLine(const Font& Face);
 
     PrintedPage Page;
-    double PenX = 0; // twips
+    std::string Section;
+    bool IsSectionsFirst = false; // the page
+    double PenX = 0;              // twips
     double PenY = 0;
 };
 

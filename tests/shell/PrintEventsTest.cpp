@@ -127,14 +127,18 @@ TEST_F(PrintEventsTest, AFailingPrinterEndsTheRunAtItsSection)
         EXPECT_TRUE(std::equal(Windows.Pages.begin(), Windows.Pages.end(), Whole.begin()));
         EXPECT_TRUE(Windows.Pages.size() == Printed && Windows.PrintRuns == 1 && PlotYear == 3);
     }
-    Windows.Messages.clear();
-    Windows.Prints = {PrintChoice{}};
-    Windows.PagesUntilPrinterFails.reset();
     Windows.PrintRunsFail = true; // a file that can't be written is told once, and not tried again
-    InSelection(PrintAll);
-    ASSERT_TRUE(Windows.Messages.size() == 1 && Windows.PrintRuns == 2);
-    EXPECT_EQ(LastMessage(), Section->Failure);
-    EXPECT_EQ(Windows.Messages.back().Detail, "The disk is full.");
+    for (const char* Reasons : {"The printer is out of paper.\nThe disk is full.", "The disk is full."}) {
+        Windows.Messages.clear();
+        Windows.Pages.clear();
+        Windows.PrintRuns = 0;
+        Windows.Prints = {PrintChoice{}};
+        InSelection(PrintAll);
+        ASSERT_TRUE(Windows.Messages.size() == 1 && Windows.PrintRuns == 1);
+        EXPECT_EQ(LastMessage(), Section->Failure);
+        EXPECT_EQ(Windows.Messages.back().Detail, Reasons);
+        Windows.PagesUntilPrinterFails.reset();
+    }
 }
 
 TEST_F(PrintEventsTest, TheYearIsAskedForWhenTheHydraulicReportIsTicked)
