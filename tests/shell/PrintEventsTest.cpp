@@ -141,6 +141,26 @@ TEST_F(PrintEventsTest, AFailingPrinterEndsTheRunAtItsSection)
     }
 }
 
+// However the option stands before; and in a year that the life has.
+TEST_F(PrintEventsTest, AGraphThatCannotBeDrawnIsToldOnceAndTheYearIsOneOfTheProject)
+{
+    Open(GravityRecord());
+    Flow[1] = 1e30;
+    for (const bool Switches : {false, true}) {
+        frmResults.ssoIncomeExpenditure.Value = Switches;
+        Windows.Messages.clear();
+        Windows.Prints = {PrintChoice{}};
+        PrintYear = static_cast<std::int16_t>(wLife + 1);
+        InSelection([] {
+            frmPrint.chkDemand.Value = frmPrint.chkHydraulic.Value = true;
+            frmPrint.sscPrint.Click();
+        });
+        ASSERT_EQ(Windows.Messages.size(), 1U);
+        EXPECT_EQ(LastMessage(), "Could not show the demand pattern graph.");
+        EXPECT_EQ(HydraulicYearDrawn, 1);
+    }
+}
+
 TEST_F(PrintEventsTest, TheYearIsAskedForWhenTheHydraulicReportIsTicked)
 {
     Open(GravityRecord());
