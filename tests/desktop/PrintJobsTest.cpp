@@ -165,21 +165,6 @@ TEST_F(PrintJobsTest, APrinterGetsAPageAsItIsAndItsRefusalIsTold)
     EXPECT_THAT(Windows.Messages.back().Detail, HasSubstr("can't be started"));
 }
 
-// A second copy of a single report too.
-TEST_F(PrintJobsTest, EachCopyHasItsBookmark)
-{
-    WithTopDialog([&](QDialog& Dialog) {
-        EnterFile(Folder / "copies");
-        Dialog.findChild<QComboBox*>()->setCurrentText("PDF file");
-        Dialog.findChild<QSpinBox*>()->setValue(2);
-        Press(Dialog, "OK");
-    });
-    PrintDirectly({"irr", "Rates", frmIRRView.sscPrintView, 0, PrintIrrGraph});
-    const std::string Outline =
-        OutputOf("pdftohtml", {"-xml", "-i", "-stdout", Temporary.filePath("copies.pdf")});
-    EXPECT_THAT(Outline, HasSubstr("<item page=\"1\">Rates</item>\n<item page=\"2\">Rates</item>"));
-}
-
 TEST_F(PrintJobsTest, WhatCannotBeWrittenOrHasNoPageLeavesNoFile)
 {
     ASSERT_TRUE(Choose("PDF file", 1, Folder / "empty"));

@@ -209,6 +209,7 @@ TEST_F(PrintEventsTest, AButtonPrintsItsGraphByItself)
         Each.Button.Click();
         const std::size_t Count = Windows.Pages.size() / 2;
         ASSERT_TRUE(Count >= 1 && Windows.Messages.empty() && Windows.Pages[0] == Windows.Pages[Count]);
+        EXPECT_TRUE(Windows.Pages[Count].BeginsSection); // each copy
         FirstPages += PageNumber(Windows.Pages[0]);
         EXPECT_EQ(Windows.Pages[0].Print.Width < Windows.Pages[0].Print.Height, FirstPages.back() == '2');
         for (const bool Cancelled : {true, false}) {
