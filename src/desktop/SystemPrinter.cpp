@@ -14,7 +14,7 @@ constexpr int TimeLimit = 30000; // ms, for a scheduler that doesn't answer
 // Why the printer takes nothing: what the program says, or else how it ended.
 QString ReasonOf(QProcess& Sender)
 {
-    const QString Told = QString::fromLocal8Bit(Sender.readAllStandardError()).trimmed();
+    QString Told = QString::fromLocal8Bit(Sender.readAllStandardError()).trimmed();
     if (!Told.isEmpty()) return Told;
     if (Sender.exitStatus() == QProcess::CrashExit) return QString("%1 crashed").arg(Program);
     return QString("%1 ended with status %2").arg(Program).arg(Sender.exitCode());
