@@ -129,6 +129,8 @@ const Plot Plots[] = {
 
 } // namespace
 
+const char* const NothingToDraw = "the figures leave nothing to draw";
+
 std::span<const Plot> AllPlots()
 {
     return Plots;
@@ -165,7 +167,7 @@ const DisplayList& DrawPlot(const Plot& Wanted, const PlotView& View, const Scri
     Wanted.Surface.Clear(); // of what the analysis, or another plot, has drawn there
     Wanted.Draw(View);
     if (Windows.Messages.size() > Told) throw Failure(Windows.Messages.back().Text);
-    if (Wanted.Surface.Image().Items.empty()) throw Failure("the figures leave nothing to draw");
+    if (Wanted.Surface.Image().Items.empty()) throw Failure(NothingToDraw);
     return Wanted.Surface.Image();
 }
 

@@ -43,6 +43,8 @@ int YearOf(const PlotView& View);
 // Works the basis out for the open project. False when it doesn't stand, which the user has been told.
 bool WorkOut(PlotBasis Basis);
 
+extern const char* const NothingToDraw; // why a plot that has told nothing is empty
+
 // Draws the plot for the open project, whose basis has been worked out, before the window system in use.
 // Throws Failure with the reason when there is no picture: the plot doesn't apply, has no such view, or has
 // told the user why it can't be drawn.

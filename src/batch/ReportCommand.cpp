@@ -11,6 +11,7 @@
 #include "batch/PaintLoader.h"
 #include "batch/PinnedFields.h"
 #include "batch/ReportSections.h"
+#include "batch/Tell.h"
 #include "input/Session.h"
 #include "platform/Printer.h"
 #include "reports/ReportFacts.h"
@@ -58,18 +59,32 @@ bool WorkOutFor(std::vector<ReportSection>& Wanted)
     return Stands;
 }
 
-// Throws Failure, in the words of the section that fails; the pages ended before it stand.
-void PrintAll(const std::vector<ReportSection>& Wanted)
+bool HasEmptyGraph(const PrintedPage& Page)
+{
+    return std::any_of(Page.Drawings.begin(), Page.Drawings.end(),
+                       [](const PlacedDrawing& Each) { return Each.Drawn.Items.empty(); });
+}
+
+// Throws Failure, in the words of the section that fails; the pages ended before it stand. A graph that
+// can't be drawn ends nothing: it tells so itself, or leaves an empty place on its page.
+void PrintAll(const std::vector<ReportSection>& Wanted, const ScriptedPlatform& Windows, Report& Result)
 {
     ClearArithmeticFlags();
     for (const ReportSection& Each : Wanted) {
-        Printer.Section = Each.Title;
+        const std::size_t Told = Windows.Messages.size();
+        const std::size_t Printed = Windows.Pages.size();
+        Printer.BeginSection(Each.Title);
         Printer.Orientation = PaperOrientation::Portrait;
         try {
             Each.Print();
         } catch (const Failure& Problem) {
             throw Failure(Each.FailureText + " " + Problem.what());
         }
+        const auto First = Windows.Pages.begin() + static_cast<std::ptrdiff_t>(Printed);
+        const bool HasTold = Windows.Messages.size() > Told;
+        if (!HasTold && std::none_of(First, Windows.Pages.end(), HasEmptyGraph)) continue;
+        if (!HasTold) Result.Told.push_back(Each.Title + ": " + NothingToDraw);
+        Result.Stood = false;
     }
 }
 
@@ -88,7 +103,7 @@ void PrintInto(Report& Result, const ReportOptions& Options, const ScriptedPlatf
         PrintYear = static_cast<std::int16_t>(YearOf(View));
         std::vector<ReportSection> Wanted = WantedSections(Options, View, Windows);
         Result.Stood = WorkOutFor(Wanted);
-        PrintAll(Wanted);
+        PrintAll(Wanted, Windows, Result);
     } catch (const Failure& Problem) {
         Result.Stood = false;
         Result.Told.emplace_back(Problem.what());
@@ -145,12 +160,19 @@ void PrepareTargets(const ReportOptions& Options, const OutputGuard& Guard)
             Guard.RequireResult(Target);
 }
 
-void WritePdf(const OutputGuard& Guard, const fs::path& Target, const std::string& Pdf)
+// Tells of a target that can't be written, which costs no other file its report.
+bool WritePdf(const OutputGuard& Guard, const fs::path& Target, const std::string& Pdf)
 {
-    if (Target == StandardStream)
-        WriteOut(Pdf);
-    else
-        WriteResult(Guard, Target, Pdf);
+    try {
+        if (Target == StandardStream)
+            WriteOut(Pdf);
+        else
+            WriteResult(Guard, Target, Pdf);
+        return true;
+    } catch (const Failure& Problem) {
+        Tell(Problem.what());
+        return false;
+    }
 }
 
 } // namespace
@@ -166,7 +188,8 @@ Ending ReportFiles(const ReportOptions& Options)
             const Json Result = Json::from_cbor(Outcome.Text);
             TellOf(File, Result["told"]);
             const auto& Pdf = Result["pdf"].get_binary();
-            if (!Pdf.empty()) WritePdf(Guard, TargetOf(Options, File), {Pdf.begin(), Pdf.end()});
+            if (!Pdf.empty() && !WritePdf(Guard, TargetOf(Options, File), {Pdf.begin(), Pdf.end()}))
+                return Ending::Failed;
             return Result["stood"] ? Ending::AllWell : Ending::DidNotStand;
         });
 }

@@ -21,8 +21,9 @@ struct ReportOptions {
 
 // Prints each project as the desktop does, into a file of its own. A named section that doesn't apply, or a
 // year beyond the design life, leaves no file; an analysis that doesn't stand leaves out the results; a
-// section that fails is the last, and isn't printed itself. All three count as not standing, and are told on
-// standard error. Throws Failure when the options don't go together or something can't be written.
+// section that fails is the last, and isn't printed itself; a graph that can't be drawn leaves its place
+// empty. All of these count as not standing, and are told on standard error, as is a file that can't be
+// written. Throws Failure when the options don't go together.
 Ending ReportFiles(const ReportOptions& Options);
 
 } // namespace velorix

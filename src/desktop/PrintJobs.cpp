@@ -1,18 +1,14 @@
-// All pages go through the one painter.
+// All pages go out as PDF, or through the same painter into the preview.
 #include "desktop/PrintJobs.h"
 
 #include "base/Failure.h"
 #include "base/NewFile.h"
 #include "desktop/PreviewWindow.h"
+#include "desktop/SystemPrinter.h"
 #include "input/FileCommands.h"
 #include "input/Session.h"
 #include "paint/PagesFile.h"
-#include "paint/Painter.h"
 #include "reports/ReportFacts.h"
-
-#include <QPainter>
-#include <QPrinter>
-#include <QPrinterInfo>
 
 #include <utility>
 
@@ -53,22 +49,6 @@ void SavePreviewed(const std::vector<PrintedPage>& Pages)
     }
 }
 
-void SendTo(const QString& Name, const PrintedPage& Page)
-{
-    const QPrinterInfo Info = QPrinterInfo::printerInfo(Name);
-    const std::string Shown = Name.toStdString();
-    if (Info.isNull()) throw FileFailure("The printer \"" + Shown + "\" isn't there.");
-    QPrinter Device(Info, QPrinter::HighResolution);
-    Device.setDocName(QString::fromStdString("Velorix: " + Page.Section));
-    Device.setFullPage(true);
-    Device.setPageLayout(PaperOf(Page));
-    QPainter Painter;
-    if (!Painter.begin(&Device)) throw FileFailure("The printer \"" + Shown + "\" takes no document.");
-    Paint(Painter, Page, QRectF(0, 0, Device.width(), Device.height()));
-    if (!Painter.end() || Device.printerState() == QPrinter::Error)
-        throw FileFailure("The printer \"" + Shown + "\" didn't take a page.");
-}
-
 } // namespace
 
 std::optional<PrintChoice> PrintJobs::Ask(const PrintDialog& Dialog, QWidget* Owner)
@@ -91,19 +71,28 @@ void PrintJobs::Take(const PrintedPage& Page)
 {
     if (!Settings) throw FileFailure("No printer has been chosen.");
     if (Settings->Target == PrintTarget::Printer)
-        SendTo(Settings->Printer, Page);
+        SendToPrinter(Settings->Printer, QString::fromStdString("Velorix: " + Page.Section),
+                      ToPdfBytes({Page}, FactsOfProject()));
     else
         Gathered.push_back(Page);
 }
 
-void PrintJobs::End(QWidget* Owner)
+std::vector<PrintedPage> PrintJobs::TakeGathered(PrintTarget Target)
 {
-    const std::vector<PrintedPage> Pages = std::exchange(Gathered, {});
-    if (Pages.empty()) return;
-    if (Settings->Target == PrintTarget::PdfFile)
-        WritePdf(PdfFile, Pages);
-    else
-        ShowPreview(Owner, Pages, [&Pages] { SavePreviewed(Pages); });
+    if (!Settings || Settings->Target != Target) return {};
+    return std::exchange(Gathered, {});
+}
+
+void PrintJobs::End()
+{
+    const std::vector<PrintedPage> Pages = TakeGathered(PrintTarget::PdfFile);
+    if (!Pages.empty()) WritePdf(PdfFile, Pages);
+}
+
+void PrintJobs::Show(QWidget* Owner)
+{
+    const std::vector<PrintedPage> Pages = TakeGathered(PrintTarget::Preview);
+    if (!Pages.empty()) ShowPreview(Owner, Pages, [&Pages] { SavePreviewed(Pages); });
 }
 
 } // namespace velorix

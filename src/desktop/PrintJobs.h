@@ -22,11 +22,16 @@ public:
     // printer takes none.
     void Take(const PrintedPage& Page);
 
-    // Writes or shows what was gathered; nothing when no page was. Throws Failure, and leaves no file, when
+    // Writes what was gathered for a file; nothing when no page was. Throws Failure, and leaves no file, when
     // it can't be written.
-    void End(QWidget* Owner);
+    void End();
+
+    // Shows what was gathered for a preview.
+    void Show(QWidget* Owner);
 
 private:
+    std::vector<PrintedPage> TakeGathered(PrintTarget Target); // none for another target
+
     std::optional<PrintSettings> Settings; // the last choice
     std::filesystem::path PdfFile;
     std::vector<PrintedPage> Gathered;

@@ -271,8 +271,14 @@ void QtPlatform::PrintPage(const PrintedPage& Page)
 void QtPlatform::EndPrintRun()
 {
     const KeepArithmeticFlags Keep;
+    Prints.End();
+}
+
+void QtPlatform::ShowPrintRun()
+{
+    const KeepArithmeticFlags Keep;
     const PointerPause Pause(Pointer);
-    Prints.End(TopWindow());
+    Prints.Show(TopWindow());
 }
 
 void QtPlatform::SetFocus(Control& Target)

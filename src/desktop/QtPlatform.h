@@ -42,6 +42,7 @@ public:
     std::optional<PrintChoice> AskPrinter(const PrintDialog& Dialog) override;
     void PrintPage(const PrintedPage& Page) override;
     void EndPrintRun() override;
+    void ShowPrintRun() override;
 
     void SetFocus(Control& Target) override;
     bool IsInReach(const Control& Target) override;

@@ -6,6 +6,7 @@
 #include "paint/PdfOutline.h"
 
 #include <QBuffer>
+#include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
 
@@ -13,6 +14,13 @@ namespace velorix {
 namespace {
 
 constexpr int DotsPerInch = 1200;
+
+// The paper that the page is meant for, upright or on its side, without margins.
+QPageLayout PaperOf(const PrintedPage& Page)
+{
+    const bool Wide = Page.Print.Width > Page.Print.Height;
+    return {QPageSize(QPageSize::A4), Wide ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()};
+}
 
 QByteArray PaintedPages(const std::vector<PrintedPage>& Pages)
 {
@@ -41,18 +49,11 @@ std::vector<PdfBookmark> BookmarksOf(const std::vector<PrintedPage>& Pages)
 {
     std::vector<PdfBookmark> Bookmarks;
     for (std::size_t Index = 0; Index < Pages.size(); ++Index)
-        if (Pages[Index].Section != (Bookmarks.empty() ? std::string() : Bookmarks.back().Title))
-            Bookmarks.push_back({Pages[Index].Section, Index});
+        if (Pages[Index].BeginsSection) Bookmarks.push_back({Pages[Index].Section, Index});
     return Bookmarks;
 }
 
 } // namespace
-
-QPageLayout PaperOf(const PrintedPage& Page)
-{
-    const bool Wide = Page.Print.Width > Page.Print.Height;
-    return {QPageSize(QPageSize::A4), Wide ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()};
-}
 
 std::string ToPdfBytes(const std::vector<PrintedPage>& Pages, const DocumentFacts& Facts)
 {

@@ -4,15 +4,10 @@
 #include "platform/DocumentFacts.h"
 #include "platform/PrintedPage.h"
 
-#include <QPageLayout>
-
 #include <string>
 #include <vector>
 
 namespace velorix {
-
-// The paper that the page is meant for, upright or on its side, without margins.
-QPageLayout PaperOf(const PrintedPage& Page);
 
 // Vectors and selectable text in embedded fonts, portrait and landscape as the pages are, a bookmark where a
 // section begins. Throws Failure when there is no page, or the bytes can't be made.

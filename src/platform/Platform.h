@@ -67,9 +67,12 @@ public:
     virtual std::optional<PrintChoice> AskPrinter(const PrintDialog& Dialog) = 0;
 
     // A page for the printer that was chosen last: sent at once, or gathered for a file or a preview. What
-    // was gathered is written, or shown, when the run ends. Both throw FileFailure when that can't be done.
+    // was gathered for a file is written when the run ends. Both throw FileFailure when that can't be done.
     virtual void PrintPage(const PrintedPage& Page) = 0;
     virtual void EndPrintRun() = 0;
+
+    // Shows what was gathered for a preview.
+    virtual void ShowPrintRun() = 0;
 
     virtual void SetFocus(Control& Target) = 0;
 

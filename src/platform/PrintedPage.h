@@ -19,6 +19,7 @@ struct PrintedPage {
     DisplayList Print; // as large as the paper
     std::vector<PlacedDrawing> Drawings;
     std::string Section; // the report that the page belongs to
+    bool BeginsSection = false;
     bool operator==(const PrintedPage&) const = default;
 };
 

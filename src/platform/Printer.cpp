@@ -56,6 +56,12 @@ std::size_t BytesThatFit(const std::string& Text, double Width, const Font& Face
 
 } // namespace
 
+void PagePrinter::BeginSection(const std::string& Title)
+{
+    Section = Title;
+    IsSectionsFirst = true;
+}
+
 void PagePrinter::Print(std::span<const PrintItem> Items)
 {
     const Font Face = InForce();
@@ -71,11 +77,11 @@ void PagePrinter::Print(std::span<const PrintItem> Items)
 void PagePrinter::PrintCells(const Cells& Row)
 {
     const Font Face = InForce();
-    const double Gap = 0.9 * AverageCharacterWidth(Face);
     for (std::size_t Index = 0; Index < Row.size(); ++Index) {
-        Move(Tab{Row[Index].Column}, Face);
+        const auto& [Column, Text] = Row[Index];
+        Move(Tab{Column}, Face);
         const bool Last = Index + 1 == Row.size();
-        Write(Row[Index].Text, Face, Last ? RightEdge() : ColumnStart(Row[Index + 1].Column, Face) - Gap);
+        Write(Text, Face, Last ? RightEdge() : EndOfCell(Text, ColumnStart(Row[Index + 1].Column, Face)));
     }
     EndLine(Face);
 }
@@ -158,6 +164,7 @@ void PagePrinter::EndDoc()
     Page.Print.Width = Millimetres(IsUpright() ? PaperWidth : PaperHeight);
     Page.Print.Height = Millimetres(IsUpright() ? PaperHeight : PaperWidth);
     Page.Section = Section;
+    Page.BeginsSection = std::exchange(IsSectionsFirst, false);
     const PrintedPage Ended = std::exchange(Page, {});
     PenX = PenY = 0;
     System().PrintPage(Ended);
@@ -191,6 +198,18 @@ void PagePrinter::Write(const std::string& Text, const Font& Face, double End)
     }
     Page.Print.Items.push_back(TextItem{PenX, Y, Width, Written, Fitting, ForeColor});
     PenX += Width;
+}
+
+// A text may come close to the next column; one that would run into it is set clear of it.
+double PagePrinter::EndOfCell(const std::string& Text, double Next) const
+{
+    constexpr double Least = 0.3; // average characters
+    constexpr double Clear = 0.9;
+    const Font Face = InForce();
+    const double Ink = System().TextWidth(std::string(TrimmedRight(OnOneLine(Text))), Face);
+    const double Character = AverageCharacterWidth(Face);
+    const bool Fits = PenX + Ink <= Next - Least * Character;
+    return Next - (Fits ? Least : Clear) * Character;
 }
 
 double PagePrinter::RightEdge() const

@@ -40,7 +40,9 @@ public:
     Color ForeColor = Black;
     PaperScale ScaleMode = PaperScale::Twips; // unit of the positions below
     PaperOrientation Orientation = PaperOrientation::Portrait;
-    std::string Section; // goes with each page
+
+    // What the pages from here on belong to.
+    void BeginSection(const std::string& Title);
 
     // Where the next text begins, from the top of the page.
     double CurrentY() const { return PenY / Unit(); }
@@ -52,7 +54,7 @@ public:
     void Print(std::initializer_list<PrintItem> Items = {}) { Print(std::span(Items.begin(), Items.size())); }
     void Print(std::span<const PrintItem> Items);
 
-    // Writes a row as one line, whatever its texts: one that would reach the next column is set smaller.
+    // Writes a row as one line, whatever its texts: one that would run into the next column is set smaller.
     void PrintCells(const Cells& Row);
 
     // Writes a text from the column on, on as many lines as it takes.
@@ -87,11 +89,14 @@ private:
     Font InForce() const { return {FontName, FontSize, FontBold, FontUnderline}; }
     void Move(Tab Target, const Font& Face);
     void Write(const std::string& Text, const Font& Face, double End);
+    double EndOfCell(const std::string& Text, double Next) const;
     double RightEdge() const;
     void EndLine(const Font& Face);
 
     PrintedPage Page;
-    double PenX = 0; // twips
+    std::string Section;
+    bool IsSectionsFirst = false; // the page
+    double PenX = 0;              // twips
     double PenY = 0;
 };
 

@@ -49,6 +49,7 @@ public:
     std::optional<PrintChoice> AskPrinter(const PrintDialog& Dialog) override;
     void PrintPage(const PrintedPage& Page) override;
     void EndPrintRun() override;
+    void ShowPrintRun() override {}
     void SetFocus(Control& Target) override;
     bool IsInReach(const Control& Target) override { return Target.Visible && Target.Enabled; }
     void SetPointer(PointerShape Shape) override { Pointer = Shape; }

@@ -8,6 +8,8 @@
 #include "results/FlowCaptions.h"
 #include "screens/Lcc.h"
 
+#include <sstream>
+
 namespace velorix {
 namespace {
 
@@ -81,6 +83,17 @@ void PrintOperatingFlow()
     Printer.PrintCells({{9, "Pump efficiency:"}, {30, Trim(frmLCC.txtPumpEfficiency.Text.Get()) + " %"}});
 }
 
+// Line by line as it was typed, without empty lines; one paragraph when the page has no room for so many.
+void PrintPumpDescription()
+{
+    constexpr std::size_t MostLines = 12;
+    std::vector<std::string> Lines;
+    std::istringstream Typed(wPumpDescription);
+    for (std::string Line; std::getline(Typed, Line);) Lines.push_back(Line);
+    if (Lines.size() > MostLines) Lines = {wPumpDescription};
+    for (const std::string& Each : Lines) Printer.PrintWrapped(Tab{7}, Each);
+}
+
 void PrintPump()
 {
     constexpr int Columns[] = {9, 30, 51}; // head, flow rate, efficiency
@@ -93,7 +106,7 @@ void PrintPump()
     Printer.Print();
     Printer.PrintCells({{7, "Pump type: " + Trim(wPumptype)}});
     Printer.PrintCells({{7, "Configuration:"}});
-    Printer.PrintWrapped(Tab{7}, wPumpDescription);
+    PrintPumpDescription();
     Printer.Print();
 }
 

@@ -11,18 +11,22 @@
 
 #include <algorithm>
 #include <optional>
+#include <string>
 
 namespace velorix {
 namespace {
 
-// Does the work; what fails in it ends it, and is told to nobody.
+// Does the work. What fails in it ends it, and its reason goes to a line of its own.
 template <typename Work>
-void IgnoringFailures(Work Do)
+void Try(std::string& Reasons, Work Do)
 {
+    ClearArithmeticFlags();
     try {
         Do();
-    } catch (const Failure&) {
+    } catch (const Failure& Problem) {
         ClearArithmeticFlags();
+        ResetPrinter(); // of a page begun
+        Reasons += (Reasons.empty() ? "" : "\n") + std::string(Problem.what());
     }
 }
 
@@ -31,21 +35,19 @@ void IgnoringFailures(Work Do)
 template <typename Work>
 void RunPrinter(const char* const& FailureText, Work PrintCopy)
 {
-    bool Ended = false;
-    ClearArithmeticFlags();
-    try {
-        const std::optional<PrintChoice> Choice = System().AskPrinter({});
-        if (!Choice) return Warn(FailureText);
+    std::optional<PrintChoice> Choice;
+    std::string Reasons;
+    Try(Reasons, [&] { Choice = System().AskPrinter({}); });
+    if (!Choice) return Warn(FailureText, "Velorix", Reasons);
+    {
         const BusyPointer Printing;
-        for (int Copy = 1; Copy <= Choice->Copies; ++Copy) PrintCopy();
-        Ended = true;
-        System().EndPrintRun();
-    } catch (const Failure& Problem) {
-        ClearArithmeticFlags();
-        ResetPrinter(); // of a page begun
-        Warn(FailureText, "Velorix", Problem.what());
-        if (!Ended) IgnoringFailures([] { System().EndPrintRun(); });
+        Try(Reasons, [&] {
+            for (int Copy = 1; Copy <= Choice->Copies; ++Copy) PrintCopy();
+        });
+        Try(Reasons, [] { System().EndPrintRun(); });
     }
+    if (!Reasons.empty()) Warn(FailureText, "Velorix", Reasons);
+    System().ShowPrintRun();
 }
 
 bool IsTicked(const PrintSection& Section)
@@ -83,7 +85,7 @@ void PrintTicked()
         for (const PrintSection& Each : Sections) {
             if (!IsTicked(Each)) continue;
             FailureText = Each.Failure;
-            Printer.Section = Each.Title;
+            Printer.BeginSection(Each.Title);
             Each.Print();
         }
     });
@@ -96,7 +98,7 @@ void PrintDirectly(const DirectPrint& Chosen)
     if (Chosen.Redraw) Chosen.Redraw();
     RunPrinter("You cancelled the print box !", [&] {
         PageNo = Chosen.PageNoBefore;
-        Printer.Section = Chosen.Title;
+        Printer.BeginSection(Chosen.Title);
         Chosen.Print();
     });
     PageNo = 0;
@@ -104,7 +106,8 @@ void PrintDirectly(const DirectPrint& Chosen)
 
 void SetUpPrinter()
 {
-    IgnoringFailures([] { System().AskPrinter({.Setup = true}); });
+    std::string Untold;
+    Try(Untold, [] { System().AskPrinter({.Setup = true}); });
 }
 
 } // namespace velorix

@@ -36,28 +36,46 @@ private:
     const std::function<void()> Undo;
 };
 
+// The year may have been chosen for a project of a longer life.
+void KeepPrintYearInLife()
+{
+    if (PrintYear > wLife) PrintYear = 1;
+}
+
+void PrintHydraulicText()
+{
+    KeepPrintYearInLife();
+    PrintHydraulicAnalysis();
+}
+
 // The graph of PrintYear; the screen keeps the year of its next plot.
 void PrintHydraulicSection()
 {
     const AtEnd Back([Shown = PlotYear] { PlotYear = Shown; });
+    KeepPrintYearInLife();
     PlotYear = PrintYear;
     DrawHydraulicPlot();
     PrintHydraulicGraph();
 }
 
-// Switching the option draws its graph; one that stands already is drawn anew.
+// Switching the option draws its graph where the screens are connected; else, and where the option stands
+// already, it is drawn here.
+void PrintSystemSection(OptionButton& Option, void (*Draw)())
+{
+    const bool DrawnBySwitch = !Option.Value && Option.Click;
+    Option.Value = true;
+    if (!DrawnBySwitch) Draw();
+    PrintSystemGraph();
+}
+
 void PrintDemandSection()
 {
-    frmResults.ssoDemandCapacity.Value = true;
-    DrawDemandCapacity();
-    PrintSystemGraph();
+    PrintSystemSection(frmResults.ssoDemandCapacity, DrawDemandCapacity);
 }
 
 void PrintIncomeSection()
 {
-    frmResults.ssoIncomeExpenditure.Value = true;
-    DrawIncomeExpenditure();
-    PrintSystemGraph();
+    PrintSystemSection(frmResults.ssoIncomeExpenditure, DrawIncomeExpenditure);
 }
 
 // The graph's own screen has gone when the selection shows.
@@ -82,7 +100,7 @@ std::span<const PrintSection, SectionCount> PrintSections()
          "Could not print the Energy Data ! Check the input data."},
         {"rates", "Rates and sales data", frmPrint.chkRates, Needs::Project, PrintRatesData,
          "Could not print the Rates & Sales Data ! Check the input data."},
-        {"hydraulic", "Hydraulic analysis", frmPrint.chkTextHydraulic, Needs::Analysis, PrintHydraulicAnalysis,
+        {"hydraulic", "Hydraulic analysis", frmPrint.chkTextHydraulic, Needs::Analysis, PrintHydraulicText,
          "Could not print the Hydraulic Analysis results ! Check the obtained results."},
         {"demand", "Demand and yield", frmPrint.chkTextDemand, Needs::Analysis, PrintDemandAndYield,
          "Could not print the Hydraulic Analysis (Demand & Yield)! Check the obtained results."},

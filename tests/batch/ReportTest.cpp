@@ -228,13 +228,18 @@ TEST_F(ReportTest, TheYearIsThatOfEveryPageOfOneYear)
 }
 
 // The pages of the input for an analysis that doesn't stand; those before the section that fails: 102 years
-// with those of construction are more than the tables of results hold.
+// with those of construction are more than the tables of results hold. A graph that can't be drawn, which one
+// of them tells itself, leaves its place empty.
 TEST_F(ReportTest, WhatStandsIsPrintedAndTheRestIsTold)
 {
     WriteExample("high.vlx", "hoekfontein-pumping-main", {{"BRWL", 1700}});
     WriteExample("long.vlx", "hoekfontein-pumping-main", {{"Life", 100}});
+    WriteExample("rich.vlx", "hoekfontein-pumping-main", {{"WaterSales", 1e7}});
     const std::tuple<std::string, const char*, std::string> Cases[] = {
         {"high.vlx", "The pump curve does not intersect the system curve for year 1", "Rates and sales data"},
+        {"rich.vlx", "rich.vlx: Could not show the Internal Rate of Return", "Internal rate of return graph"},
+        {"rich.vlx", "rich.vlx: Income and expenditure graph: the figures leave nothing to draw",
+         "Internal rate of return graph"},
         {"high.vlx --sections energy,cost", "does not intersect", "Energy data"},
         {"long.vlx", "Could not print the Cost Analysis (Income & Expenditure)!", "Demand and yield"},
     };
@@ -283,10 +288,13 @@ TEST_F(ReportTest, SeveralFilesGoIntoAFolderAndOneToStandardOutput)
 {
     WriteExample("village.vlx", "kloofsig-village-main");
     WriteExample("mine.vlx", "witklip-mine-rising-main");
+    WriteExample("kept.vlx", "witklip-mine-rising-main");
+    std::filesystem::create_directories(Folder / "new/reports/kept.pdf"); // in the way
     WriteFile("bad.vlx", "");
     const Run Several =
-        Batch("report village.vlx bad.vlx missing.vlx mine.vlx --pdf new/reports --sections rates");
+        Batch("report village.vlx bad.vlx kept.vlx missing.vlx mine.vlx --pdf new/reports --sections rates");
     EXPECT_EQ(Several.Status, 1);
+    EXPECT_THAT(Several.Errors, HasSubstr("reports/kept.pdf\": "));
     for (const char* Each : {"new/reports/village.pdf", "new/reports/mine.pdf"})
         EXPECT_THAT(ReadPdf(Each).Pages.at(0).Text(), HasSubstr("RATES AND SALES DATA")) << Each;
     EXPECT_FALSE(std::filesystem::exists(Folder / "new/reports/missing.pdf"));

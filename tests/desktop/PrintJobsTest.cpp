@@ -1,9 +1,12 @@
 // Print runs through the dialogs that a user would see, into files and the preview.
 #include "desktop/PrintJobs.h"
 
+#include "DesktopTest.h"
 #include "base/Failure.h"
-#include "desktop/QtPlatform.h"
 #include "model/WorkingSet.h"
+#include "reports/GraphPages.h"
+#include "reports/PrintRun.h"
+#include "screens/Viewers.h"
 
 #include <QComboBox>
 #include <QDialog>
@@ -11,12 +14,13 @@
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
-#include <gmock/gmock.h>
+#include <fstream>
 
 namespace velorix {
 namespace {
@@ -98,7 +102,7 @@ protected:
         return static_cast<int>(std::distance(begin(All), end(All)));
     }
 
-    QtPlatform Windows;
+    NotingPlatform Windows;
     const QTemporaryDir Temporary;
     const std::filesystem::path Folder = Temporary.path().toStdString();
 };
@@ -121,6 +125,44 @@ TEST_F(PrintJobsTest, ARunBecomesOneFileWithThePagesAsTheyAre)
     EXPECT_THAT(OutputOf("pdftotext", {File, "-"}), HasSubstr("Sheet 3"));
     Windows.EndPrintRun(); // of nothing
     EXPECT_EQ(FilesLeft(), 1);
+}
+
+// Stand-ins for the system's own program keep what they are handed, or refuse it.
+TEST_F(PrintJobsTest, APrinterGetsAPageAsItIsAndItsRefusalIsTold)
+{
+    const QByteArray Path = qgetenv("PATH");
+    const auto Restore = qScopeGuard([&] { qputenv("PATH", Path); });
+    const std::filesystem::path Program = Folder / "lp";
+    const auto PrintBy = [&](const std::string& Script) {
+        std::ofstream(Program) << "#!/bin/sh\ncd '" << Folder.string() << "'\n" << Script << "\n";
+        std::filesystem::permissions(Program, std::filesystem::perms::owner_all);
+        WithTopDialog([](QDialog& Dialog) {
+            auto* const Targets = Dialog.findChild<QComboBox*>();
+            Targets->insertItem(0, "Office");
+            Targets->setItemData(0, static_cast<int>(PrintTarget::Printer), Qt::UserRole);
+            Targets->setCurrentIndex(0);
+            Press(Dialog, "OK");
+        });
+        PrintDirectly({"irr", "Rates", frmIRRView.sscPrintView, 0, PrintIrrGraph});
+    };
+    qputenv("PATH", Temporary.path().toUtf8() + ":" + Path);
+    PrintBy("printf '%s ' \"$@\" >words; cat >page.pdf");
+    EXPECT_TRUE(Windows.Messages.empty());
+    EXPECT_EQ(OutputOf("cat", {Temporary.filePath("words")}), "-d Office -t Velorix: Rates -o media=A4 ");
+    EXPECT_THAT(OutputOf("pdfinfo", {Temporary.filePath("page.pdf")}), HasSubstr("842 x 595 pts (A4)"));
+
+    for (const auto& [Script, Reason] : {std::pair{"echo 'Office is not accepting jobs.' >&2; exit 1",
+                                                   "page: Office is not accepting jobs."},
+                                         {"exit 3", "status 3"},
+                                         {"kill -9 $$", "crashed"}}) {
+        PrintBy(Script);
+        ASSERT_FALSE(Windows.Messages.empty()) << Script;
+        EXPECT_EQ(Windows.Messages.back().Text, "You cancelled the print box !");
+        EXPECT_THAT(Windows.Messages.back().Detail, testing::EndsWith(Reason));
+    }
+    qputenv("PATH", "");
+    PrintBy("exit 0");
+    EXPECT_THAT(Windows.Messages.back().Detail, HasSubstr("can't be started"));
 }
 
 TEST_F(PrintJobsTest, WhatCannotBeWrittenOrHasNoPageLeavesNoFile)
@@ -188,6 +230,7 @@ TEST_F(PrintJobsTest, ThePreviewGoesThroughThePagesByKeysAndSavesThem)
         Key(Qt::Key_Escape);
     });
     Windows.EndPrintRun();
+    Windows.ShowPrintRun();
     EXPECT_TRUE(Shown);
     EXPECT_TRUE(std::filesystem::exists(Folder / "seen.pdf"));
 }

@@ -173,7 +173,7 @@ TEST_F(ReportsTest, PumpingProjectStandsAtItsColumns)
          "[7]Preferred option:[30]Specified pump curve|[9]Head[30]Flow rate[51]Efficiency|"
          "[9]m[30]m³/s[51]%|[9]95[30]0[51]0|[9]92[30]0.05[51]55|"},
         {PrintGeneralData, 0,
-         "|[7]Pump type: Split case|[7]Configuration:|[7]Two in parallel,  one standing by|"},
+         "|[7]Pump type: Split case|[7]Configuration:|[7]Two in parallel,|[7]one standing by|"},
         {PrintEnergyData, 0,
          "|*[7]ENERGY DATA: PUMPING SYSTEM|*[6]Energy details:|*[7]Tariff[24]Summer months[46]Winter months|"
          "[7]Peak rate:[30]R0.90/kW[55]R0.90/kW|"},
@@ -227,6 +227,9 @@ TEST_F(ReportsTest, PumpingProjectStandsAtItsColumns)
     Expect({{PrintGeneralData, 0,
              "|[7]Preferred option:[30]Specified operating Flow rate|[9]Operating flow rate:[30]136 m³/h|"
              "[9]Pump efficiency:[30]70 %|"}});
+    Print(PrintEnergyData);
+    for (const PageLine& Line : Body(0))
+        for (const TextItem& Each : Line) EXPECT_TRUE(Line[0].Text != "Summer" || Each.Face.Size == 12);
     Print(PrintDuty);
     EXPECT_EQ(Windows.Pages.at(0).Drawings.at(0).Drawn, frmResults.picDuty.Image());
     Print(PrintIncomeAndExpenditure);
@@ -353,6 +356,7 @@ TEST_F(ReportsTest, EveryPageOfALargeProjectIsReadable)
         while (Words.size() < 1000) Words += "Lengthy words ";
         SetText(Record.Description, Words.substr(0, 500));
         SetText(Record.Pumptype, Words.substr(0, 100));
+        for (std::size_t Line = 84; Line < 1000; Line += 84) Words[Line] = '\n';
         SetText(Record.PumpDescription, Words.substr(0, 1000));
         for (auto* Text : {&Record.Project, &Record.Designer}) SetText(*Text, std::string(80, 'W'));
         for (const std::int16_t Life : {22, 47, 98}) {

@@ -114,14 +114,38 @@ TEST_F(PrintEventsTest, AFailingPrinterEndsTheRunAtItsSection)
         EXPECT_TRUE(std::equal(Windows.Pages.begin(), Windows.Pages.end(), Whole.begin()));
         EXPECT_TRUE(Windows.Pages.size() == Printed && Windows.PrintRuns == 1 && PlotYear == 3);
     }
-    Windows.Messages.clear();
-    Windows.Prints = {PrintChoice{}};
-    Windows.PagesUntilPrinterFails.reset();
     Windows.PrintRunsFail = true; // a file that can't be written is told once, and not tried again
-    InSelection(PrintAll);
-    ASSERT_TRUE(Windows.Messages.size() == 1 && Windows.PrintRuns == 2);
-    EXPECT_EQ(LastMessage(), Section->Failure);
-    EXPECT_EQ(Windows.Messages.back().Detail, "The disk is full.");
+    for (const char* Reasons : {"The printer is out of paper.\nThe disk is full.", "The disk is full."}) {
+        Windows.Messages.clear();
+        Windows.Pages.clear();
+        Windows.PrintRuns = 0;
+        Windows.Prints = {PrintChoice{}};
+        InSelection(PrintAll);
+        ASSERT_TRUE(Windows.Messages.size() == 1 && Windows.PrintRuns == 1);
+        EXPECT_EQ(LastMessage(), Section->Failure);
+        EXPECT_EQ(Windows.Messages.back().Detail, Reasons);
+        Windows.PagesUntilPrinterFails.reset();
+    }
+}
+
+// However the option stands before; and in a year that the life has.
+TEST_F(PrintEventsTest, AGraphThatCannotBeDrawnIsToldOnceAndTheYearIsOneOfTheProject)
+{
+    Open(GravityRecord());
+    Flow[1] = 1e30;
+    for (const bool Switches : {false, true}) {
+        frmResults.ssoIncomeExpenditure.Value = Switches;
+        Windows.Messages.clear();
+        Windows.Prints = {PrintChoice{}};
+        PrintYear = static_cast<std::int16_t>(wLife + 1);
+        InSelection([] {
+            frmPrint.chkDemand.Value = frmPrint.chkHydraulic.Value = true;
+            frmPrint.sscPrint.Click();
+        });
+        ASSERT_EQ(Windows.Messages.size(), 1U);
+        EXPECT_EQ(LastMessage(), "Could not show the demand pattern graph.");
+        EXPECT_EQ(HydraulicYearDrawn, 1);
+    }
 }
 
 TEST_F(PrintEventsTest, TheYearIsAskedForWhenTheHydraulicReportIsTicked)
@@ -172,6 +196,7 @@ TEST_F(PrintEventsTest, AButtonPrintsItsGraphByItself)
         Each.Button.Click();
         const std::size_t Count = Windows.Pages.size() / 2;
         ASSERT_TRUE(Count >= 1 && Windows.Messages.empty() && Windows.Pages[0] == Windows.Pages[Count]);
+        EXPECT_TRUE(Windows.Pages[Count].BeginsSection); // each copy
         FirstPages += PageNumber(Windows.Pages[0]);
         EXPECT_EQ(Windows.Pages[0].Print.Width < Windows.Pages[0].Print.Height, FirstPages.back() == '2');
         for (const bool Cancelled : {true, false}) {
