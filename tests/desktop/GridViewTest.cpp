@@ -1,6 +1,7 @@
 // The grid's cells on the screen: their place, the current cell, keys, selection, and the editors over it.
 #include "desktop/GridView.h"
 
+#include "desktop/Binding.h"
 #include "desktop/DesktopTest.h"
 #include "desktop/Views.h"
 #include "platform/Keys.h"
@@ -12,6 +13,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QScrollBar>
 
 namespace velorix {
@@ -270,6 +272,73 @@ TEST_F(GridViewTest, TabLeavesTheGridAndMovingAroundKeepsTheCellInSight)
     Host.reset();
 }
 
+TEST_F(GridViewTest, ANewLastRowAndACellOnAPageThatScrollsComeIntoSight)
+{
+    Host->resize(600, 400);
+    QCoreApplication::processEvents();
+    for (int Rows : {502, 503}) {
+        Table.SetRows(Rows);
+        Table.Select(Rows - 1, 1);
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(InSight(CurrentRect())) << Rows;
+    }
+
+    auto* const Page = Put(new QScrollArea);
+    auto* const Content = new QWidget;
+    auto* const Column = new QVBoxLayout(Content);
+    auto* const Above = new QLineEdit;
+    Column->addWidget(Above, 0, Qt::AlignTop);
+    Column->addSpacing(700);
+    Column->addWidget(Shown);
+    Shown->ShowWhole();
+    Page->setWidgetResizable(true);
+    Page->setWidget(Content);
+    Table.Select(2, 2);
+    Above->setFocus();
+    QCoreApplication::processEvents();
+    const auto OnPage = [&] {
+        const QRect Cell = CurrentRect();
+        const QPoint Corner = Shown->viewport()->mapTo(Page->viewport(), Cell.topLeft());
+        return Page->viewport()->rect().contains(QRect(Corner, Cell.size()));
+    };
+    EXPECT_FALSE(OnPage());
+    QTest::keyClick(Above, Qt::Key_Tab);
+    EXPECT_TRUE(Shown->hasFocus() && OnPage());
+    for (int Step = 0; Step < 20; ++Step) PressKeys({Qt::Key_Down});
+    EXPECT_TRUE(OnPage());
+    Page->verticalScrollBar()->setValue(0);
+    Table.Select(300, 2); // by the program, while the keys go elsewhere
+    Above->setFocus();
+    Page->verticalScrollBar()->setValue(0);
+    Table.Select(400, 2);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(OnPage());
+    Host.reset();
+}
+
+// The frame of the current cell stays in sight around what lies over it, and steps back with the focus.
+TEST_F(GridViewTest, OneFrameAtATimeTellsWhereTheKeysGo)
+{
+    CommandButton Next{"Next"};
+    QWidget* const Button = Put(View(Next));
+    QCoreApplication::processEvents();
+    for (Control* Over : std::initializer_list<Control*>{&Editor, &List}) {
+        Over->Visible = true;
+        QWidget* const Views[] = {Shown, FocusTarget(*Over), Button};
+        for (QWidget* Each : Views) {
+            Each->setFocus(Qt::TabFocusReason);
+            const QColor Frame =
+                Shown->viewport()->grab().toImage().pixelColor(CurrentRect().topLeft() + QPoint(1, 1));
+            const bool Strong = Frame == Shown->palette().color(QPalette::Highlight);
+            const bool BelowEditor =
+                Each == Shown && Over == &Editor; // which tells that it is no caret's place
+            EXPECT_EQ(Strong, Each != Button && !BelowEditor);
+        }
+        Over->Visible = false;
+    }
+    Host.reset();
+}
+
 TEST_F(GridViewTest, CopyTakesTheSelectedCells)
 {
     Click(2, 3);
@@ -353,7 +422,7 @@ TEST_F(GridViewTest, TheListShowsTheCellsTextAndLetsTheKeyboardOut)
     Table.SetText(2, 7, "Air valve");
     List.Visible = true;
     QComboBox* const Choice = Shown->ListView();
-    EXPECT_EQ(Choice->geometry(), CurrentRect());
+    EXPECT_TRUE(CurrentRect().contains(Choice->geometry()));
     EXPECT_EQ(Choice->placeholderText(), "Air valve");
     Choice->setFocus(Qt::TabFocusReason);
     QTest::keyClick(Choice, Qt::Key_Down);
