@@ -19,7 +19,12 @@ namespace {
 // One stop of the Tab key. Left and Right go between day, month and year.
 class DateField : public QDateEdit {
 protected:
-    bool focusNextPrevChild(bool Next) override { return QWidget::focusNextPrevChild(Next); }
+    // The toolkit leaves the field at its last part.
+    bool focusNextPrevChild(bool Next) override
+    {
+        setCurrentSectionIndex(Next ? sectionCount() - 1 : 0);
+        return QDateEdit::focusNextPrevChild(Next);
+    }
 
     void keyPressEvent(QKeyEvent* Key) override
     {
