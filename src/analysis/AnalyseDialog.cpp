@@ -46,6 +46,7 @@ void ShowResults()
 
 void AnalyseDialogLoads()
 {
+    frmAnalyse.sscAnalyse.ToolTip = frmAnalyse.AnalyseHint;
     frmAnalyse.tmrMatrix.Enabled = true;
     frmAnalyse.tmrStopMatrix.Enabled = true;
     if (frmResults.IsLoaded()) frmResults.Unload(); // after a failed analysis too
@@ -71,6 +72,7 @@ void AnalysePressed()
         PlotYear = 1;
         AnalyseProject(Tables::Filled);
     }
+    if (Analysed == 1) frmAnalyse.sscAnalyse.ToolTip = frmAnalyse.ContinueHint;
     // A disabled button gives the focus away, and Enter must not press Cancel now.
     if (frmAnalyse.IsLoaded()) System().SetFocus(frmAnalyse.sscAnalyse);
 }

@@ -97,6 +97,10 @@ QDialog* AnalyseDialog(QWidget* Owner)
 
     QPushButton* const Analyse = View(frmAnalyse.sscAnalyse);
     Analyse->setDefault(true);
+    QObject::connect(Analyse, &QPushButton::clicked, Analyse, [Analyse] { // the analysis has run by now
+        Analyse->setToolTip(QString::fromStdString(frmAnalyse.sscAnalyse.ToolTip));
+        Analyse->setAccessibleDescription(Analyse->toolTip());
+    });
     QWidget* const Controls = InColumn(
         {nullptr, View(frmAnalyse.lblAnalyse), ProgressLine(), nullptr,
          InRow({nullptr, Analyse, View(frmAnalyse.sscCancel), ToolView(frmAnalyse.sscHelp, "help")})});

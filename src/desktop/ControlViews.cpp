@@ -6,11 +6,36 @@
 
 #include <QDateEdit>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QProgressBar>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace velorix {
+namespace {
+
+// One stop of the Tab key. Left and Right go between day, month and year.
+class DateField : public QDateEdit {
+protected:
+    // The toolkit leaves the field at its last part.
+    bool focusNextPrevChild(bool Next) override
+    {
+        setCurrentSectionIndex(Next ? sectionCount() - 1 : 0);
+        return QDateEdit::focusNextPrevChild(Next);
+    }
+
+    void keyPressEvent(QKeyEvent* Key) override
+    {
+        const int Step = Key->key() == Qt::Key_Right ? 1 : Key->key() == Qt::Key_Left ? -1 : 0;
+        if (Step == 0 || Key->modifiers() != Qt::NoModifier) return QDateEdit::keyPressEvent(Key);
+        setSelectedSection(sectionAt(std::clamp(currentSectionIndex() + Step, 0, sectionCount() - 1)));
+    }
+};
+
+} // namespace
+
 QLabel* View(Label& Record)
 {
     auto* const View = new QLabel;
@@ -44,7 +69,7 @@ QDateEdit* View(DatePicker& Record)
 {
     constexpr int FirstYear = 1601; // no date of the calendar in use lies before
     constexpr int LastYear = 9999;
-    auto* const View = new QDateEdit;
+    auto* const View = new DateField;
     View->setLocale(QLocale::c());
     View->setDisplayFormat("d MMMM yyyy");
     View->setDateRange(QDate(FirstYear, 1, 1), QDate(LastYear, 12, 31));

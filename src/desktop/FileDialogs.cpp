@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QHeaderView>
 #include <QStandardPaths>
 #include <QTreeView>
@@ -27,10 +28,22 @@ QString SuffixOf(const QString& Filter)
     return Pattern.startsWith("*.") ? Pattern.mid(2) : QString();
 }
 
+// Tells folders from files and looks no further: the toolkit would read from each file to draw its kind, and
+// some, as those of the system's own state, never end or wait for what never comes.
+class PlainIcons : public QFileIconProvider {
+public:
+    using QFileIconProvider::icon;
+
+    QIcon icon(const QFileInfo& Entry) const override { return icon(Entry.isDir() ? Folder : File); }
+    QString type(const QFileInfo&) const override { return {}; } // its column doesn't show
+};
+
 std::optional<std::filesystem::path> Ask(const FileDialog& Dialog, QFileDialog::AcceptMode Mode)
 {
+    PlainIcons Icons;
     QFileDialog Window(QApplication::activeWindow(), QString::fromStdString(Dialog.Title),
                        StartFolder(Dialog.Folder));
+    Window.setIconProvider(&Icons);
     const bool Saves = Mode == QFileDialog::AcceptSave;
     Window.setOption(QFileDialog::DontUseNativeDialog, QGuiApplication::platformName() == "offscreen");
     Window.setOption(QFileDialog::DontConfirmOverwrite, !Dialog.OverwritePrompt);

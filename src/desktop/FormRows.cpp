@@ -232,16 +232,18 @@ void WhenShown(QWidget* Watched, std::function<void(bool)> Then)
 
 void StandInFor(QWidget* Pane, QWidget* Content, QWidget* FirstField)
 {
-    // The focus comes back to where it was, unless the user has left the page since.
+    // The focus comes back to where it was, unless the user has left the page or the screen since.
     const auto Before = std::make_shared<QPointer<QWidget>>();
     WhenShown(Pane, [Pane, Content, FirstField, Before](bool Shown) {
         QWidget* const Now = Pane->window()->focusWidget();
         if (Shown) *Before = Now;
         Content->setVisible(!Shown);
+        const QWidget* const Page = Pane->parentWidget();
+        if (!Page || !Page->isVisible()) return;
         if (Shown)
             FirstField->setFocus();
         else if (*Before && OnTopPage(Pane))
-            (*Before)->setFocus();
+            (*Before)->setFocus(Qt::TabFocusReason); // opens no list
     });
 }
 

@@ -262,6 +262,14 @@ void GridView::contextMenuEvent(QContextMenuEvent* Event)
     Event->accept();
 }
 
+// A press goes to a cell in sight; any other way the keys come to the current one.
+void GridView::focusInEvent(QFocusEvent* Focus)
+{
+    QTableView::focusInEvent(Focus);
+    if (SettlePending) Settle();
+    if (Focus->reason() != Qt::MouseFocusReason) BringUpCurrent();
+}
+
 void GridView::focusOutEvent(QFocusEvent* Focus)
 {
     QTableView::focusOutEvent(Focus);

@@ -3,6 +3,7 @@
 
 #include "desktop/Binding.h"
 #include "desktop/Painting.h"
+#include "desktop/Style.h"
 #include "desktop/Views.h"
 
 #include <QAbstractButton>
@@ -11,7 +12,9 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPainter>
 #include <QScopedValueRollback>
+#include <QScrollArea>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -20,9 +23,34 @@
 namespace velorix {
 namespace {
 
-// The editor fills its cell: no frame of its own but the cell's.
-constexpr const char* EditorSheet =
-    "QLineEdit { border: 2px solid palette(highlight); border-radius: 0; padding: 0 1px; }";
+// The editor fills its cell: no frame of its own but the cell's, quiet while the keys go elsewhere.
+QString EditorSheet()
+{
+    return QString("QLineEdit { border: 2px solid %1; border-radius: 0; padding: 0 1px; }"
+                   "QLineEdit:focus { border-color: palette(highlight); }")
+        .arg(Colors().Muted.name());
+}
+
+// The frame of the current cell, over the list that covers the cell.
+class ListFrame : public QWidget {
+public:
+    ListFrame(const GridView& Shown, QComboBox& List)
+        : QWidget(&List)
+        , Table(Shown)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter Painter(this);
+        DrawFrame(Painter, rect(), Table.HasCursor() ? palette().color(QPalette::Highlight) : Colors().Muted);
+    }
+
+private:
+    const GridView& Table;
+};
 
 } // namespace
 
@@ -41,10 +69,10 @@ GridView::GridView(Grid& Shown, TextBox* EditorRecord, ComboBox* ListRecord)
     TakeHeaders();
     setModel(&Model);
     if (Editor) TakeEditor(Editor);
-    if (List) TakeEditor(List);
+    if (List) TakeList();
     if (Editor) {
         Editor->setFocusPolicy(Qt::ClickFocus); // Tab leaves the grid, it doesn't enter its editor
-        Editor->setStyleSheet(EditorSheet);
+        Editor->setStyleSheet(EditorSheet());
     }
 
     const QPointer<GridView> Alive(this);
@@ -97,6 +125,16 @@ void GridView::TakeEditor(QWidget* Over)
     Over->installEventFilter(this);
 }
 
+// It shows the cell's text as the cell would.
+void GridView::TakeList()
+{
+    TakeEditor(List);
+    QPalette Palette = List->palette();
+    Palette.setColor(QPalette::PlaceholderText, palette().color(QPalette::Text));
+    List->setPalette(Palette);
+    CursorFrame = new ListFrame(*this, *List);
+}
+
 void GridView::SettleSoon()
 {
     if (SettlePending) return;
@@ -109,9 +147,10 @@ void GridView::Settle()
 {
     SettlePending = false;
     const bool Reshaped = !Model.Fits();
-    if (Reshaped)
+    if (Reshaped) {
         Model.Reset();
-    else
+        updateGeometries(); // a new row can be scrolled to at once
+    } else
         Model.Refresh();
     if (Reshaped || HeadingsChanged || !Editor) Measure();
     clearSpans();
@@ -217,6 +256,7 @@ void GridView::currentChanged(const QModelIndex& Now, const QModelIndex& Before)
 {
     QTableView::currentChanged(Now, Before);
     if (!Following && Model.IsData(Now)) GoTo(Now);
+    if (HasCursor()) BringUpOnPage();
 }
 
 QRect GridView::CellRect(int Row, int Col)
@@ -227,7 +267,7 @@ QRect GridView::CellRect(int Row, int Col)
 
 bool GridView::HasCursor() const
 {
-    return hasFocus() || (Editor && Editor->hasFocus());
+    return hasFocus() || (Editor && Editor->hasFocus()) || (List && List->hasFocus());
 }
 
 // The current cell may have been scrolled away.
@@ -235,6 +275,23 @@ void GridView::BringUpCurrent()
 {
     scrollTo(currentIndex());
     PlaceEditors();
+    if (HasCursor()) BringUpOnPage();
+}
+
+// A page that is higher than the window scrolls too.
+void GridView::BringUpOnPage()
+{
+    if (!currentIndex().isValid()) return;
+    for (QWidget* Each = parentWidget(); Each; Each = Each->parentWidget())
+        if (auto* const Area = qobject_cast<QScrollArea*>(Each)) Area->ensureWidgetVisible(this);
+}
+
+// Where the cursor stands: what a page scrolls to is the current cell, not the middle of the table.
+QVariant GridView::inputMethodQuery(Qt::InputMethodQuery Query) const
+{
+    if (Query != Qt::ImCursorRectangle || !currentIndex().isValid())
+        return QTableView::inputMethodQuery(Query);
+    return visualRect(currentIndex()).translated(viewport()->pos());
 }
 
 void GridView::PlaceEditors()
@@ -248,7 +305,8 @@ void GridView::PlaceEditors()
     }
     if (List && !List->isHidden()) {
         List->setPlaceholderText(currentIndex().data().toString());
-        List->setGeometry(Cell);
+        List->setGeometry(Cell.adjusted(0, 0, -1, -1)); // within the cell's border
+        CursorFrame->resize(List->size());
     }
 }
 

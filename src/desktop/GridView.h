@@ -31,7 +31,7 @@ public:
     QLineEdit* EditorView() const { return Editor; }
     QComboBox* ListView() const { return List; }
 
-    // True while keys go to the current cell or to its editor.
+    // True while keys go to the current cell or to what lies over it.
     bool HasCursor() const;
 
     // Where a menu over the grid opens: at the last press of the right button, or of the menu key.
@@ -42,6 +42,7 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    QVariant inputMethodQuery(Qt::InputMethodQuery Query) const override;
 
 protected:
     bool eventFilter(QObject* Watched, QEvent* Event) override;
@@ -58,11 +59,13 @@ protected:
     void mouseReleaseEvent(QMouseEvent* Release) override;
     void mouseDoubleClickEvent(QMouseEvent* Press) override;
     void contextMenuEvent(QContextMenuEvent* Event) override;
+    void focusInEvent(QFocusEvent* Focus) override;
     void focusOutEvent(QFocusEvent* Focus) override;
 
 private:
     void TakeHeaders();
     void TakeEditor(QWidget* Over);
+    void TakeList();
 
     // Everything as the record has it, after code has changed the grid: at once, or when the event has ended.
     void Settle();
@@ -77,6 +80,7 @@ private:
 
     bool EditorEvent(QWidget& Over, QEvent& Event);
     void BringUpCurrent();
+    void BringUpOnPage();
     void PlaceEditors();
 
     QModelIndex Current() const { return Model.IndexOf(Record.Row(), Record.Col()); }
@@ -97,6 +101,7 @@ private:
     GridModel Model;
     QLineEdit* const Editor;
     QComboBox* const List;
+    QWidget* CursorFrame = nullptr;        // over the list
     QAbstractButton* HeadCorner = nullptr; // where the headers meet
     std::vector<int> LeastWidths;          // of the grid's columns, without what they are stretched by
     bool Whole = false;

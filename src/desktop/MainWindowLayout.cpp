@@ -5,10 +5,12 @@
 #include "desktop/FormRows.h"
 #include "desktop/Icons.h"
 #include "desktop/InputLayout.h"
+#include "desktop/KeyEvents.h"
 #include "desktop/ResultsLayout.h"
 #include "desktop/RoughnessLayout.h"
 #include "desktop/ViewerLayouts.h"
 #include "desktop/Views.h"
+#include "platform/Keys.h"
 #include "platform/Platform.h"
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
@@ -17,16 +19,19 @@
 #include "screens/Viewers.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDateTime>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QScreen>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -217,6 +222,28 @@ QWidget* FirstField(QWidget* Page)
     return Field;
 }
 
+// Options and ticks keep to the space bar.
+QAbstractButton* ButtonWithFocus()
+{
+    QWidget* const Now = QApplication::focusWidget();
+    if (auto* const Button = qobject_cast<QPushButton*>(Now)) return Button;
+    return qobject_cast<QToolButton*>(Now);
+}
+
+// Of the pane or the viewer on top; nullptr when neither stands open.
+QAbstractButton* ClosingButton()
+{
+    const CommandButton* const Closing[] = {
+        &frmLCC.sscOK,           &frmLCC.sscHideLaying,    &frmResults.sscHideHydraulicTable,
+        &frmResults.sscHideDuty, &frmResults.sscHideTable, &frmView.sscOK,
+        &frmViewRoughness.sscOK, &frmPumpView.sscOK,       &frmIRRView.sscOK};
+    for (const CommandButton* Each : Closing)
+        if (auto* const Button = static_cast<QAbstractButton*>(FocusTarget(*Each));
+            Button->isVisible() && Button->isEnabled())
+            return Button;
+    return nullptr;
+}
+
 // The one local file of a drag; nothing for anything else.
 QString DraggedFile(const QDropEvent& Event)
 {
@@ -281,16 +308,31 @@ void MainWindow::ShowScreen()
     if (Screens->currentWidget()->isAncestorOf(focusWidget()))
         Screens->setFocus(); // a page that goes would hand it to a tool button
     Screens->setCurrentWidget(Top);
-    // The screen remembers who had its focus.
-    NearestInReach(Top->focusWidget() ? Top->focusWidget() : FirstField(Top))->setFocus();
+    // The screen remembers who had its focus. A list that had it stays closed.
+    NearestInReach(Top->focusWidget() ? Top->focusWidget() : FirstField(Top))->setFocus(Qt::TabFocusReason);
 }
 
-// While a dialog stands no menu can be opened.
+// While a dialog stands no menu can be opened, nor does the one that has asked for it stay marked.
 bool MainWindow::event(QEvent* Event)
 {
-    if (Event->type() == QEvent::WindowBlocked) WayOn->hide();
+    if (Event->type() == QEvent::WindowBlocked) {
+        WayOn->hide();
+        menuBar()->setActiveAction(nullptr);
+    }
     if (Event->type() == QEvent::WindowUnblocked) WayOn->show();
     return QMainWindow::event(Event);
+}
+
+// What nothing inside has had a use for: Enter presses the button with the focus, as in a dialog, and Escape
+// the one that closes what stands open.
+void MainWindow::keyPressEvent(QKeyEvent* Key)
+{
+    const int Code = SpecialKey(*Key);
+    QAbstractButton* Pressed = nullptr;
+    if (Code == Keys::Enter) Pressed = ButtonWithFocus();
+    if (Code == Keys::Escape) Pressed = ClosingButton();
+    if (!Pressed || Key->isAutoRepeat()) return QMainWindow::keyPressEvent(Key);
+    Pressed->click();
 }
 
 void MainWindow::closeEvent(QCloseEvent* Event)

@@ -23,6 +23,7 @@ public:
 
 protected:
     bool event(QEvent* Event) override;
+    void keyPressEvent(QKeyEvent* Key) override;
     void closeEvent(QCloseEvent* Event) override;
     void dragEnterEvent(QDragEnterEvent* Event) override;
     void dropEvent(QDropEvent* Event) override;

@@ -247,6 +247,7 @@ void QtPlatform::ShowModal(Screen& Shown)
     Follow(Shown.Enabled, Dialog.get(), [&Dialog](bool Enabled) { Dialog->setEnabled(Enabled); });
     Follow(Shown.Visible, Dialog.get(), [&Dialog, &Open](bool Visible) {
         Dialog->setVisible(Visible);
+        Dialog->setAttribute(Qt::WA_KeyboardFocusChange); // else options hide the focus until the first Tab
         if (!Visible) Open.quit();
     });
 

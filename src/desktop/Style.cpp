@@ -104,6 +104,8 @@ QLabel[role="screen"] { font-size: @title; font-weight: bold; }
 QLabel[role="heading"] { font-weight: bold; }
 QLabel[role="muted"] { color: @muted; }
 QLabel[role="figure"] { font-size: @figure; font-weight: bold; color: @accent; }
+QListWidget { background: @field; border: 1px solid @border; }
+QListWidget:focus { border-color: @accent; }
 QTabWidget::pane { border: none; border-top: 1px solid @border; }
 QTabBar { qproperty-drawBase: 0; }
 QTabBar::tab {
@@ -121,8 +123,8 @@ QString SheetOf(const ColorSet& Set)
 {
     QString Text = Sheet;
     const std::pair<const char*, QColor> Names[] = {
-        {"@card", Set.Card},   {"@border", Set.Border}, {"@ink", Set.Ink},  {"@disabled", Set.Disabled},
-        {"@muted", Set.Muted}, {"@accent", Set.Accent}, {"@tint", Set.Tint}};
+        {"@card", Set.Card},   {"@border", Set.Border}, {"@ink", Set.Ink},       {"@disabled", Set.Disabled},
+        {"@field", Set.Field}, {"@muted", Set.Muted},   {"@accent", Set.Accent}, {"@tint", Set.Tint}};
     for (const auto& [Name, Color] : Names) Text.replace(Name, Color.name());
     const auto Larger = [](double Factor) {
         return QString::number(QFontInfo(QApplication::font()).pointSizeF() * Factor, 'f', 1) + "pt";

@@ -14,6 +14,7 @@
 #include "screens/MainWindow.h"
 #include "screens/RoughnessScreen.h"
 #include "shell/GridPaste.h"
+#include "shell/Hints.h"
 
 #include <algorithm>
 #include <array>
@@ -22,6 +23,9 @@
 
 namespace velorix {
 namespace {
+
+// Said when a heading in the midst of a table is typed on.
+constexpr const char* NothingHere = "Nothing can be typed into a heading";
 
 // Texts are UTF-8; a typed key and the caret count characters.
 
@@ -176,6 +180,7 @@ void KeyPressInGrid(const CellEditing& Editing, int& Key)
         return System().SetFocus(*Editing.List);
     }
     const auto Code = static_cast<char32_t>(Typed);
+    if (Table.IsHeadingRow(Table.Row())) MDIProject.StatusText.Caption = NothingHere;
     if (!OnEditableCell(Editing)) return;
     if (Contains(Editing.FilteredInGrid, Table.Col()) && !Passes(CellNumberKeys, Typed)) return;
     if (!InCodePage(Code)) return;
@@ -365,6 +370,7 @@ void ConnectGridEditor(const CellEditing& Editing)
     if (OnHeading(Table)) Table.Select(Table.FixedRows, Table.FixedCols); // before anyone listens
 
     Table.EnterCell = [&Editing] {
+        if (MDIProject.StatusText.Caption.Get() == NothingHere) ShowHint(Editing.Table);
         MarkChanged();
         TakeCurrentCell(Editing);
     };

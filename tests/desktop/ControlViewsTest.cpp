@@ -272,6 +272,17 @@ TEST_F(ControlViewTest, ADateGoesBothWays)
     EXPECT_EQ(Field->text(), "4 March 2005");
     Field->setDate(QDate(2024, 2, 29));
     EXPECT_EQ(Day.Value.Get(), (Date{2024, 2, 29}));
+
+    // The arrows choose between its parts, Tab leaves it.
+    QWidget* const Behind = Put(View(Save));
+    ShowHost();
+    Day.Value = Date{2024, 3, 10};
+    Field->setFocus(Qt::TabFocusReason);
+    for (Qt::Key Each : {Qt::Key_Up, Qt::Key_Right, Qt::Key_Right, Qt::Key_Down, Qt::Key_Left, Qt::Key_Down})
+        QTest::keyClick(Field, Each);
+    EXPECT_EQ(Day.Value.Get(), (Date{2023, 2, 11}));
+    QTest::keyClick(Field, Qt::Key_Tab);
+    EXPECT_TRUE(Behind->hasFocus());
 }
 
 TEST_F(ControlViewTest, ShowingAValueRaisesNoArithmeticFlag)

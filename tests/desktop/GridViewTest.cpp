@@ -1,6 +1,7 @@
 // The grid's cells on the screen: their place, the current cell, keys, selection, and the editors over it.
 #include "desktop/GridView.h"
 
+#include "desktop/Binding.h"
 #include "desktop/DesktopTest.h"
 #include "desktop/Views.h"
 #include "platform/Keys.h"
@@ -12,6 +13,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QScrollBar>
 
 namespace velorix {
@@ -303,6 +305,54 @@ TEST_F(GridViewTest, TabLeavesTheGridAndMovingAroundKeepsTheCellInSight)
     Host.reset();
 }
 
+TEST_F(GridViewTest, ANewLastRowAndACellOnAPageThatScrollsComeIntoSight)
+{
+    Table.SetRows(502);
+    Table.Select(501, 1);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(InSight(CurrentRect()));
+
+    auto* const Page = Put(new QScrollArea);
+    auto* const Content = new QWidget;
+    auto* const Above = new QLineEdit(Content);
+    (new QVBoxLayout(Content))->addWidget(Shown);
+    Shown->ShowWhole();
+    Page->setWidgetResizable(true);
+    Page->setWidget(Content);
+    Above->setFocus();
+    const auto OnPage = [&] {
+        const QRect Cell = CurrentRect();
+        return Shown->viewport()->visibleRegion().boundingRect().contains(Cell);
+    };
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(OnPage());
+    Shown->setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(OnPage());
+    PressKeys({Qt::Key_Home}, Qt::ControlModifier);
+    EXPECT_TRUE(OnPage());
+    Above->setFocus();
+    Table.Select(400, 2); // by the program, while the keys go elsewhere
+    EXPECT_FALSE(OnPage());
+}
+
+TEST_F(GridViewTest, TheFrameAroundTheCurrentCellStepsBackWithTheFocus)
+{
+    auto* const Next = Put(new QLineEdit);
+    QCoreApplication::processEvents();
+    for (Control* Over : std::initializer_list<Control*>{&Editor, &List}) {
+        Over->Visible = true;
+        for (QWidget* Each : {FocusTarget(*Over), static_cast<QWidget*>(Next)}) {
+            Each->setFocus(Qt::TabFocusReason);
+            const QImage Cells = Shown->viewport()->grab().toImage();
+            EXPECT_EQ(Cells.pixelColor(CurrentRect().topLeft()) ==
+                          Shown->palette().color(QPalette::Highlight),
+                      Each != Next);
+        }
+        Over->Visible = false;
+    }
+    Host.reset();
+}
+
 TEST_F(GridViewTest, CopyTakesTheSelectedCells)
 {
     Click(2, 3);
@@ -386,7 +436,7 @@ TEST_F(GridViewTest, TheListShowsTheCellsTextAndLetsTheKeyboardOut)
     Table.SetText(2, 7, "Air valve");
     List.Visible = true;
     QComboBox* const Choice = Shown->ListView();
-    EXPECT_EQ(Choice->geometry(), CurrentRect());
+    EXPECT_TRUE(CurrentRect().contains(Choice->geometry()));
     EXPECT_EQ(Choice->placeholderText(), "Air valve");
     Choice->setFocus(Qt::TabFocusReason);
     QTest::keyClick(Choice, Qt::Key_Down);

@@ -110,8 +110,7 @@ std::vector<QWidget*> TabRound(QWidget& Window)
     for (int Press = 0; Press < More; ++Press) {
         QWidget* const Now = Window.focusWidget();
         if (Visited.size() > 1 && Now == Visited.front()) break;
-        if (Now && (Visited.empty() || Now != Visited.back()))
-            Visited.push_back(Now); // a date has three parts
+        if (Now) Visited.push_back(Now);
         QTest::keyClick(Now ? Now : &Window, Qt::Key_Tab);
     }
     return Visited;

@@ -190,6 +190,16 @@ TEST_F(SessionTest, TheFocusStaysAtHandWhenAScreenOrAPageGoes)
     frmLCC.Visible = true; // back from a dialog, with the cell's editor closed
     EXPECT_EQ(QApplication::focusWidget(), FocusTarget(frmLCC.msgProfile));
 
+    // Results that go out of sight take no key along from the screen on top.
+    frmLCC.Visible = false;
+    frmResults.LoadHidden();
+    frmResults.Visible = true;
+    frmResults.sscDutypoint.Click();
+    Press(Qt::Key_F6);
+    FocusTarget(frmLCC.msgProfile)->setFocus();
+    frmResults.Unload();
+    EXPECT_EQ(QApplication::focusWidget(), FocusTarget(frmLCC.msgProfile));
+
     frmLCC.txtDiscountRate.Text = "";
     Saving.SetFocus(frmLCC.txtDiscountRate); // on a page that doesn't show
     EXPECT_FALSE(FocusTarget(frmLCC.txtDiscountRate)->hasFocus());
@@ -315,6 +325,41 @@ TEST_F(SessionTest, WhatCannotBeTypedIsTold)
     Saving.SetFocus(frmLCC.hscMPipeline);
     Type("1,5");
     EXPECT_EQ(Told(), "Only a number from 0.00% to 20.00% can be typed here");
+}
+
+TEST_F(SessionTest, EnterPressesAButtonAndEscapeClosesWhatStandsOpen)
+{
+    Start(1);
+    frmLCC.sstInput.Tab = 1;
+    frmLCC.msgProfile.Select(1, 7);
+    QWidget* const List = FocusTarget(frmLCC.comNode);
+    List->setFocus(Qt::TabFocusReason);
+    frmLCC.sscLaying.Click();
+    frmLCC.msgLaying.Select(9, 1);
+    Type("5");
+    EXPECT_EQ(MDIProject.StatusText.Caption.Get(), "Nothing can be typed into a heading");
+    frmLCC.msgLaying.Select(11, 1);
+    EXPECT_EQ(MDIProject.StatusText.Caption.Get(), frmLCC.msgLaying.ToolTip);
+    Type("5");
+    Press(Qt::Key_Escape); // takes the typing back
+    EXPECT_TRUE(frmLCC.fraLaying.Visible && frmLCC.txtLaying.Visible);
+    Press(Qt::Key_Up);
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(frmLCC.fraLaying.Visible || QApplication::activePopupWidget());
+    EXPECT_TRUE(List->hasFocus());
+
+    frmLCC.Visible = false;
+    frmResults.LoadHidden();
+    frmResults.Visible = true;
+    frmResults.sscDutypoint.Visible = true; // as with a pump curve
+    for (const auto& [Show, Pane] : {std::pair(&frmResults.sscDutypoint, &frmResults.fraDuty),
+                                     {&frmResults.sscViewHydraulicTable, &frmResults.fraTable}}) {
+        FocusTarget(*Show)->setFocus();
+        Press(Qt::Key_Enter);
+        EXPECT_TRUE(Pane->Visible) << Show->ToolTip;
+        Press(Qt::Key_Escape);
+        EXPECT_FALSE(Pane->Visible) << Show->ToolTip;
+    }
 }
 
 // The page stays. The box waits until the page, or the pane over it, is the right one.
