@@ -34,11 +34,10 @@ struct Report {
 };
 
 // The sections that are asked for. Throws Failure when one of those named doesn't apply.
-std::vector<ReportSection> WantedSections(const ReportOptions& Options, const PlotView& View,
-                                          const ScriptedPlatform& Windows)
+std::vector<ReportSection> WantedSections(const ReportOptions& Options, const PlotView& View)
 {
     std::vector<ReportSection> Wanted;
-    for (const ReportSection& Each : AllReportSections(View, Windows)) {
+    for (const ReportSection& Each : AllReportSections(View)) {
         const auto& Names = Options.Sections;
         const bool Named = std::find(Names.begin(), Names.end(), Each.Name) != Names.end();
         if (Named && !Each.Applies())
@@ -101,7 +100,7 @@ void PrintInto(Report& Result, const ReportOptions& Options, const ScriptedPlatf
     try {
         const PlotView View{.Year = Options.Year, .Begin = {}, .End = {}};
         PrintYear = static_cast<std::int16_t>(YearOf(View));
-        std::vector<ReportSection> Wanted = WantedSections(Options, View, Windows);
+        std::vector<ReportSection> Wanted = WantedSections(Options, View);
         Result.Stood = WorkOutFor(Wanted);
         PrintAll(Wanted, Windows, Result);
     } catch (const Failure& Problem) {

@@ -34,7 +34,7 @@ ReportSection SectionOf(const PrintSection& Row)
             .Print = Row.Print};
 }
 
-ReportSection SectionOf(const ButtonSection& Row, const PlotView& View, const ScriptedPlatform& Windows)
+ReportSection SectionOf(const ButtonSection& Row, const PlotView& View)
 {
     const DirectPrint& Button = Named(DirectPrints(), Row.Name);
     const Plot& Shown = Named(AllPlots(), Row.PlotName);
@@ -44,19 +44,20 @@ ReportSection SectionOf(const ButtonSection& Row, const PlotView& View, const Sc
             .Basis = Shown.Basis,
             .IsDefault = false,
             .Applies = Shown.Applies,
-            .Print = [&Button, &Shown, View, &Windows] {
-                DrawPlot(Shown, View, Windows);
+            .Print = [&Button, &Shown, View] {
+                Shown.Surface.Clear(); // of what another section has drawn there
+                Shown.Draw(View);
                 Button.Print();
             }};
 }
 
 } // namespace
 
-std::vector<ReportSection> AllReportSections(const PlotView& View, const ScriptedPlatform& Windows)
+std::vector<ReportSection> AllReportSections(const PlotView& View)
 {
     std::vector<ReportSection> All;
     for (const PrintSection& Each : PrintSections()) All.push_back(SectionOf(Each));
-    for (const ButtonSection& Each : ButtonSections) All.push_back(SectionOf(Each, View, Windows));
+    for (const ButtonSection& Each : ButtonSections) All.push_back(SectionOf(Each, View));
     return All;
 }
 

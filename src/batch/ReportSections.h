@@ -19,9 +19,8 @@ struct ReportSection {
     std::function<void()> Print;
 };
 
-// In the order in which they are printed. What shows one year shows that of the view; Windows is the window
-// system in use.
-std::vector<ReportSection> AllReportSections(const PlotView& View, const ScriptedPlatform& Windows);
+// In the order in which they are printed. What shows one year shows that of the view.
+std::vector<ReportSection> AllReportSections(const PlotView& View);
 
 std::vector<std::string> ReportSectionNames();
 

@@ -1,6 +1,7 @@
 // Capital cost with its additions, present values, and the annual cost of the first year.
 #include "cost/CapitalCost.h"
 #include "cost/CostResults.h"
+#include "input/InputScreen.h"
 #include "model/WorkingSet.h"
 #include "reports/PageFrame.h"
 #include "reports/ReportPage.h"
@@ -13,6 +14,13 @@ namespace {
 constexpr const char* CapitalPattern = "###,###,###,###,##0";
 constexpr const char* PresentValuePattern = "#,###,###,###,###,000";
 constexpr const char* AnnualPattern = "###,###,##0";
+
+// Behind the currency sign; nothing for an amount that is no number.
+std::string Amount(Single Value, const char* Pattern)
+{
+    const std::string Text = FigureText(Value, Pattern);
+    return Text.empty() ? Text : CurrencySign() + Text;
+}
 
 // In 32 bits, as the table on the screen has it.
 void PrintCost(const std::string& Label, Single Cost)
@@ -53,7 +61,7 @@ void PrintReturn()
     Printer.PrintCells({{7, "Expenditure:"}, {30, Amount(NpvCost, PresentValuePattern)}});
     Printer.PrintCells({{7, "Income:"}, {30, Amount(NpvIncome, PresentValuePattern)}});
     PrintBold({{6, "Internal Rate of Return"}});
-    Printer.PrintCells({{7, "IRR:"}, {30, FigureText(Irr, "#0.000") + " %"}});
+    Printer.PrintCells({{7, "IRR:"}, {30, FigureWithUnit(Irr, "%")}});
 }
 
 // The amount of the first year, and the rate by which it rises.

@@ -81,20 +81,12 @@ std::string YearFact(int Year)
     return "Year: " + std::to_string(wSupplyStart + Year - 1);
 }
 
-// The figure with its unit; nothing for one that can't be worked out.
-template <typename Number>
-std::string WithUnit(Number Value, const char* Unit)
-{
-    const std::string Text = FigureText(Value, "#0.000");
-    return Text.empty() ? Text : Text + Unit;
-}
-
 std::string RoughnessFact(int Year)
 {
     constexpr double MillimetresPerMetre = 1000;
     constexpr double InchesPerMetre = 39.3700787;
-    return UsesUSUnits() ? WithUnit(KsYear[Year] * InchesPerMetre, " ''")
-                         : WithUnit(KsYear[Year] * MillimetresPerMetre, " mm");
+    return UsesUSUnits() ? FigureWithUnit(KsYear[Year] * InchesPerMetre, "''")
+                         : FigureWithUnit(KsYear[Year] * MillimetresPerMetre, "mm");
 }
 
 void BeginLegend(double Y)
@@ -279,7 +271,7 @@ void PrintIrrGraph()
     BeginWidePage("IRR GRAPH:");
     PrintFact("Begin IRR:", RateFact(frmIRRView.hsbBegin), RateColumn);
     PrintFact("End IRR:", RateFact(frmIRRView.hsbEnd), RateColumn);
-    PrintFact("Calculated IRR:", WithUnit(Irr, " %"), RateColumn);
+    PrintFact("Calculated IRR:", FigureWithUnit(Irr, "%"), RateColumn);
     Printer.PaintPicture(frmIRRView.picIRR.Image(), 50, 55, 190, 100);
     EndWidePage();
 }

@@ -7,7 +7,6 @@
 #include "input/InputScreen.h"
 #include "model/WorkingSet.h"
 #include "reports/PageFrame.h"
-#include "results/FlowCaptions.h"
 
 namespace velorix {
 
@@ -73,12 +72,6 @@ std::string InFormat(const TextBox& Box, const char* Pattern)
 std::string KindOfSystem()
 {
     return IsPumping() ? "PUMPING SYSTEM" : "GRAVITY SYSTEM";
-}
-
-std::string Amount(Single Value, const char* Pattern)
-{
-    const std::string Text = FigureText(Value, Pattern);
-    return Text.empty() ? Text : CurrencySign() + Text;
 }
 
 } // namespace velorix

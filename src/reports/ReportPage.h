@@ -1,7 +1,6 @@
 // What the text reports have in common: titles, bold lines, tables with their page breaks, texts of figures.
 #pragma once
 
-#include "base/Single.h"
 #include "platform/Controls.h"
 #include "platform/Printer.h"
 
@@ -42,8 +41,5 @@ std::string InFormat(const TextBox& Box, const char* Pattern);
 
 // "PUMPING SYSTEM" or "GRAVITY SYSTEM".
 std::string KindOfSystem();
-
-// The amount in that format behind the currency sign; empty for one that is no number.
-std::string Amount(Single Value, const char* Pattern);
 
 } // namespace velorix

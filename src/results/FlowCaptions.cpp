@@ -2,13 +2,11 @@
 #include "results/FlowCaptions.h"
 
 #include "base/Arithmetic.h"
-#include "base/Failure.h"
 #include "base/Format.h"
 #include "base/Text.h"
 #include "hydraulics/HydraulicResults.h"
 #include "model/Units.h"
 #include "model/WorkingSet.h"
-#include "results/SupplyPlots.h"
 #include "screens/Lcc.h"
 
 #include <cmath>
@@ -31,8 +29,7 @@ std::string TextOf(Number Figure, const char* Pattern)
 
 std::string WithUnit(double Figure, const ComboBox& Units)
 {
-    const std::string Text = FigureText(Figure, "#0.000");
-    return Text.empty() ? Text : Text + " " + Trim(Units.Text());
+    return FigureWithUnit(Figure, Trim(Units.Text()));
 }
 
 } // namespace
@@ -79,15 +76,6 @@ double KsNewFactor()
 {
     const Unit* const Known = UnitAt(FineLengthUnitList, wKsNewUnits);
     return Known ? Known->Factor : 0;
-}
-
-std::string CapacityText(int Year)
-{
-    try {
-        return FigureText(CapacityOfYear(Year), "#0.000");
-    } catch (const ArithmeticFailure&) {
-        return {};
-    }
 }
 
 std::string DemandUnit()

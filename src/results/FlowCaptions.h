@@ -25,10 +25,6 @@ std::string InBrackets(const std::string& Unit);
 // From the unit of wKsNew to metres; 0 for an index outside the list.
 double KsNewFactor();
 
-// What the pipeline can deliver in an operating year, in the unit of the demand; empty where it can't be
-// worked out.
-std::string CapacityText(int Year);
-
 // The unit in which the demand is entered, as its list shows it.
 std::string DemandUnit();
 
@@ -36,5 +32,13 @@ std::string DemandUnit();
 // number.
 std::string FigureText(Single Figure, const char* Pattern);
 std::string FigureText(double Figure, const char* Pattern);
+
+// The figure in "#0.000" with the unit behind a blank; empty when the figure is.
+template <typename Number>
+std::string FigureWithUnit(Number Figure, const std::string& Unit)
+{
+    const std::string Text = FigureText(Figure, "#0.000");
+    return Text.empty() ? Text : Text + " " + Unit;
+}
 
 } // namespace velorix

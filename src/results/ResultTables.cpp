@@ -54,7 +54,7 @@ std::string AmountOfYear(bool HasAmount, Single Amount)
 
 std::vector<std::string> DemandRow(int y)
 {
-    return {std::to_string(wSupplyStart + y - 1), CapacityText(y),
+    return {std::to_string(wSupplyStart + y - 1), FigureText(CapacityOfYear(y), "#0.000"),
             FigureText(DemandOfYear(y) - Shortage[y], "#0.000"), FigureText(Shortage[y], "#0.000"),
             FigureText(PumpingHours[y], "#0.00")};
 }

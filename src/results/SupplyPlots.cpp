@@ -103,15 +103,15 @@ Single EntryOrZero(const Array& Series, int k)
 void DrawDemandBars()
 {
     BarChart Plot(DemandPlot, wLife);
-    DataRange Values{CapacityOfYear(1), CapacityOfYear(1)};
+    DataRange Values{Checked(CapacityOfYear(1)), Checked(CapacityOfYear(1))};
     for (int y = 1; y <= wLife; ++y) {
-        Values.Take(CapacityOfYear(y));
+        Values.Take(Checked(CapacityOfYear(y)));
         Values.Take(DemandOfYear(y));
     }
     StartBarChart(Plot, Values);
     Plot.Surface.DrawPicture(picVLDemand, 10, 1500);
     for (int y = 1; y <= wLife; ++y) {
-        Plot.First(y, CapacityOfYear(y), PureGreen);
+        Plot.First(y, Checked(CapacityOfYear(y)), PureGreen);
         const Single Supplied = Checked(DemandOfYear(y) - Shortage[y]);
         Plot.Second(y, Supplied, PureRed);
         if (Shortage[y] != 0) Plot.OnSecond(y, Supplied, DemandOfYear(y), Blue);
@@ -178,10 +178,10 @@ void ShowIncomeLegend()
 
 } // namespace
 
-Single CapacityOfYear(int Year)
+double CapacityOfYear(int Year)
 {
     const double Q = Flow[Year];
-    return Checked(IsPumping() ? Q * wPumpingHours / 24 / DemandFactor : Q / DemandFactor);
+    return IsPumping() ? Q * wPumpingHours / 24 / DemandFactor : Q / DemandFactor;
 }
 
 Single DemandOfYear(int Year)

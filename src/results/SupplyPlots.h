@@ -6,7 +6,7 @@
 namespace velorix {
 
 // What the pipeline can deliver in an operating year, and what is asked of it, in the unit of the demand.
-Single CapacityOfYear(int Year);
+double CapacityOfYear(int Year);
 Single DemandOfYear(int Year);
 
 // Years on the income plot: those of construction and those of supply.
