@@ -36,6 +36,7 @@ void SetEntries(QComboBox& View, const std::vector<std::string>& Entries)
         View.addItem(Entry);
         Longest = std::max(Longest, Entry.size());
     }
+    View.setSizeAdjustPolicy(QComboBox::AdjustToContents); // and not to those of its first show
     View.setMinimumContentsLength(Longest > LeastLetters ? LeastLetters : 0);
     View.view()->setMinimumWidth(std::max(View.view()->minimumWidth(), View.sizeHint().width()));
 }

@@ -30,8 +30,8 @@ void DrawCell(QPainter& Painter, const QRect& Place, const QColor& Back, int Fla
                          : Painter.fontMetrics().elidedText(Text, Qt::ElideRight, Room.width()));
 }
 
-// Numbers at the right, texts at the left, unless all are centred. What a cell that can be edited won't be
-// read as, with commas or blanks in it, is a text.
+// Numbers at the right, texts at the left. What a cell that can be edited won't be read as, with commas or
+// blanks in it, is a text.
 int AlignmentOf(const QString& Text, bool Editable)
 {
     return (IsNumberText(Text, !Editable) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;

@@ -48,7 +48,12 @@ void FilterKeys(TextBox& Box, const KeyFilter& Filter)
     Box.KeyPress = [&Filter](int& Key) {
         if (!Passes(Filter, Key)) Key = 0;
     };
-    Box.Inserted = [&Filter](const std::string& Text) { TellOfInserted(Filter, Text); };
+    Box.Inserted = [&Box, &Filter](const std::string& Text) {
+        TellOfInserted(Filter, Text);
+        const std::string_view Kept =
+            TrimmedCell(Box.Text.Get()); // a cell of a table brings its line end along
+        if (Kept.size() < Box.Text.Get().size()) Box.Text = std::string(Kept);
+    };
 }
 
 void TellBounds(ScrollBar& Bar, std::string (*Caption)(int))

@@ -37,7 +37,7 @@ void CloseViewers()
     for (Screen* Viewer :
          std::initializer_list<Screen*>{&frmView, &frmPumpView, &frmIRRView, &frmViewRoughness})
         if (Viewer->IsLoaded()) Viewer->Unload();
-    frmRoughness.Visible = false; // with all that was typed into it
+    frmRoughness.Visible = false; // keeps what was typed into it
     MDIProject.mnuRoughness.Visible = false;
 }
 

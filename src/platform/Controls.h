@@ -83,6 +83,7 @@ struct CheckBox : Control {
 struct CommandButton : Control {
     explicit CommandButton(std::string Text = {}, std::string Hint = {});
     Property<std::string> Caption{*this}; // "&" marks the letter that presses it
+    bool IsHelp = false;                  // F1 presses it where it stands in a dialog
     Handler Click;
 };
 

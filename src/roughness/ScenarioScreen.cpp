@@ -133,14 +133,19 @@ void ScenarioChanged()
 void RefreshScenario()
 {
     for (int Point = 1; Point <= MaxPoints; ++Point) ShowPoint(Point);
-    ForEachResultRow([](int Row, const RoughnessRow&) {
-        for (int j = 1; j <= MaxStretches; ++j) frmRoughness.msgRoughnessResults.SetText(Row, j, "");
-    });
+    EmptyResults();
     const ScenarioFlows& Stored = ScenarioFlow[CurrentScenario];
     frmRoughness.txtFlowrate.Text = GeneralText(Stored[TheFlow]);
     frmRoughness.comFlowrateUnits.ListIndex = static_cast<int>(Stored[TheFlowUnit]);
     frmRoughness.comPressureUnits.ListIndex = static_cast<int>(Stored[ThePressureUnit]);
     EntriesBefore = Entries();
+}
+
+void EmptyResults()
+{
+    ForEachResultRow([](int Row, const RoughnessRow&) {
+        for (int j = 1; j <= MaxStretches; ++j) frmRoughness.msgRoughnessResults.SetText(Row, j, "");
+    });
 }
 
 void CalculatePressed()

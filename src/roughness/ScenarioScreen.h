@@ -16,6 +16,9 @@ void ScenarioChanged();
 // Fills the screen from the stores of CurrentScenario, and empties the results.
 void RefreshScenario();
 
+// The results of all stretches go from the screen; the stores keep them.
+void EmptyResults();
+
 // Takes the screen over, works out all scenarios and shows the results of the current one.
 void CalculatePressed();
 

@@ -4,21 +4,16 @@
 #include "base/CodePage.h"
 #include "base/Text.h"
 #include "input/KeyFilters.h"
-#include "input/ProfileTable.h"
 #include "input/Session.h"
-#include "model/Components.h"
 #include "platform/Keys.h"
 #include "platform/Platform.h"
-#include "results/PlotState.h"
 #include "screens/Lcc.h"
 #include "screens/MainWindow.h"
-#include "screens/RoughnessScreen.h"
+#include "shell/EditedGrids.h"
 #include "shell/GridPaste.h"
 #include "shell/Hints.h"
 
 #include <algorithm>
-#include <array>
-#include <span>
 #include <utility>
 
 namespace velorix {
@@ -267,68 +262,6 @@ void EntryChosen(const CellEditing& Editing)
     FillList(Editing);
 }
 
-std::vector<std::string> ComponentEntries()
-{
-    return {ComponentTable.begin(), ComponentTable.begin() + NamedComponents};
-}
-
-void AddRowAndGoThere()
-{
-    ChangeProfileRows(AddProfileRow);
-    frmLCC.msgProfile.Select(frmLCC.msgProfile.Rows() - 1, 1);
-}
-
-constexpr std::size_t InputGridCount = 6;
-
-const std::array<CellEditing, InputGridCount + 1> EditedGrids = {{
-    {.Table = frmLCC.msgProfile,
-     .Editor = frmLCC.txtCell,
-     .EditableCols = {1, 2, 3, 4, 5, 6},
-     .FilteredInGrid = {1, 2, 5, 6},
-     .FilteredInEditor = {1, 2, 4},
-     .List = &frmLCC.comNode,
-     .ListCol = 7,
-     .ListEntries = ComponentEntries,
-     .EnterOnLastRow = AddRowAndGoThere,
-     .Menu = &MDIProject.mnuFGridRows},
-    {.Table = frmLCC.msgLaying,
-     .Editor = frmLCC.txtLaying,
-     .EditableCols = {1},
-     .FilteredInGrid = {1},
-     .FilteredInEditor = {1}},
-    {.Table = frmLCC.msgOperational,
-     .Editor = frmLCC.txtCellOperational,
-     .EditableCols = {1, 2},
-     .FilteredInGrid = {1, 2},
-     .FilteredInEditor = {1, 2}},
-    {.Table = frmLCC.msgOtherOperational,
-     .Editor = frmLCC.txtCellOtherOperational,
-     .EditableCols = {1},
-     .FilteredInGrid = {1},
-     .FilteredInEditor = {1}},
-    {.Table = frmLCC.msgDemand,
-     .Editor = frmLCC.txtDemand,
-     .EditableCols = {1},
-     .FilteredInGrid = {1},
-     .FilteredInEditor = {1}},
-    {.Table = frmLCC.msgPumpDemand,
-     .Editor = frmLCC.txtPumpDemand,
-     .EditableCols = {1},
-     .FilteredInGrid = {1},
-     .FilteredInEditor = {1}},
-    {.Table = frmRoughness.msgRoughness,
-     .Editor = frmRoughness.txtCell,
-     .EditableCols = {1, 2, 3, 4, 5},
-     .FilteredInGrid = {1, 2, 3, 4, 5},
-     .FilteredInEditor = {1, 2, 3, 4, 5},
-     .List = &frmRoughness.comAccLength,
-     .ListRow = 1,
-     .ListEntries = DistanceEntries},
-}};
-
-// Those of the input screen.
-const std::span<const CellEditing> InputGrids = std::span(EditedGrids).first<InputGridCount>();
-
 void Settle(const CellEditing& Editing)
 {
     Editing.Editor.Visible = false;
@@ -337,20 +270,20 @@ void Settle(const CellEditing& Editing)
 
 void SettleAll()
 {
-    for (const CellEditing& Each : InputGrids) Settle(Each);
+    for (const CellEditing& Each : InputGrids()) Settle(Each);
 }
 
 // The current cell counts as entered anew.
 void Reenter(const Grid& Table)
 {
-    for (const CellEditing& Each : EditedGrids)
+    for (const CellEditing& Each : EditedGrids())
         if (&Each.Table == &Table && !OnHeading(Table)) TakeCurrentCell(Each);
     SettleGridEditor(Table);
 }
 
 void AllFilled()
 {
-    for (const CellEditing& Each : InputGrids) GridFilled(Each.Table);
+    for (const CellEditing& Each : InputGrids()) GridFilled(Each.Table);
 }
 
 } // namespace
@@ -397,14 +330,14 @@ void ConnectGridEditor(const CellEditing& Editing)
 
 void ConnectGridEditors()
 {
-    for (const CellEditing& Each : EditedGrids) ConnectGridEditor(Each);
+    for (const CellEditing& Each : EditedGrids()) ConnectGridEditor(Each);
     ProjectLoaded = AllFilled;
     frmLCC.Shown = SettleAll;
 }
 
 void SettleGridEditor(const Grid& Table)
 {
-    for (const CellEditing& Each : EditedGrids)
+    for (const CellEditing& Each : EditedGrids())
         if (&Each.Table == &Table) Settle(Each);
 }
 

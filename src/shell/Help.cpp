@@ -6,8 +6,7 @@
 namespace velorix {
 namespace {
 
-constexpr const char* HelpToolTip = "Help"; // of every help button that stands for its whole screen
-constexpr int OtherHelp = 5000;             // of a screen without a topic of its own
+constexpr int OtherHelp = 5000; // of a screen without a topic of its own
 
 } // namespace
 
@@ -18,6 +17,7 @@ void ShowHelpTopic(int Topic)
 
 void HelpOn(CommandButton& Button, int Topic)
 {
+    Button.IsHelp = true;
     Button.Click = [Topic] { ShowHelpTopic(Topic); };
 }
 
@@ -26,7 +26,7 @@ void ShowHelpOf(const std::vector<Screen*>& Dialogs)
     for (auto Dialog = Dialogs.rbegin(); Dialog != Dialogs.rend(); ++Dialog)
         for (const Control* Each : (*Dialog)->Controls)
             if (const auto* const Button = dynamic_cast<const CommandButton*>(Each);
-                Button && Button->Visible && Button->ToolTip == HelpToolTip)
+                Button && Button->Visible && Button->IsHelp)
                 return Button->Click();
     ShowHelpTopic(OtherHelp);
 }

@@ -65,7 +65,7 @@ void ConnectMenus()
     MDIProject.mnuExit.Click = ExitCommand;
     MDIProject.mnuExit1.Click = ExitCommand;
     MDIProject.mnuAnalyse.Click = AnalyseCommand;
-    MDIProject.mnuRoughness.Click = RoughnessCommand;
+    MDIProject.mnuRoughness.Click = ShowRoughness;
     MDIProject.mnuPreferences.Click = PreferencesCommand;
     MDIProject.mnuContents.Click = [] { ShowHelpTopic(1000); };
     MDIProject.mnuHelpOn.Click = [] { ShowHelpTopic(1000); };
@@ -153,12 +153,6 @@ void ConvertCommand()
 {
     LeaveProjectScreens();
     System().ShowModal(frmConverter);
-}
-
-void RoughnessCommand()
-{
-    frmView.Visible = false;
-    ShowRoughness();
 }
 
 void PreferencesCommand()

@@ -34,8 +34,11 @@ void MoveToScenario()
 
 void ShowRoughness()
 {
-    if (frmViewRoughness.IsLoaded()) frmViewRoughness.Unload();
     const bool OpensAnew = !frmRoughness.IsLoaded();
+    const bool FromPlot = frmViewRoughness.IsLoaded();
+    if (FromPlot) frmViewRoughness.Unload();
+    if (!OpensAnew && !FromPlot) EmptyResults(); // they may be those of another profile by now
+    frmView.Visible = false;
     frmRoughness.LoadHidden();
     frmRoughness.Visible = true;
     // The first length is ready to be chosen; until then the cell under the list is empty.

@@ -6,7 +6,7 @@ namespace velorix {
 // To be called before ConnectGridEditors.
 void ConnectRoughness();
 
-// Shows frmRoughness in place of its plot.
+// Shows frmRoughness in place of the profile view or of its own plot.
 void ShowRoughness();
 
 } // namespace velorix

@@ -77,7 +77,6 @@ void LoadRoughnessView()
 void CloseRoughnessView()
 {
     frmViewRoughness.Unload();
-    frmRoughness.LoadHidden();
     frmRoughness.Visible = true;
 }
 

@@ -151,7 +151,7 @@ Advice OfCell(const CellPlace& Cell)
             Cell.Row, Cell.Col};
 }
 
-// What the parse has refused; the table holds something else then.
+// What the parse has refused.
 std::string OfRefused(ParseOutcome Outcome)
 {
     switch (Outcome) {

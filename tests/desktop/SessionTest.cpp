@@ -303,7 +303,8 @@ TEST_F(SessionTest, WhatCannotBeTypedIsTold)
         Press(Qt::Key_V, Qt::ControlModifier);
         EXPECT_EQ(Told(), Sentence);
     }
-    EXPECT_EQ(frmLCC.txtKsOld.Text.Get(), "12.5 12,5"); // a paste isn't filtered
+    EXPECT_EQ(frmLCC.txtKsOld.Text.Get(),
+              "12.512,5"); // a paste is not filtered, but for the blanks around it
 
     FocusTarget(frmLCC.msgProfile)->setFocus();
     Type("-");
