@@ -1,7 +1,6 @@
 // Reading and searching of the help text.
 #include "desktop/HelpTopics.h"
 
-#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -28,6 +27,23 @@ bool Holds(const HelpTopic& Topic, const QString& Words)
     return std::all_of(All.begin(), All.end(), [&Topic](const QString& Word) {
         return Topic.Text.contains(Word, Qt::CaseInsensitive);
     });
+}
+
+QRegularExpression BeginningWith(const QString& Word)
+{
+    return QRegularExpression("(?<!\\w)" + QRegularExpression::escape(Word),
+                              QRegularExpression::CaseInsensitiveOption |
+                                  QRegularExpression::UseUnicodePropertiesOption);
+}
+
+qsizetype BeginningsIn(const HelpTopic& Topic, const QString& Words)
+{
+    qsizetype Least = -1;
+    for (const QString& Word : Words.split(' ', Qt::SkipEmptyParts)) {
+        const qsizetype Count = Topic.Text.count(BeginningWith(Word));
+        Least = Least < 0 ? Count : std::min(Least, Count);
+    }
+    return std::max<qsizetype>(Least, 0);
 }
 
 } // namespace velorix

@@ -1,6 +1,7 @@
 // The topics of the help file.
 #pragma once
 
+#include <QRegularExpression>
 #include <QString>
 
 #include <vector>
@@ -19,5 +20,12 @@ std::vector<HelpTopic> HelpTopicsIn(const QString& Text);
 
 // True when the topic holds every one of the words, in any case; without a word always.
 bool Holds(const HelpTopic& Topic, const QString& Words);
+
+// Finds where a word of the text begins with the given one, in any case.
+QRegularExpression BeginningWith(const QString& Word);
+
+// How often words of the topic begin with one of the words: that which is found least counts. 0 without a
+// word.
+qsizetype BeginningsIn(const HelpTopic& Topic, const QString& Words);
 
 } // namespace velorix
