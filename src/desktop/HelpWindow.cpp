@@ -16,6 +16,7 @@
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QSvgRenderer>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextTable>
 #include <QToolButton>
@@ -60,6 +61,18 @@ void FormatTables(QTextDocument& Document)
         Format.setTopMargin(Gap);
         Format.setBottomMargin(Gap);
         Table->setFormat(Format);
+    }
+}
+
+// Room above headings and below lists, of which it leaves little.
+void FormatBlocks(const QTextDocument& Document)
+{
+    for (QTextBlock Block = Document.begin().next(); Block.isValid(); Block = Block.next()) {
+        QTextBlockFormat Format = Block.blockFormat();
+        const bool IsHeading = Format.headingLevel() > 0;
+        if (!IsHeading && (Block.textList() || !Block.previous().textList())) continue;
+        Format.setTopMargin(IsHeading ? 2 * Gap : Gap);
+        QTextCursor(Block).setBlockFormat(Format);
     }
 }
 
@@ -254,6 +267,7 @@ void HelpWindow::ShowChosen(int Topic)
         List->setCurrentRow(RowOf(Topic));
     }
     FormatTables(*Text->document());
+    FormatBlocks(*Text->document());
     MarkWords();
 }
 
