@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <limits>
 
 namespace velorix {
 
@@ -21,14 +22,6 @@ std::vector<HelpTopic> HelpTopicsIn(const QString& Text)
     return Topics;
 }
 
-bool Holds(const HelpTopic& Topic, const QString& Words)
-{
-    const QStringList All = Words.split(' ', Qt::SkipEmptyParts);
-    return std::all_of(All.begin(), All.end(), [&Topic](const QString& Word) {
-        return Topic.Text.contains(Word, Qt::CaseInsensitive);
-    });
-}
-
 QRegularExpression BeginningWith(const QString& Word)
 {
     return QRegularExpression("(?<!\\w)" + QRegularExpression::escape(Word),
@@ -36,14 +29,17 @@ QRegularExpression BeginningWith(const QString& Word)
                                   QRegularExpression::UseUnicodePropertiesOption);
 }
 
-qsizetype BeginningsIn(const HelpTopic& Topic, const QString& Words)
+qsizetype Relevance(const HelpTopic& Topic, const QString& Words)
 {
-    qsizetype Least = -1;
-    for (const QString& Word : Words.split(' ', Qt::SkipEmptyParts)) {
-        const qsizetype Count = Topic.Text.count(BeginningWith(Word));
-        Least = Least < 0 ? Count : std::min(Least, Count);
+    constexpr qsizetype InTitle = 1000; // before any topic that only mentions it
+    const QStringList All = Words.split(' ', Qt::SkipEmptyParts);
+    qsizetype Least = All.isEmpty() ? 0 : std::numeric_limits<qsizetype>::max();
+    for (const QString& Word : All) {
+        if (!Topic.Text.contains(Word, Qt::CaseInsensitive)) return -1;
+        const QRegularExpression Beginning = BeginningWith(Word);
+        Least = std::min(Least, Topic.Text.count(Beginning) + InTitle * Topic.Title.count(Beginning));
     }
-    return std::max<qsizetype>(Least, 0);
+    return Least;
 }
 
 } // namespace velorix

@@ -222,8 +222,7 @@ void HelpWindow::ShowTopic(int Number)
 void HelpWindow::Search(const QString& Wanted)
 {
     std::vector<qsizetype> Weights;
-    for (const HelpTopic& Each : Topics)
-        Weights.push_back(Holds(Each, Wanted) ? BeginningsIn(Each, Wanted) : -1);
+    for (const HelpTopic& Each : Topics) Weights.push_back(Relevance(Each, Wanted));
     const auto WeightOf = [&Weights](int Topic) { return Weights[static_cast<std::size_t>(Topic)]; };
     std::iota(Listed.begin(), Listed.end(), 0);
     std::stable_sort(Listed.begin(), Listed.end(),

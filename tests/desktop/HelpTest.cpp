@@ -200,6 +200,9 @@ TEST_F(HelpWindowTest, ASearchListsTheTopicsThatHoldAllWordsAndMarksThem)
 // nothing begins so.
 TEST_F(HelpWindowTest, WordsThatBeginWithWhatIsTypedComeFirst)
 {
+    Search("p"); // that of a title before those of a text
+    EXPECT_EQ(Listed(), QStringList({"Pipe laying", "Energy"}));
+    EXPECT_TRUE(Shown().contains("Peak"));
     Search("e"); // Contents, Pipe, Energy, See
     EXPECT_EQ(Listed(), QStringList({"Energy", "Contents", "Pipe laying"}));
     EXPECT_TRUE(Shown().contains("Peak"));
