@@ -19,6 +19,9 @@ class ScrollBarView;
 constexpr int CardMargin = 10;
 constexpr int Gap = 8;
 
+// What a window's frame takes of a display.
+constexpr QSize FrameAllowance(20, 60);
+
 // Rows of caption, sign, field and unit. The parts of all rows of one widget stand under each other, and none
 // grows beyond what it holds.
 class FormRows {

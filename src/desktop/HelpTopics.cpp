@@ -1,10 +1,10 @@
 // Reading and searching of the help text.
 #include "desktop/HelpTopics.h"
 
-#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
+#include <limits>
 
 namespace velorix {
 
@@ -22,12 +22,24 @@ std::vector<HelpTopic> HelpTopicsIn(const QString& Text)
     return Topics;
 }
 
-bool Holds(const HelpTopic& Topic, const QString& Words)
+QRegularExpression BeginningWith(const QString& Word)
 {
+    return QRegularExpression("(?<!\\w)" + QRegularExpression::escape(Word),
+                              QRegularExpression::CaseInsensitiveOption |
+                                  QRegularExpression::UseUnicodePropertiesOption);
+}
+
+qsizetype Relevance(const HelpTopic& Topic, const QString& Words)
+{
+    constexpr qsizetype InTitle = 1000; // before any topic that only mentions it
     const QStringList All = Words.split(' ', Qt::SkipEmptyParts);
-    return std::all_of(All.begin(), All.end(), [&Topic](const QString& Word) {
-        return Topic.Text.contains(Word, Qt::CaseInsensitive);
-    });
+    qsizetype Least = All.isEmpty() ? 0 : std::numeric_limits<qsizetype>::max();
+    for (const QString& Word : All) {
+        if (!Topic.Text.contains(Word, Qt::CaseInsensitive)) return -1;
+        const QRegularExpression Beginning = BeginningWith(Word);
+        Least = std::min(Least, Topic.Text.count(Beginning) + InTitle * Topic.Title.count(Beginning));
+    }
+    return Least;
 }
 
 } // namespace velorix

@@ -1,6 +1,7 @@
 // The topics of the help file.
 #pragma once
 
+#include <QRegularExpression>
 #include <QString>
 
 #include <vector>
@@ -17,7 +18,11 @@ struct HelpTopic {
 // the first is left out.
 std::vector<HelpTopic> HelpTopicsIn(const QString& Text);
 
-// True when the topic holds every one of the words, in any case; without a word always.
-bool Holds(const HelpTopic& Topic, const QString& Words);
+// Finds where a word of a text begins with the given one, in any case.
+QRegularExpression BeginningWith(const QString& Word);
+
+// How often words of the topic begin with the given ones, that which is found least, and in its title above
+// all. 0 when one stands only inside of others, -1 when the topic doesn't hold it; 0 without a word.
+qsizetype Relevance(const HelpTopic& Topic, const QString& Words);
 
 } // namespace velorix

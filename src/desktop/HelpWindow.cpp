@@ -16,9 +16,13 @@
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QSvgRenderer>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextTable>
 #include <QToolButton>
+
+#include <algorithm>
+#include <numeric>
 
 namespace velorix {
 namespace {
@@ -57,6 +61,18 @@ void FormatTables(QTextDocument& Document)
         Format.setTopMargin(Gap);
         Format.setBottomMargin(Gap);
         Table->setFormat(Format);
+    }
+}
+
+// Room above headings and below lists, of which it leaves little.
+void FormatBlocks(const QTextDocument& Document)
+{
+    for (QTextBlock Block = Document.begin().next(); Block.isValid(); Block = Block.next()) {
+        QTextBlockFormat Format = Block.blockFormat();
+        const bool IsHeading = Format.headingLevel() > 0;
+        if (!IsHeading && (Block.textList() || !Block.previous().textList())) continue;
+        Format.setTopMargin(IsHeading ? 2 * Gap : Gap);
+        QTextCursor(Block).setBlockFormat(Format);
     }
 }
 
@@ -120,10 +136,12 @@ private:
 HelpWindow::HelpWindow(std::vector<HelpTopic> AllTopics, QWidget* Owner)
     : QWidget(Owner, Flags)
     , Topics(std::move(AllTopics))
+    , Listed(Topics.size())
 {
+    std::iota(Listed.begin(), Listed.end(), 0);
     setWindowTitle("Velorix Help");
     setAttribute(Qt::WA_DeleteOnClose);
-    resize(WindowSize.boundedTo(screen()->availableSize()));
+    resize(WindowSize.boundedTo(screen()->availableSize() - FrameAllowance));
 
     auto* const Panes = new QSplitter;
     Panes->addWidget(TopicPane());
@@ -147,10 +165,13 @@ QWidget* HelpWindow::TopicPane()
     NameField(Words, "Search for help on");
     List = new QListWidget;
     List->setSpacing(2);
+    List->setSizeAdjustPolicy(QListWidget::AdjustToContents); // the rest is the text's
     NameField(List, "Topics");
     for (const HelpTopic& Each : Topics) List->addItem(Each.Title);
     connect(Words, &QLineEdit::textChanged, this, &HelpWindow::Search);
-    connect(List, &QListWidget::currentRowChanged, this, &HelpWindow::Choose);
+    connect(List, &QListWidget::currentRowChanged, this, [this](int Row) {
+        if (Row >= 0) Choose(Listed[static_cast<std::size_t>(Row)]);
+    });
     return InColumn({Words, List});
 }
 
@@ -197,15 +218,26 @@ void HelpWindow::ShowTopic(int Number)
     Choose(Found);
 }
 
+// The topics come in the order of what they have to tell. The one that shows stays if the list has it.
 void HelpWindow::Search(const QString& Wanted)
 {
-    int First = -1;
-    for (int Topic = List->count() - 1; Topic >= 0; --Topic) {
-        const bool Hit = Holds(Topics[static_cast<std::size_t>(Topic)], Wanted);
-        List->item(Topic)->setHidden(!Hit);
-        if (Hit) First = Topic;
+    std::vector<qsizetype> Weights;
+    for (const HelpTopic& Each : Topics) Weights.push_back(Relevance(Each, Wanted));
+    const auto WeightOf = [&Weights](int Topic) { return Weights[static_cast<std::size_t>(Topic)]; };
+    std::iota(Listed.begin(), Listed.end(), 0);
+    std::stable_sort(Listed.begin(), Listed.end(),
+                     [&WeightOf](int One, int Other) { return WeightOf(One) > WeightOf(Other); });
+    {
+        const QSignalBlocker Silent(List);
+        for (int Row = 0; Row < List->count(); ++Row) {
+            const int Topic = Listed[static_cast<std::size_t>(Row)];
+            List->item(Row)->setText(Topics[static_cast<std::size_t>(Topic)].Title);
+            List->item(Row)->setHidden(WeightOf(Topic) < 0);
+        }
+        List->setCurrentRow(RowOf(TopicOf(Text->source())));
     }
-    if (First >= 0 && List->currentRow() >= 0 && List->currentItem()->isHidden()) Choose(First);
+    const int Best = Listed.front();
+    if (WeightOf(TopicOf(Text->source())) < std::min<qsizetype>(WeightOf(Best), 1)) Choose(Best);
     MarkWords();
     if (const auto Marks = Text->extraSelections(); !Marks.isEmpty()) {
         QTextCursor Hit = Marks.constFirst().cursor;
@@ -214,36 +246,43 @@ void HelpWindow::Search(const QString& Wanted)
     }
 }
 
+int HelpWindow::RowOf(int Topic) const
+{
+    return static_cast<int>(std::find(Listed.begin(), Listed.end(), Topic) - Listed.begin());
+}
+
 // The browser remembers the steps.
 void HelpWindow::Choose(int Topic)
 {
-    if (Topic >= 0 && Topic < List->count())
-        Text->setSource(AddressOf(Topic), QTextDocument::MarkdownResource);
+    Text->setSource(AddressOf(Topic), QTextDocument::MarkdownResource);
 }
 
 // Another topic has come up, by a choice or by a step through the choices.
 void HelpWindow::ShowChosen(int Topic)
 {
-    if (List->item(Topic)->isHidden()) Words->clear(); // the search that left it out is over
+    if (List->item(RowOf(Topic))->isHidden()) Words->clear(); // the search that left it out is over
     {
         const QSignalBlocker Silent(List);
-        List->setCurrentRow(Topic);
+        List->setCurrentRow(RowOf(Topic));
     }
     FormatTables(*Text->document());
+    FormatBlocks(*Text->document());
     MarkWords();
 }
 
-// Shows the words that are searched for.
+// Shows the words that are searched for, those inside of others only where none begins so.
 void HelpWindow::MarkWords()
 {
     QList<QTextEdit::ExtraSelection> Marks;
+    QTextCharFormat Format;
+    Format.setBackground(Colors().Tint);
+    const QTextDocument& Document = *Text->document();
     for (const QString& Word : Words->text().split(' ', Qt::SkipEmptyParts)) {
+        const QRegularExpression Beginning = BeginningWith(Word);
+        const bool Begins = !Document.find(Beginning).isNull();
         QTextCursor At(Text->document());
-        while (!(At = Text->document()->find(Word, At)).isNull()) {
-            QTextCharFormat Format;
-            Format.setBackground(Colors().Tint);
+        while (!(At = Begins ? Document.find(Beginning, At) : Document.find(Word, At)).isNull())
             Marks.push_back({At, Format});
-        }
     }
     Text->setExtraSelections(Marks);
 }

@@ -29,10 +29,12 @@ private:
     void Choose(int Topic);
     void ShowChosen(int Topic);
     void MarkWords();
+    int RowOf(int Topic) const;
 
     const std::vector<HelpTopic> Topics;
     QLineEdit* Words = nullptr;
-    QListWidget* List = nullptr; // one entry a topic, in their order
+    std::vector<int> Listed; // the topics as they stand in the list
+    QListWidget* List = nullptr;
     QTextBrowser* Text = nullptr;
 };
 

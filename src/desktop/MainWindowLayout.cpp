@@ -293,7 +293,6 @@ MainWindow::MainWindow()
 // A display without room for window and frame is filled.
 void MainWindow::TakeFirstSize()
 {
-    constexpr QSize FrameAllowance(20, 60);
     const QSize Room = screen()->availableSize();
     resize(FirstSize.boundedTo(Room));
     if ((FirstSize + FrameAllowance).boundedTo(Room) != FirstSize + FrameAllowance)

@@ -39,7 +39,7 @@ QWidget* Headlines()
         {Headline("Design life", frmResults.lblDesignLife), nullptr,
          Headline("NPV of cost", frmResults.lblNPVE), nullptr, Headline("NPV of income", frmResults.lblNPVI),
          nullptr, Headline("Rate of return", frmResults.lblIRR), nullptr, View(frmResults.sscInput)});
-    Line->layout()->setContentsMargins(2 * Gap, 0, 2 * Gap, 0);
+    Line->layout()->setContentsMargins(2 * Gap, Gap / 2, 2 * Gap, 0);
     return Line;
 }
 

@@ -10,7 +10,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFontMetrics>
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -27,8 +26,11 @@ QWidget* ScenarioBar()
     QWidget* const Bar = View(frmRoughness.hscScenario);
     NameField(Bar, "Scenario");
     Bar->setFixedWidth(BarWidth);
-    return InRow({WithRole(Text(QString::fromStdString(frmRoughness.Caption).trimmed()), "screen"), nullptr,
-                  View(frmRoughness.lblScenario), Bar, ToolView(frmRoughness.sscHelp, "help")});
+    QWidget* const Row =
+        InRow({WithRole(Text(QString::fromStdString(frmRoughness.Caption).trimmed()), "screen"), nullptr,
+               View(frmRoughness.lblScenario), Bar, ToolView(frmRoughness.sscHelp, "help")});
+    Row->layout()->setContentsMargins(Gap, 0, Gap, 0);
+    return Row;
 }
 
 QWidget* FlowRate()
@@ -67,7 +69,8 @@ QWidget* Parameters()
 
 QWidget* Results()
 {
-    QWidget* const Table = View(frmRoughness.msgRoughnessResults);
+    GridView* const Table = View(frmRoughness.msgRoughnessResults);
+    Table->ShowWhole();
     NameField(Table, "Roughness between the measuring points");
     QGroupBox* const Card = View(frmRoughness.fraResults);
     FormRows Rows(Card);
@@ -75,28 +78,23 @@ QWidget* Results()
     return Card;
 }
 
-// Beside the results: a small display has no room to spare below them.
 QWidget* Buttons()
 {
-    auto* const Place = new QWidget;
-    auto* const Layout = new QGridLayout(Place);
-    Layout->setContentsMargins(0, 0, 0, 0);
-    Layout->setSpacing(Gap);
-    Layout->addWidget(View(frmRoughness.sscCalculate), 0, 0);
-    Layout->addWidget(View(frmRoughness.sscViewGraph), 0, 1);
-    Layout->addWidget(View(frmRoughness.sscPrint), 1, 0);
-    Layout->addWidget(View(frmRoughness.sscPrevious), 1, 1);
-    return Place;
+    return InRow({View(frmRoughness.sscCalculate), View(frmRoughness.sscViewGraph),
+                  View(frmRoughness.sscPrint), nullptr, View(frmRoughness.sscPrevious)});
 }
 
 } // namespace
 
 QWidget* RoughnessLayout()
 {
-    QWidget* const Outcome = InRow({Results(), InColumn({Parameters(), nullptr, Buttons()})});
-    static_cast<QBoxLayout*>(Outcome->layout())->setStretch(0, 1);
+    // Large figures leave a small display no room for the parameters beside them; the buttons stay in sight.
+    constexpr int RowFromDigits = 80;
+    auto* const Outcome = new TurningBox(RowFromDigits);
+    Outcome->Add(InColumn({Results(), Buttons()}), 1);
+    Outcome->Add(Parameters(), 0, Qt::AlignTop);
     QWidget* const Column = InColumn({ScenarioBar(), Measurements(), Outcome, nullptr});
-    Column->layout()->setContentsMargins(Gap, Gap / 2, Gap, Gap);
+    Column->layout()->setContentsMargins(0, Gap / 2, 0, 0);
     return Page(Column);
 }
 

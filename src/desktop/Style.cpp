@@ -114,6 +114,8 @@ QTabBar::tab {
 QTabBar::tab:hover { color: @ink; }
 QTabBar::tab:selected { color: @ink; border-bottom: 2px solid @accent; }
 QTabBar::tab:focus { background: @tint; }
+QMenu, QComboBox QAbstractItemView { border: 1px solid @disabled; }
+QMenu::separator { height: 1px; margin: 2px 4px; background: @border; }
 QMenuBar { border-bottom: 1px solid @border; }
 QStatusBar { border-top: 1px solid @border; }
 QStatusBar::item { border: none; }

@@ -71,7 +71,7 @@ QWidget* ScenarioLegend()
     constexpr QSize LineSize(22, 4);
     constexpr int RowFromDigits = 125; // room for all of them side by side
     constexpr int OfALine = ScenarioCount / 2;
-    auto* const Legend = new TurningBox(RowFromDigits);
+    std::vector<QWidget*> Halves;
     std::vector<QWidget*> Line;
     for (int Index = 0; Index < ScenarioCount; ++Index) {
         QLabel* const Ink = View(frmViewRoughness.linScenario[Index]);
@@ -79,10 +79,10 @@ QWidget* ScenarioLegend()
         Line.insert(Line.end(), {Ink, View(frmViewRoughness.chkScenario[Index])});
         if (Index % OfALine != OfALine - 1) continue;
         Line.push_back(nullptr);
-        Legend->Add(InRow(Line));
+        Halves.push_back(InRow(Line));
         Line.clear();
     }
-    return Legend;
+    return new TurningBox(RowFromDigits, Halves);
 }
 
 // The fields of the bars show their rates.

@@ -135,6 +135,14 @@ protected:
 
     QString Shown() const { return Window->findChild<QTextBrowser*>()->toPlainText(); }
     QListWidget& List() const { return *Window->findChild<QListWidget*>(); }
+    QStringList Listed() const
+    {
+        QStringList Titles;
+        for (int Row = 0; Row < List().count(); ++Row)
+            if (!List().item(Row)->isHidden()) Titles.push_back(List().item(Row)->text());
+        return Titles;
+    }
+
     void Search(const QString& Words) { Window->findChild<QLineEdit*>()->setText(Words); }
 
     HelpWindow* const Window = new HelpWindow(
@@ -175,18 +183,39 @@ TEST_F(HelpWindowTest, LinksAndChoicesAreStepsThatCanBeTakenBack)
 TEST_F(HelpWindowTest, ASearchListsTheTopicsThatHoldAllWordsAndMarksThem)
 {
     Search("bedding TRENCH");
-    EXPECT_TRUE(List().item(0)->isHidden());
-    EXPECT_FALSE(List().item(1)->isHidden());
-    EXPECT_TRUE(List().item(2)->isHidden());
+    EXPECT_EQ(Listed(), QStringList{"Pipe laying"});
     EXPECT_TRUE(Shown().contains("Trench"));
     EXPECT_EQ(Window->findChild<QTextBrowser*>()->extraSelections().size(), 2);
     Window->ShowTopic(30); // asked for by a command: the search is over
-    EXPECT_FALSE(List().item(2)->isHidden());
+    const QStringList All = {"Contents", "Pipe laying", "Energy"};
+    EXPECT_EQ(Listed(), All);
     Search("bedding");
     Search("nowhere");
     EXPECT_TRUE(Shown().contains("Trench")); // what stood stays
     Search("");
-    EXPECT_FALSE(List().item(0)->isHidden());
+    EXPECT_EQ(Listed(), All);
+}
+
+// The topic that shows, if its words begin so; else that with the most of them. Within words only when
+// nothing begins so.
+TEST_F(HelpWindowTest, WordsThatBeginWithWhatIsTypedComeFirst)
+{
+    Search("p"); // that of a title before those of a text
+    EXPECT_EQ(Listed(), QStringList({"Pipe laying", "Energy"}));
+    EXPECT_TRUE(Shown().contains("Peak"));
+    Search("e"); // Contents, Pipe, Energy, See
+    EXPECT_EQ(Listed(), QStringList({"Energy", "Contents", "Pipe laying"}));
+    EXPECT_TRUE(Shown().contains("Peak"));
+    EXPECT_EQ(Window->findChild<QTextBrowser*>()->extraSelections().size(), 1);
+    Search("ta");
+    EXPECT_EQ(Listed(), QStringList{"Contents"});
+    EXPECT_EQ(Window->findChild<QTextBrowser*>()->extraSelections().size(), 1);
+    Search("la");
+    EXPECT_EQ(Listed(), QStringList({"Pipe laying", "Energy"}));
+    List().setCurrentRow(1);
+    EXPECT_TRUE(Shown().contains("Peak"));
+    Search("b");
+    EXPECT_TRUE(Shown().contains("bedding"));
 }
 
 } // namespace

@@ -328,6 +328,16 @@ TEST_F(LayoutsTest, OneScreenStandsAtATime)
     QCoreApplication::processEvents();
     ExpectRoomForAll(*Main);
     ExpectTabsReach(frmRoughness, *Main); // "Previous screen" shares its letter with the preferences
+    const auto FillLastRow = [](const char* Text) {
+        for (int Stretch : {1, 2, 3, 4}) frmRoughness.msgRoughnessResults.SetText(7, Stretch, Text);
+    };
+    FillLastRow("2506802.0");
+    QCoreApplication::processEvents();
+    const QWidget* const Figures = FocusTarget(frmRoughness.msgRoughnessResults);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Figures->width() >= Figures->sizeHint().width(); }));
+    for (CommandButton* Each : {&frmRoughness.sscCalculate, &frmRoughness.sscPrevious})
+        EXPECT_FALSE(FocusTarget(*Each)->visibleRegion().isEmpty()) << Each->Caption.Get();
+    FillLastRow("");
     frmRoughness.sscViewGraph.Click();
     for (const int Width : {1100, 800}) { // wide and narrow again
         Main->resize(Width, 600);
