@@ -7,6 +7,8 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
@@ -38,6 +40,8 @@ void SetEntries(QComboBox& View, const std::vector<std::string>& Entries)
     }
     View.setSizeAdjustPolicy(QComboBox::AdjustToContents); // and not to those of its first show
     View.setMinimumContentsLength(Longest > LeastLetters ? LeastLetters : 0);
+    QEvent Restyled(QEvent::StyleChange); // nothing less drops the least width of the entries before
+    QCoreApplication::sendEvent(&View, &Restyled);
     View.view()->setMinimumWidth(std::max(View.view()->minimumWidth(), View.sizeHint().width()));
 }
 
