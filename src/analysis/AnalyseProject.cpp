@@ -2,7 +2,6 @@
 #include "analysis/AnalyseProject.h"
 
 #include "base/Arithmetic.h"
-#include "base/Failure.h"
 #include "base/NumberText.h"
 #include "cost/Figures.h"
 #include "hydraulics/Normalise.h"
@@ -130,13 +129,8 @@ void RefreshResults()
 void AnalyseProject(Tables Wanted)
 {
     Analysed = 0;
-    ClearArithmeticFlags();
-    try {
-        RunAnalysis(Wanted);
-    } catch (const Failure&) {
-        Warn("Could not determine the flow for each year.", "Velorix Error");
-        return;
-    }
+    if (!Stands([&] { RunAnalysis(Wanted); }))
+        return Warn("Could not determine the flow for each year.", "Velorix Error");
     if (Analysed == 1 && AnalysisAborted == -1) {
         Analysed = 0;
         frmAnalyse.Unload();

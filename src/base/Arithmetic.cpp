@@ -1,7 +1,6 @@
 // Status flags and integer rounding.
 #include "base/Arithmetic.h"
 
-#include "base/Failure.h"
 #include "base/NumberText.h"
 
 #include <cmath>

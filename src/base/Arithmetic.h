@@ -1,6 +1,7 @@
 // Failures of arithmetic, found through the floating-point status flags, and the roundings of the domain.
 #pragma once
 
+#include "base/Failure.h"
 #include "base/Single.h"
 #include "base/StatusFlags.h"
 
@@ -32,6 +33,21 @@ public:
 private:
     std::fexcept_t Flags;
 };
+
+// Works a calculation that has an end of its own, from clear flags. False when it failed: what it had stored
+// by then stays, and the flags are clear again.
+template <typename Work>
+bool Stands(Work Calculate)
+{
+    ClearArithmeticFlags();
+    try {
+        Calculate();
+        return true;
+    } catch (const Failure&) {
+        ClearArithmeticFlags();
+        return false;
+    }
+}
 
 [[noreturn]] void ThrowUnordered();
 

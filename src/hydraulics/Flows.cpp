@@ -2,7 +2,6 @@
 #include "hydraulics/Flows.h"
 
 #include "base/Arithmetic.h"
-#include "base/Failure.h"
 #include "hydraulics/DutyPoint.h"
 #include "hydraulics/Formulas.h"
 #include "hydraulics/GravityFlow.h"
@@ -161,13 +160,9 @@ void SolveAllYears(Tables Wanted, const FlowEvents& Events)
 void SolveFlows(Tables Wanted, const FlowEvents& Events)
 {
     HydraulicsFailed = 0;
-    ClearArithmeticFlags();
-    try {
-        SolveAllYears(Wanted, Events);
-    } catch (const Failure&) { // an end of its own: the analysis goes on
-        HydraulicsFailed = 1;
-        if (Events.Failed) Events.Failed();
-    }
+    if (Stands([&] { SolveAllYears(Wanted, Events); })) return;
+    HydraulicsFailed = 1; // an end of its own: the analysis goes on
+    if (Events.Failed) Events.Failed();
 }
 
 } // namespace velorix

@@ -2,7 +2,6 @@
 #include "results/CurvePlots.h"
 
 #include "base/Arithmetic.h"
-#include "base/Failure.h"
 #include "base/Format.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
@@ -229,25 +228,15 @@ bool TakePumpCurve()
 
 void DrawPumpCurve()
 {
-    ClearArithmeticFlags();
-    try {
-        DrawPumpAndEfficiency();
-    } catch (const Failure&) {
-        ClearArithmeticFlags();
-        Inform("Could not show the pump curve.  Please check the pump data !");
-        HydraulicsFailed = 1;
-        frmPumpView.Unload();
-    }
+    if (Stands(DrawPumpAndEfficiency)) return;
+    Inform("Could not show the pump curve.  Please check the pump data !");
+    HydraulicsFailed = 1;
+    frmPumpView.Unload();
 }
 
 void DrawDutyCurves(DrawingSurface& Surface, Color GridInk)
 {
-    ClearArithmeticFlags();
-    try {
-        DrawPumpAndSystem(Surface, GridInk);
-    } catch (const Failure&) {
-        ClearArithmeticFlags();
-    }
+    Stands([&] { DrawPumpAndSystem(Surface, GridInk); }); // a fault ends the drawing and nothing else
 }
 
 void DrawDutyYear()

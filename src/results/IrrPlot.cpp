@@ -2,7 +2,6 @@
 #include "results/IrrPlot.h"
 
 #include "base/Arithmetic.h"
-#include "base/Failure.h"
 #include "cost/CostResults.h"
 #include "platform/Platform.h"
 #include "results/ChartPen.h"
@@ -26,14 +25,13 @@ DataRange DifferencesBetween(int Begin, int End)
 // Amounts that span too much have no step on the axis, or lie below its origin.
 bool HasAxis(int Begin, int End)
 {
-    try {
+    bool Fits = false;
+    Stands([&] {
         const DataRange Differences = DifferencesBetween(Begin, End);
-        return FindTicks(Differences.Least, Differences.Most, IrrPlot.YSteps, IrrPlot.Origins).Origin <=
+        Fits = FindTicks(Differences.Least, Differences.Most, IrrPlot.YSteps, IrrPlot.Origins).Origin <=
                Differences.Least;
-    } catch (const Failure&) { // tells that there is none, and ends nothing
-        ClearArithmeticFlags();
-        return false;
-    }
+    });
+    return Fits;
 }
 
 // All rates, or else those around the rate of return, as many whole percent on both sides as have an axis.
@@ -91,13 +89,8 @@ void DrawIrrGraph()
     const int End = frmIRRView.hsbEnd.Value;
     if (Begin >= End)
         return Warn("The begin IRR value should be smaller than the end IRR value !", "Velorix ERROR !");
-    ClearArithmeticFlags();
-    try {
-        DrawBetween(Begin, End);
-    } catch (const Failure&) {
-        ClearArithmeticFlags();
+    if (!Stands([&] { DrawBetween(Begin, End); }))
         Inform("Could not show the Internal Rate of Return graph.");
-    }
 }
 
 void OpenIrrGraph()

@@ -2,7 +2,6 @@
 #include "results/ProfilePlot.h"
 
 #include "base/Arithmetic.h"
-#include "base/Failure.h"
 #include "base/Text.h"
 #include "hydraulics/HydraulicResults.h"
 #include "model/WorkingSet.h"
@@ -174,18 +173,6 @@ void DrawOn(const PlotPlace& Place, bool Symbols, bool StopsWhenFailed, LastLaye
     ShowCaptions(Place);
 }
 
-// A fault in the midst of a plot ends the drawing and nothing else.
-template <typename Work>
-void Guarded(Work Draw)
-{
-    ClearArithmeticFlags();
-    try {
-        Draw();
-    } catch (const Failure&) {
-        ClearArithmeticFlags();
-    }
-}
-
 // What the viewers of the input show above their plot. False when a list has no entry chosen, which the user
 // is told; the lists then span the whole profile.
 bool ViewerIsReady(ProfileViewer& Viewer)
@@ -203,7 +190,7 @@ bool ViewerIsReady(ProfileViewer& Viewer)
 template <typename LastLayer>
 void DrawInViewer(ProfileViewer& Viewer, Label& FlowCaption, std::int16_t& YearDrawn, LastLayer Overlay)
 {
-    Guarded([&] {
+    Stands([&] { // a fault ends the drawing and nothing else
         TakeProfileForPlot();
         if (!ViewerIsReady(Viewer)) return;
         const PlotPlace Place{Viewer.picGraph,
@@ -249,7 +236,7 @@ void NoOverlay(Chart&, NodeRange) {}
 
 void DrawHydraulicPlot()
 {
-    Guarded([] {
+    Stands([] { // a fault ends the drawing and nothing else
         TakeProfileForPlot();
         frmResults.hscYears.Max = wLife;
         const PlotPlace Place{frmResults.picHydraulic,

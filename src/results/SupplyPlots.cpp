@@ -2,7 +2,6 @@
 #include "results/SupplyPlots.h"
 
 #include "base/Arithmetic.h"
-#include "base/Failure.h"
 #include "cost/CostResults.h"
 #include "hydraulics/HydraulicResults.h"
 #include "input/InputScreen.h"
@@ -208,24 +207,13 @@ Single CostAt(int k)
 void DrawDemandCapacity()
 {
     ShowDemandLegend();
-    ClearArithmeticFlags();
-    try {
-        DrawDemandBars();
-    } catch (const Failure&) {
-        ClearArithmeticFlags();
-        Inform("Could not show the demand pattern graph.");
-    }
+    if (!Stands(DrawDemandBars)) Inform("Could not show the demand pattern graph.");
 }
 
 void DrawIncomeExpenditure()
 {
     ShowIncomeLegend();
-    ClearArithmeticFlags();
-    try {
-        DrawIncomeBars();
-    } catch (const Failure&) {
-        ClearArithmeticFlags();
-    }
+    Stands(DrawIncomeBars); // a fault ends the drawing and nothing else
 }
 
 } // namespace velorix

@@ -2,7 +2,6 @@
 #include "roughness/RoughnessCalculation.h"
 
 #include "base/Arithmetic.h"
-#include "base/Failure.h"
 #include "hydraulics/Formulas.h"
 #include "model/Units.h"
 #include "model/WorkingSet.h"
@@ -18,18 +17,6 @@ constexpr double Viscosity = 0.00000114;         // kinematic (m2/s)
 constexpr double Gravity = 9.81;                 // m/s2
 constexpr double WaterColumn = 9806.65012480924; // pascals in a metre of water
 
-// One statement of the calculation, with an end of its own: its failure leaves its target as it was.
-template <typename Statement>
-void Try(Statement Run)
-{
-    ClearArithmeticFlags();
-    try {
-        Run();
-    } catch (const Failure&) {
-        return;
-    }
-}
-
 // To metres, metres of water and m3/s.
 struct UnitFactors {
     Single Length;
@@ -43,15 +30,16 @@ double FactorAt(UnitList Units, double Index)
     return Found ? Found->Factor : 0;
 }
 
+// Here and below each statement has an end of its own: one that fails leaves its target as it was.
 UnitFactors FactorsInUse()
 {
     UnitFactors Factors;
-    Try([&] { Factors.Length = FactorAt(DistanceUnitList, wLengthUnits); });
-    Try([&] {
+    Stands([&] { Factors.Length = FactorAt(DistanceUnitList, wLengthUnits); });
+    Stands([&] {
         Factors.Pressure =
             FactorAt(PressureUnitList, ScenarioFlow[CurrentScenario][ThePressureUnit]) / WaterColumn;
     });
-    Try([&] { Factors.Flow = FactorAt(FlowUnitList, ScenarioFlow[CurrentScenario][TheFlowUnit]); });
+    Stands([&] { Factors.Flow = FactorAt(FlowUnitList, ScenarioFlow[CurrentScenario][TheFlowUnit]); });
     return Factors;
 }
 
@@ -67,12 +55,12 @@ void MeasureStretch(int s, int j, const UnitFactors& Factors)
     const ScenarioReadings& Read = Readings[s];
     StretchValid[s][j] = 0;
     if (Read[AtLength][j + 1] == 0 || Read[AtElevation][j + 1] == 0 || Read[AtPressure][j + 1] == 0) return;
-    Try([&] { HeadDifference[s][j] = Checked(Head(s, j, Factors) - Head(s, j + 1, Factors)); });
-    Try([&] {
+    Stands([&] { HeadDifference[s][j] = Checked(Head(s, j, Factors) - Head(s, j + 1, Factors)); });
+    Stands([&] {
         StretchLength[s][j] =
             Checked(Factors.Length * Read[AtLength][j + 1] - Factors.Length * Read[AtLength][j]);
     });
-    Try([&] { Slope[s][j] = Checked(HeadDifference[s][j] / StretchLength[s][j]); });
+    Stands([&] { Slope[s][j] = Checked(HeadDifference[s][j] / StretchLength[s][j]); });
     StretchValid[s][j] = -1;
 }
 
@@ -93,7 +81,7 @@ void StoreGradeline(int s, int j, const UnitFactors& Factors)
     ByRow& Line = MeasuredGradeline[s][j];
     const int Start = StretchStart[s][j];
     for (int k = Start; k <= StretchEnd[s][j]; ++k)
-        Try([&] {
+        Stands([&] {
             Line[k] = k == Start ? Checked(Head(s, j, Factors))
                                  : Checked(Line[k - 1] - (Chainage[k] - Chainage[k - 1]) * Slope[s][j]);
         });
@@ -104,11 +92,11 @@ void StoreAverages(int s, int j)
     Single& D = AverageDiameter[s][j];
     Single& V = AverageVelocity[s][j];
     for (int k = StretchStart[s][j]; k < StretchEnd[s][j]; ++k)
-        Try([&] { D = Checked(D + InternalDiameter[k] * SectionLength[k]); });
-    Try([&] { D = Checked(D / StretchLength[s][j]); });
+        Stands([&] { D = Checked(D + InternalDiameter[k] * SectionLength[k]); });
+    Stands([&] { D = Checked(D / StretchLength[s][j]); });
     // Twice the area of the pipe: all figures that follow are meant to hang on this velocity.
-    Try([&] { V = Checked(ScenarioFlowM3[s] / (D * D * Pi / 2)); });
-    Try([&] { Reynolds[s][j] = Checked(V * D / Viscosity); });
+    Stands([&] { V = Checked(ScenarioFlowM3[s] / (D * D * Pi / 2)); });
+    Stands([&] { Reynolds[s][j] = Checked(V * D / Viscosity); });
 }
 
 //     f = 2 D g h / (L V^2)                                              Darcy-Weisbach
@@ -126,16 +114,16 @@ void StoreRoughness(int s, int j)
         return std::sqrt(2 * D * Gravity * HeadDifference[s][j] / (StretchLength[s][j] * V * V));
     };
     const auto RootOfU = [&] { return std::sqrt(2 * Gravity * D * S); };
-    Try([&] { KsKarman[s][j] = Checked(3.7 * D / std::pow(10.0, 1 / (2 * RootOfFriction()))); });
-    Try([&] {
+    Stands([&] { KsKarman[s][j] = Checked(3.7 * D / std::pow(10.0, 1 / (2 * RootOfFriction()))); });
+    Stands([&] {
         KsBarr[s][j] =
             Checked(3.7 * D * (std::pow(10.0, 1 / (-2 * RootOfFriction())) - 5.1286 / std::pow(Re, 0.89)));
     });
-    Try([&] {
+    Stands([&] {
         KsColebrook[s][j] =
             Checked(3.7 * D * (std::pow(10.0, V / (-2 * RootOfU())) - 2.51 * Viscosity / (D * RootOfU())));
     });
-    Try([&] { HazenC[s][j] = Checked(V / (0.355 * std::pow(D, 0.63) * std::pow(S, 0.54))); });
+    Stands([&] { HazenC[s][j] = Checked(V / (0.355 * std::pow(D, 0.63) * std::pow(S, 0.54))); });
 }
 
 } // namespace
@@ -146,7 +134,7 @@ void CalculateRoughness()
     const UnitFactors Factors = FactorsInUse();
     for (int s = 1; s <= MaxScenarios; ++s) {
         for (int j = 1; j <= MaxStretches; ++j) MeasureStretch(s, j, Factors);
-        Try([&] { ScenarioFlowM3[s] = Checked(Factors.Flow * ScenarioFlow[s][TheFlow]); });
+        Stands([&] { ScenarioFlowM3[s] = Checked(Factors.Flow * ScenarioFlow[s][TheFlow]); });
         for (int j = 1; j <= MaxStretches; ++j) {
             if (StretchValid[s][j] == 0) continue;
             FindRows(s, j);
