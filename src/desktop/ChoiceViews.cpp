@@ -38,10 +38,12 @@ void SetEntries(QComboBox& View, const std::vector<std::string>& Entries)
         View.addItem(Entry);
         Longest = std::max(Longest, Entry.size());
     }
-    View.setSizeAdjustPolicy(QComboBox::AdjustToContents); // and not to those of its first show
     View.setMinimumContentsLength(Longest > LeastLetters ? LeastLetters : 0);
-    QEvent Restyled(QEvent::StyleChange); // nothing less drops the least width of the entries before
+    // Drops both widths of the entries before. The policy that follows the entries keeps the lesser one, and
+    // resizes the list some time later, which takes it out of the place that it was given.
+    QEvent Restyled(QEvent::StyleChange);
     QCoreApplication::sendEvent(&View, &Restyled);
+    View.updateGeometry();
     View.view()->setMinimumWidth(std::max(View.view()->minimumWidth(), View.sizeHint().width()));
 }
 

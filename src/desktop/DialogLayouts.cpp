@@ -26,7 +26,6 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScrollArea>
 #include <QToolButton>
 #include <QVBoxLayout>
 

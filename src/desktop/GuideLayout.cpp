@@ -6,7 +6,6 @@
 #include "screens/Guide.h"
 
 #include <QDialog>
-#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>

@@ -23,7 +23,6 @@
 #include <QCloseEvent>
 #include <QDateTime>
 #include <QDragEnterEvent>
-#include <QFileInfo>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -234,7 +233,7 @@ QAbstractButton* ButtonWithFocus()
 QAbstractButton* ClosingButton()
 {
     const CommandButton* const Closing[] = {
-        &frmLCC.sscOK,           &frmLCC.sscHideLaying,    &frmResults.sscHideHydraulicTable,
+        &frmLCC.sscOK,           &frmLCC.sscCancelLaying,  &frmResults.sscHideHydraulicTable,
         &frmResults.sscHideDuty, &frmResults.sscHideTable, &frmView.sscOK,
         &frmViewRoughness.sscOK, &frmPumpView.sscOK,       &frmIRRView.sscOK};
     for (const CommandButton* Each : Closing)

@@ -8,7 +8,6 @@
 
 #include <QComboBox>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPdfPageNavigator>
 #include <QPdfPageRenderer>
 #include <QScreen>

@@ -8,7 +8,6 @@
 #include <QWidget>
 
 class QComboBox;
-class QLabel;
 class QSpinBox;
 
 namespace velorix {

@@ -10,7 +10,6 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QClipboard>
-#include <QCloseEvent>
 #include <QDate>
 #include <QDialog>
 #include <QEventLoop>
@@ -24,7 +23,6 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QStandardPaths>
-#include <QSysInfo>
 
 #include <memory>
 #include <stdexcept>
