@@ -62,7 +62,7 @@ bool Exists(const std::filesystem::path& Path)
 
 std::string InputFile::Stem() const
 {
-    return std::filesystem::path(Name).stem().string();
+    return Name == StandardInput ? "stdin" : std::filesystem::path(Name).stem().string();
 }
 
 std::vector<InputFile> OpenInputs(const std::vector<std::string>& Names)

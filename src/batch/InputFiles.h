@@ -14,7 +14,7 @@ struct InputFile {
     std::string Name;           // as the user gave it, "-" for standard input
     std::filesystem::path Path; // where its bytes stand
 
-    std::string Stem() const; // of the name, without folder and extension
+    std::string Stem() const; // of the name, without folder and extension; stdin of "-"
 };
 
 // The files by name. Standard input is read to its end here, and kept as a file without a name. Throws

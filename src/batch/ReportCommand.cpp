@@ -143,8 +143,7 @@ bool GoesIntoFolder(const ReportOptions& Options)
 fs::path TargetOf(const ReportOptions& Options, const InputFile& File)
 {
     if (!GoesIntoFolder(Options)) return Options.Pdf;
-    const std::string Stem = File.Name == StandardStream ? "report" : File.Stem();
-    return fs::path(Options.Pdf) / (Stem + ".pdf");
+    return fs::path(Options.Pdf) / (File.Stem() + ".pdf");
 }
 
 void PrepareTargets(const ReportOptions& Options, const OutputGuard& Guard)

@@ -222,8 +222,9 @@ Advice OfNumbers()
                 Cut->Row, Cut->Col};
     if (const auto Row = RowThatEndsProfile())
         return {"Row " + std::to_string(*Row) +
-                    " has elevation 0 and length 0, which ends the profile: the " +
-                    "rows behind it will not show. Give it another elevation, then copy and paste again.",
+                    " has elevation 0 and length 0, which ends the profile: from row " +
+                    std::to_string(std::max(*Row, LeastNodes + 1)) +
+                    " on nothing will show. Give it another elevation, then copy and paste again.",
                 *Row};
     return {};
 }
