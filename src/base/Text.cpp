@@ -42,13 +42,17 @@ std::pair<std::string_view, std::string_view> SplitAfter(std::string_view Utf8, 
 
 std::string UpperCase(std::string Utf8)
 {
-    constexpr char LatinLetters = '\xC3'; // leads the letters with accents of the single-byte code page
+    constexpr std::pair<std::string_view, std::string_view> LettersApart[] = {
+        {"š", "Š"}, {"ž", "Ž"}, {"œ", "Œ"}, {"ÿ", "Ÿ"}};
+    constexpr char LatinLetters = '\xC3'; // leads the other letters with accents of the single-byte code page
     constexpr char Division = '\xB7';
     for (std::size_t Index = 0; Index < Utf8.size(); ++Index) {
         char& Each = Utf8[Index];
         const bool Accented = Index > 0 && Utf8[Index - 1] == LatinLetters && Each >= '\xA0' &&
                               Each <= '\xBE' && Each != Division;
         if ((Each >= 'a' && Each <= 'z') || Accented) Each = static_cast<char>(Each - 0x20);
+        for (const auto& [Small, Capital] : LettersApart)
+            if (Utf8.compare(Index, Small.size(), Small) == 0) Utf8.replace(Index, Small.size(), Capital);
     }
     return Utf8;
 }

@@ -22,7 +22,7 @@ namespace {
 
 double BodyTop = 0; // where the last page head ended (mm)
 
-constexpr Color HeadBlue = Rgb(0, 0, 255);
+constexpr Color HeadBlue = PureBlue;
 constexpr double UprightRule = 185; // mm
 constexpr double WideRule = 265;
 
@@ -174,14 +174,17 @@ void PrintPageFootAt(double Y)
 
 void PrintGraphPageHead()
 {
+    constexpr double LowestEnd = 56.25; // mm, with a file name on two lines; title and picture follow
     Printer.Orientation = PaperOrientation::Landscape;
     BeginHead(16, 55);
     Printer.Print();
     PrintLogoAndProject(12);
+    const double Names = Printer.CurrentY();
     Printer.Print({Tab{7}, "Designer : ", Tab{21}, Trim(wDesigner)});
     Printer.Print({Tab{7}, "Date : ", Tab{21}, ProjectDate()});
     PrintSplit("Filename :", 21, Trim(frmLCC.lblFileName.Caption.Get()), 100);
     EndHead(215, WideRule);
+    Printer.FitBetween(Names, LowestEnd); // a file name may take several lines
 }
 
 void PrintGraphPageFoot()
