@@ -42,11 +42,11 @@ public:
     }
     void operator()(const ResultInfo& Of, const ByConstructionYear& Values)
     {
-        Results.ByCalendarYear.push_back({Of.Name, FirstEntries(Values, ConstructionYears)});
+        Results.ByCalendarYear.push_back({Of.Name, FirstEntries(Values, ConstructionYears())});
     }
     void operator()(const ResultInfo& Of, const ByCostYear& Values)
     {
-        Results.ByCalendarYear.push_back({Of.Name, FirstEntries(Values, ConstructionYears + wLife)});
+        Results.ByCalendarYear.push_back({Of.Name, FirstEntries(Values, ConstructionYears() + wLife)});
     }
     void operator()(const ResultInfo& Of, const ByRow& Values)
     {
@@ -65,7 +65,6 @@ public:
 
 private:
     AnalysisResults& Results;
-    const int ConstructionYears = wSupplyStart - wBaseYear;
 };
 
 } // namespace

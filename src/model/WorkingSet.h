@@ -44,6 +44,12 @@ inline int ConstructionYears()
     return wSupplyStart - wBaseYear;
 }
 
+// The calendar year of a year of the design life, the first of which is that of the start of supply.
+inline int CalendarYear(int Year)
+{
+    return wSupplyStart + Year - 1;
+}
+
 constexpr int LeastNodes = 2; // of a profile
 extern int NodeCount;         // nodes of the open project, rows 1 to NodeCount of the profile arrays
 

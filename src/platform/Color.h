@@ -22,6 +22,7 @@ constexpr Color Black{0};
 constexpr Color PureRed{255};
 constexpr Color PureGreen{65280};
 constexpr Color PureYellow{65535};
+constexpr Color PureBlue{16711680};
 
 // Not colours of their own: the view paints them as the desktop's palette has them.
 constexpr Color WindowColor{0x80000005};

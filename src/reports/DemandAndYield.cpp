@@ -18,7 +18,7 @@ constexpr PageBreaks Breaks = {27, 27, 81};
 Cells YearRow(int Year)
 {
     const Single Demand = DemandOfYear(Year);
-    std::vector<std::string> Texts = {std::to_string(wSupplyStart + Year - 1),
+    std::vector<std::string> Texts = {std::to_string(CalendarYear(Year)),
                                       FigureText(CapacityOfYear(Year), "#0.000"),
                                       FigureText(Demand - Shortage[Year], "#0.000"),
                                       FigureText(Shortage[Year], "#0.000"), FigureText(Demand, "#0.000")};

@@ -7,6 +7,7 @@
 #include "model/WorkingSet.h"
 #include "platform/Printer.h"
 #include "reports/PageFrame.h"
+#include "reports/ReportPage.h"
 #include "results/FlowCaptions.h"
 #include "results/PlotState.h"
 #include "screens/Pictures.h"
@@ -78,15 +79,15 @@ void PrintRange(const ComboBox& From, const ComboBox& To, int End)
 
 std::string YearFact(int Year)
 {
-    return "Year: " + std::to_string(wSupplyStart + Year - 1);
+    return "Year: " + std::to_string(CalendarYear(Year));
 }
 
 std::string RoughnessFact(int Year)
 {
     constexpr double MillimetresPerMetre = 1000;
     constexpr double InchesPerMetre = 39.3700787;
-    return UsesUSUnits() ? FigureWithUnit(KsYear[Year] * InchesPerMetre, "''")
-                         : FigureWithUnit(KsYear[Year] * MillimetresPerMetre, "mm");
+    return wUnits == 0 ? FigureWithUnit(KsYear[Year] * MillimetresPerMetre, "mm")
+                       : FigureWithUnit(KsYear[Year] * InchesPerMetre, "''");
 }
 
 void BeginLegend(double Y)
@@ -236,9 +237,10 @@ void PrintHydraulicGraph()
     if (IsPumping()) PrintFact("Flow rate:", Facts.Flow, ValueColumn);
     Printer.Print({Tab{CaptionColumn}, IsPumping() ? "Pumping head:" : "Flow rate:", Tab{ValueColumn},
                    IsPumping() ? Facts.Head : Facts.Flow, Tab{YearColumn}, YearFact(HydraulicYearDrawn)});
+    FitBodyAbove(115);
     Printer.PaintPicture(frmResults.picHydraulic.Image(), 16, 115, 170, 90);
     PrintSymbolLegend();
-    Printer.SetCurrentY(245);
+    Printer.SetCurrentY(LastFoot);
     PrintPageFoot();
 }
 
@@ -246,12 +248,13 @@ void PrintPumpCurveGraph()
 {
     constexpr double LegendRow = 208;
     BeginUprightPage("PUMP CURVE:");
+    FitBodyAbove(100);
     Printer.PaintPicture(frmPumpView.picGraph.Image(), 16, 100, 170, 90);
     BeginLegend(200);
     Printer.PaintPicture(imgPumpCurve, 15, LegendRow);
     Printer.PaintPicture(imgEfficiencyCurve, 65, LegendRow);
     PrintLegendLine(LegendRow, {Tab{23}, "- Pump curve", Tab{60}, "- Efficiency curve"});
-    Printer.SetCurrentY(240);
+    Printer.SetCurrentY(BreakFoot);
     PrintPageFoot();
 }
 

@@ -23,7 +23,7 @@ Cells TopLine()
     const FlowFacts Facts = FactsOfYear(PrintYear);
     return {{9, "Flow rate: " + Facts.Flow},
             {60, IsPumping() ? "Pumping head: " + Facts.Head : ""},
-            {110, "Year: " + std::to_string(wSupplyStart + PrintYear - 1)}};
+            {110, "Year: " + std::to_string(CalendarYear(PrintYear))}};
 }
 
 void BeginHydraulicPage(const Cells& Top, Color TopInk)

@@ -4,6 +4,8 @@
 #include "base/Arithmetic.h"
 #include "base/Format.h"
 
+#include <algorithm>
+
 namespace velorix {
 namespace {
 
@@ -30,6 +32,7 @@ void SetXTicks(Chart& Plot, Single Least, Single Most)
 void SetYTicks(Chart& Plot, const DataRange& Values)
 {
     Plot.Y = FindTicks(Values.Least, Values.Most, Plot.Parameters.YSteps, Plot.Parameters.Origins);
+    Plot.Y.Intervals = std::max(Plot.Y.Intervals, Plot.Parameters.LeastYIntervals);
 }
 
 void TakePen(DrawingSurface& Surface, Color Ink, DrawStyle Style)
@@ -85,11 +88,11 @@ void PrintYLabel(Chart& Plot, const std::string& Label, int Column, int TickY)
     Plot.Surface.PrintText(Label);
 }
 
-void PrintCentred(DrawingSurface& Surface, const std::string& Text, const std::string& Measured, int X, int Y)
+void PrintXLabel(Chart& Plot, const std::string& Label, const std::string& Measured, int X)
 {
-    Surface.CurrentX = X - Surface.TextWidth(Measured) / 2;
-    Surface.CurrentY = Y;
-    Surface.PrintText(Text);
+    Plot.Surface.CurrentX = X - Plot.Surface.TextWidth(Measured) / 2;
+    Plot.Surface.CurrentY = Plot.Frame.YBottom + XLabelBelow;
+    Plot.Surface.PrintText(Label);
 }
 
 void DrawXTickMark(Chart& Plot, int X)
@@ -102,7 +105,7 @@ void DrawXLabels(Chart& Plot, Single End)
     for (int n = 1; n <= Plot.X.Intervals + 1; ++n) {
         const int x = Plot.Frame.XTick(Plot.X, n);
         const XLabel Label = FindXLabel(Plot.X.Value(n), End);
-        PrintCentred(Plot.Surface, Label.Shown, Label.Whole, x, Plot.Frame.YBottom + XLabelBelow);
+        PrintXLabel(Plot, Label.Shown, Label.Whole, x);
         DrawXTickMark(Plot, x);
     }
 }
@@ -112,7 +115,7 @@ void DrawXLabels(Chart& Plot, const char* Pattern)
     for (int n = 1; n <= Plot.X.Intervals + 1; ++n) {
         const int x = Plot.Frame.XTick(Plot.X, n);
         const std::string Label = Format(Plot.X.Value(n), Pattern);
-        PrintCentred(Plot.Surface, Label, Label, x, Plot.Frame.YBottom + XLabelBelow);
+        PrintXLabel(Plot, Label, Label, x);
         DrawXTickMark(Plot, x);
     }
 }

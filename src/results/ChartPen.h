@@ -46,9 +46,9 @@ void DrawXLabels(Chart& Plot, const char* Format);
 // A label of a y axis beside the tick at TickY.
 void PrintYLabel(Chart& Plot, const std::string& Label, int Column, int TickY);
 
-// A text whose width is centred on X; narrower or wider than the text that is shown.
-void PrintCentred(DrawingSurface& Surface, const std::string& Text, const std::string& Measured, int X,
-                  int Y);
+// A label below the x axis. The width of the measured text, narrower or wider than the label, is centred on
+// X.
+void PrintXLabel(Chart& Plot, const std::string& Label, const std::string& Measured, int X);
 void DrawXTickMark(Chart& Plot, int X);
 
 // The title below the middle of the x axis, in the font in force.

@@ -60,11 +60,7 @@ void DrawPumpPoints(Chart& Plot)
     for (int Row = 1; Row <= PumpPoints; ++Row) {
         const int x = Plot.Frame.X(PumpFlowAt(Row));
         const int y = Plot.Frame.Y(PumpHeadAt(Row));
-        const double FromX = Plot.Surface.CurrentX;
-        const double FromY = Plot.Surface.CurrentY;
         Plot.Surface.DrawPicture(imgDot, x - imgDot.Width / 2, y - imgDot.Height / 2);
-        Plot.Surface.CurrentX = FromX;
-        Plot.Surface.CurrentY = FromY;
         if (Row > 1) Plot.Surface.LineTo(x, y);
         Plot.Surface.CurrentX = x;
         Plot.Surface.CurrentY = y;
@@ -241,7 +237,7 @@ void DrawDutyCurves(DrawingSurface& Surface, Color GridInk)
 
 void DrawDutyYear()
 {
-    frmResults.lblDutyYear.Caption = "Year " + std::to_string(wSupplyStart + AnalysisYear - 1);
+    frmResults.lblDutyYear.Caption = "Year " + std::to_string(CalendarYear(AnalysisYear));
     DrawDutyCurves(frmResults.picDuty, frmResults.lblGridColor.BackColor);
 }
 
@@ -256,7 +252,7 @@ void FillDutyTable()
         Table.SetText(1, Col, Units[Col]);
     }
     for (int i = 1; i <= wLife; ++i) {
-        Table.SetText(i + 1, 0, std::to_string(wSupplyStart + i - 1));
+        Table.SetText(i + 1, 0, std::to_string(CalendarYear(i)));
         Table.SetText(i + 1, 1, FigureText(PumpFlow[i], "#0.000"));
         Table.SetText(i + 1, 2, FigureText(PumpHead[i], "#0.000"));
         Table.SetText(i + 1, 3, FigureText(PumpEfficiencyByYear[i], "#0.00"));

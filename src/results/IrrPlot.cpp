@@ -70,7 +70,7 @@ void DrawBetween(int Begin, int End)
     DrawYLabels(Plot);
     DrawXLabels(Plot, "###0.0");
 
-    TakePen(Plot.Surface, Rgb(0, 0, 255));
+    TakePen(Plot.Surface, PureBlue);
     DrawCurve(
         Plot.Surface, Begin, End, [&](int i) { return Plot.Frame.X(IrrRate[i]); },
         [&](int i) { return Plot.Frame.Y(IrrDifference[i]); });

@@ -54,6 +54,14 @@ void TakeProfileForPlot()
     }
 }
 
+void ShowPlotState(ScrollBar& Years, Label& Year, CheckBox& GradelineTick)
+{
+    Years.Max = wLife;
+    Years.Value.Restore(PlotYear);
+    Year.Caption = std::to_string(CalendarYear(PlotYear));
+    GradelineTick.Value.Restore(HideGradeline == 0);
+}
+
 void ResetPlotState()
 {
     Chainage.Fill(0.0);

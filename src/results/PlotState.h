@@ -34,6 +34,10 @@ void FillCombos();
 // copied to Chainage and GroundLevel.
 void TakeProfileForPlot();
 
+// The year and the gradeline that all profile plots share, shown by the controls of one of them. Draws
+// nothing.
+void ShowPlotState(ScrollBar& Years, Label& Year, CheckBox& GradelineTick);
+
 void ResetPlotState();
 
 } // namespace velorix

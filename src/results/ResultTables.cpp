@@ -54,7 +54,7 @@ std::string AmountOfYear(bool HasAmount, Single Amount)
 
 std::vector<std::string> DemandRow(int y)
 {
-    return {std::to_string(wSupplyStart + y - 1), FigureText(CapacityOfYear(y), "#0.000"),
+    return {std::to_string(CalendarYear(y)), FigureText(CapacityOfYear(y), "#0.000"),
             FigureText(DemandOfYear(y) - Shortage[y], "#0.000"), FigureText(Shortage[y], "#0.000"),
             FigureText(PumpingHours[y], "#0.00")};
 }
@@ -62,7 +62,7 @@ std::vector<std::string> DemandRow(int y)
 // Calendar year k, of which the first is the base year.
 std::vector<std::string> IncomeRow(int k)
 {
-    const int y = k - (wSupplyStart - wBaseYear); // operating year
+    const int y = k - ConstructionYears(); // operating year
     const auto Annual = [y](const ByYear& Series) {
         const bool Has = y >= 1 && y <= ByYear::LastIndex;
         return AmountOfYear(Has, Has ? Series[y] : Single(0));

@@ -17,8 +17,6 @@
 namespace velorix {
 namespace {
 
-constexpr Color Blue = Rgb(0, 0, 255);
-constexpr Color Violet = Rgb(255, 10, 240);
 constexpr int BetweenSlots = 50;
 
 // A bar chart on its way: the frame, and the years' slots on it.
@@ -32,7 +30,7 @@ struct BarChart : Chart {
     int Years;
     int BarWidth = 0;
 
-    int Slot(int k) const { return Frame.Place((Frame.XLeft + FrameInset) + (k - 1) * Frame.XScale); }
+    int Slot(int k) const { return Frame.XTick(X, k); }
     int Base() const { return Frame.DataBottom(); }
 
     // A bar of slot k from one value, or from the base, to another.
@@ -50,13 +48,12 @@ private:
     }
 };
 
-// Frame and horizontal grid. Two intervals are the fewest.
+// Frame and horizontal grid.
 void StartBarChart(BarChart& Plot, const DataRange& Values)
 {
     StartChart(Plot);
     Plot.X = {1, 0, Plot.Years};
     SetYTicks(Plot, Values);
-    Plot.Y.Intervals = std::max(Plot.Y.Intervals, 2);
     Plot.Frame.SetAxes(Plot.X, Plot.Y);
     const double SlotWidth =
         RoundEven((Plot.Frame.XRight - Plot.Frame.XLeft) / static_cast<double>(Plot.Years));
@@ -77,8 +74,7 @@ void DrawYears(BarChart& Plot)
     for (int n = 1; n <= Plot.Years; ++n) {
         const int x = Plot.Frame.XTick(Plot.X, n);
         if ((n - 1) % YearsPerLabel() == 0)
-            PrintCentred(Plot.Surface, std::to_string(wBaseYear + n - 1), std::to_string(wSupplyStart + n), x,
-                         Plot.Frame.YBottom + 50);
+            PrintXLabel(Plot, std::to_string(wBaseYear + n - 1), std::to_string(wSupplyStart + n), x);
         DrawXTickMark(Plot, x);
     }
     Plot.Surface.SetFontSize(9);
@@ -113,7 +109,7 @@ void DrawDemandBars()
         Plot.First(y, Checked(CapacityOfYear(y)), PureGreen);
         const Single Supplied = Checked(DemandOfYear(y) - Shortage[y]);
         Plot.Second(y, Supplied, PureRed);
-        if (Shortage[y] != 0) Plot.OnSecond(y, Supplied, DemandOfYear(y), Blue);
+        if (Shortage[y] != 0) Plot.OnSecond(y, Supplied, DemandOfYear(y), PureBlue);
     }
     FinishBarChart(Plot);
 }
@@ -138,12 +134,13 @@ void DrawExpenditure(const BarChart& Plot, int Slot, int k)
     const Single WithOperation = Checked(Maintenance + EntryOrZero(OperationalCost, k));
     Plot.Second(Slot, Maintenance, PureGreen);
     Plot.OnSecond(Slot, Maintenance, WithOperation, PureYellow);
-    if (IsPumping()) Plot.OnSecond(Slot, WithOperation, WithOperation + EntryOrZero(EnergyCost, k), Violet);
+    if (IsPumping())
+        Plot.OnSecond(Slot, WithOperation, WithOperation + EntryOrZero(EnergyCost, k), EnergyInk);
 }
 
 void DrawIncomeBars()
 {
-    const int Construction = wSupplyStart - wBaseYear;
+    const int Construction = ConstructionYears();
     BarChart Plot(IncomePlot, YearsOfIncome());
     DataRange Values{IncomeAt(1), IncomeAt(1)};
     for (int k = 1; k <= Plot.Years; ++k) {
@@ -154,7 +151,7 @@ void DrawIncomeBars()
 
     StartBarChart(Plot, Values);
     for (int k = 1; k <= wLife; ++k) {
-        Plot.First(Construction + k, IncomeAt(k), Blue);
+        Plot.First(Construction + k, IncomeAt(k), PureBlue);
         DrawExpenditure(Plot, Construction + k, k);
     }
     for (int k = 1; k <= Construction; ++k) Plot.Second(k, CostAt(k), PureRed);
@@ -190,7 +187,7 @@ Single DemandOfYear(int Year)
 
 int YearsOfIncome()
 {
-    return wSupplyStart - wBaseYear + wLife;
+    return ConstructionYears() + wLife;
 }
 
 Single IncomeAt(int k)

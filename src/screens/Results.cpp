@@ -28,10 +28,10 @@ ResultsScreen::ResultsScreen()
     msgAnnualCost.MergeCols = {0, 1};
 
     lblDemandColor.BackColor = picCapitalColor.BackColor = PureRed;
-    lblShortageColor.BackColor = picIncomeColor.BackColor = Rgb(0, 0, 255);
+    lblShortageColor.BackColor = picIncomeColor.BackColor = PureBlue;
     lblYieldColor.BackColor = picMaintenanceColor.BackColor = PureGreen;
     picOperationalColor.BackColor = PureYellow;
-    picEnergyColor.BackColor = Rgb(255, 10, 240);
+    picEnergyColor.BackColor = EnergyInk;
     DesignEnds();
 }
 

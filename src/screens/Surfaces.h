@@ -14,12 +14,13 @@ constexpr int ProfileHeight = 6272;
 constexpr int IrrWidth = 12540;
 constexpr int IrrHeight = 6600;
 
-// The lines of the plots, and of the keys beside them.
+// The lines and bars of the plots, and of the keys beside them.
 constexpr Color GroundInk = Rgb(0, 64, 0);
-constexpr Color GradelineInk = Rgb(0, 0, 255);
-constexpr Color PumpCurveInk = Rgb(0, 0, 255);
+constexpr Color GradelineInk = PureBlue;
+constexpr Color PumpCurveInk = PureBlue;
 constexpr Color EfficiencyInk = PureGreen;
 constexpr Color SystemCurveInk = PureGreen;
+constexpr Color EnergyInk = Rgb(255, 10, 240);
 
 constexpr Color CurveGridColor = Rgb(192, 192, 192);
 

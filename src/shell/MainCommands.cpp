@@ -8,6 +8,7 @@
 #include "input/ViewState.h"
 #include "model/WorkingSet.h"
 #include "platform/Platform.h"
+#include "results/PlotState.h"
 #include "screens/Analyse.h"
 #include "screens/ConverterScreen.h"
 #include "screens/Dialogs.h"
@@ -131,6 +132,8 @@ void ResultsCommand()
     }
     CloseViewers();
     frmLCC.Visible = false;
+    ShowPlotState(frmResults.hscYears, frmResults.lblYear,
+                  frmResults.chkGradeline); // a viewer may have set it
     frmResults.Visible = true;
     BringBackTitle();
 }

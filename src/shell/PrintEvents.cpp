@@ -44,7 +44,7 @@ void ConnectSelectYear(SelectYearScreen& Target, std::int16_t& Year)
     Target.Load = [&Target] {
         std::vector<std::string> Years;
         for (int Index = 1; Index <= wLife; ++Index)
-            Years.push_back("Year " + std::to_string(wSupplyStart + Index - 1));
+            Years.push_back("Year " + std::to_string(CalendarYear(Index)));
         Target.comYear.List = Years;
         Target.comYear.ListIndex = 0;
     };

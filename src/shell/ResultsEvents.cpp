@@ -34,7 +34,7 @@ Hidden HiddenByGraph = Hidden::None;
 void YearOfPlotChosen()
 {
     PlotYear = static_cast<std::int16_t>(frmResults.hscYears.Value.Get());
-    frmResults.lblYear.Caption = std::to_string(wSupplyStart + PlotYear - 1);
+    frmResults.lblYear.Caption = std::to_string(CalendarYear(PlotYear));
 }
 
 // A tick box of the plot keeps its flag, and the plot follows.
@@ -128,9 +128,10 @@ void ConnectRateBar(ScrollBar& Bar, Label& Reading)
 
 void ShowIrrGraph()
 {
-    HiddenByGraph = frmLCC.Visible       ? Hidden::InputScreen
-                    : frmResults.Visible ? Hidden::ResultsScreen
-                                         : Hidden::None;
+    // The results stand in front when a dialog over this graph has brought the input screen back behind them.
+    HiddenByGraph = frmResults.Visible ? Hidden::ResultsScreen
+                    : frmLCC.Visible   ? Hidden::InputScreen
+                                       : Hidden::None;
     OpenIrrGraph();
     for (const auto& [Bar, Reading] : {std::pair{&frmIRRView.hsbBegin, &frmIRRView.lblBeginIRR},
                                        std::pair{&frmIRRView.hsbEnd, &frmIRRView.lblEndIRR}})

@@ -37,7 +37,8 @@ void ShowRoughness()
     const bool OpensAnew = !frmRoughness.IsLoaded();
     const bool FromPlot = frmViewRoughness.IsLoaded();
     if (FromPlot) frmViewRoughness.Unload();
-    if (!OpensAnew && !FromPlot) EmptyResults(); // they may be those of another profile by now
+    const bool WasLeft = !OpensAnew && !FromPlot && !frmRoughness.Visible;
+    if (WasLeft) EmptyResults(); // they may be those of another profile by now
     frmView.Visible = false;
     frmRoughness.LoadHidden();
     frmRoughness.Visible = true;

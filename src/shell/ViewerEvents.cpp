@@ -31,20 +31,16 @@ void ConnectProfileViewer(ProfileViewer& Viewer, void (*Draw)(), void (*ReadOut)
     };
     Viewer.hscYears.Change = [&Viewer] {
         PlotYear = static_cast<std::int16_t>(Viewer.hscYears.Value.Get());
-        Viewer.lblYear.Caption = std::to_string(wSupplyStart + PlotYear - 1);
+        Viewer.lblYear.Caption = std::to_string(CalendarYear(PlotYear));
     };
     HelpOn(Viewer.sscHelp, 5000);
     ConnectSurface(Viewer.picGraph, "The pipeline profile was copied to the clipboard", ReadOut);
     ConnectPointer(Viewer);
 }
 
-// The year and the gradeline's tick are those that all profile plots share.
-void ShowPlotState(ProfileViewer& Viewer)
+void ShowPlotStateOn(ProfileViewer& Viewer)
 {
-    Viewer.hscYears.Max = wLife;
-    Viewer.hscYears.Value.Restore(PlotYear);
-    Viewer.lblYear.Caption = std::to_string(wSupplyStart + PlotYear - 1);
-    Viewer.chkHydraulic.Value.Restore(HideGradeline == 0);
+    ShowPlotState(Viewer.hscYears, Viewer.lblYear, Viewer.chkHydraulic);
 }
 
 // The viewer as it opens: the whole profile, the first year.
@@ -54,8 +50,7 @@ void LoadProfileView()
     TakeProfileForPlot();
     FillDistances(frmView.comBegin, frmView.comEnd);
     HideGradeline = 0;
-    ShowPlotState(frmView);
-    frmResults.chkGradeline.Value.Restore(true);
+    ShowPlotStateOn(frmView);
 }
 
 void CloseProfileView()
@@ -70,7 +65,7 @@ void LoadRoughnessView()
 {
     TakeProfileForPlot();
     FillDistances(frmViewRoughness.comBegin, frmViewRoughness.comEnd);
-    ShowPlotState(frmViewRoughness);
+    ShowPlotStateOn(frmViewRoughness);
     DrawRoughnessProfilePlot();
 }
 
@@ -103,9 +98,9 @@ void ViewProfile()
 void ShowProfileAgain()
 {
     const bool TickFollows = frmView.chkHydraulic.Value != (HideGradeline == 0);
-    ShowPlotState(frmView);
-    if (TickFollows || ProfileYearDrawn != PlotYear) DrawProfilePlot();
+    ShowPlotStateOn(frmView);
     frmView.Visible = true;
+    if (TickFollows) DrawProfilePlot(); // as on any change of the tick; another year waits for its button
 }
 
 void ViewPumpCurve()
