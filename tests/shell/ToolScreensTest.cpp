@@ -18,10 +18,9 @@ class RoughnessScreenTest : public InputTest {
 protected:
     RoughnessScreenTest()
     {
-        ProjectRecord = GravityRecord();
-        SetText(ProjectRecord.Designer, "A. Designer");
-        NewProject = 1;
-        LoadProject();
+        ProjectFields Record = GravityRecord();
+        SetText(Record.Designer, "A. Designer");
+        Open(Record);
         Windows.Files = {File};
         frmLCC.sscViewProfile.Click();
         MDIProject.mnuRoughness.Click();
