@@ -75,13 +75,6 @@ protected:
         Type(Text);
     }
 
-    void StartPumpingProject()
-    {
-        Press(Qt::Key_N, Qt::ControlModifier);
-        Main->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(Main.get()));
-    }
-
     // A row from its first column on, each cell left by the arrow; Enter ends the last one.
     void TypeRow(const std::vector<QString>& Cells)
     {
@@ -98,7 +91,9 @@ protected:
 TEST_F(SessionTest, WhatIsTypedFromNothingIsWhatTheFileHolds)
 {
     TypeIntoProfile("12");
-    StartPumpingProject(); // over an open cell
+    Press(Qt::Key_N, Qt::ControlModifier); // over an open cell
+    Main->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Main.get()));
     EXPECT_FALSE(frmLCC.txtCell.Visible);
     EXPECT_EQ(frmLCC.msgProfile.Text(1, 1), "0");
     EXPECT_EQ(Saved, 1);
@@ -110,8 +105,7 @@ TEST_F(SessionTest, WhatIsTypedFromNothingIsWhatTheFileHolds)
         {&frmLCC.txtPERWL, "1260"},         {&frmLCC.txtPumpOperatingFlowrate, "150"}};
     for (const auto& [Box, Text] : GeneralPage) Fill(*Box, Text);
 
-    Press(Qt::Key_Tab, Qt::ControlModifier);
-    FocusTarget(frmLCC.msgProfile)->setFocus();
+    TypeIntoProfile("");
     TypeRow({"1200", "0", "300", "6", "850"});
     Press(Qt::Key_Down);
     for (int Step = 0; Step < 4; ++Step) Press(Qt::Key_Left);

@@ -106,6 +106,11 @@ TEST_F(GridPasteTest, DeleteEmptiesTheSelectedNumberCells)
 
 TEST_F(GridPasteTest, UndoBringsTheCellsBackUntilTheTableIsAnother)
 {
+    const auto ExpectNothingToUndo = [](Grid& Table, const char* Since) {
+        Saved = 1;
+        Table.Undo();
+        ExpectMarked(false, Since);
+    };
     const std::string Before = Texts(Profile, {1, 1, 4, 7});
     Go(Profile, 1, 1);
     Paste(Profile, "1\t2\n3\t4");
@@ -125,9 +130,7 @@ TEST_F(GridPasteTest, UndoBringsTheCellsBackUntilTheTableIsAnother)
     frmLCC.Visible = true; // back from the results
     Profile.Undo();
     EXPECT_EQ(Texts(Profile, {1, 1, 4, 7}), Before);
-    Saved = 1;
-    Profile.Undo();
-    ExpectMarked(false, "nothing to take back");
+    ExpectNothingToUndo(Profile, "all was taken back");
 
     // Each command and each session of the editor is a change of its own.
     Go(Profile, 2, 2);
@@ -150,16 +153,12 @@ TEST_F(GridPasteTest, UndoBringsTheCellsBackUntilTheTableIsAnother)
         Go(Profile, 1, 1);
         Paste(Profile, "77");
         Change();
-        Saved = 1;
-        Profile.Undo();
-        ExpectMarked(false, "another table");
+        ExpectNothingToUndo(Profile, "another table");
     }
     Go(frmLCC.msgDemand, 1, 1);
     Paste(frmLCC.msgDemand, "77");
     frmLCC.hscLife.Value = frmLCC.hscLife.Value - 1;
-    Saved = 1;
-    frmLCC.msgDemand.Undo();
-    ExpectMarked(false, "a table of other years");
+    ExpectNothingToUndo(frmLCC.msgDemand, "a table of other years");
 }
 
 } // namespace
