@@ -85,6 +85,16 @@ TEST_F(ControlViewTest, OptionsFollowTheirGroupAndMayAllBeOff)
     EXPECT_FALSE(Second->isChecked());
 }
 
+TEST_F(ControlViewTest, AMenuEntryFollowsItsRecord)
+{
+    MenuItem Item{"&Open", "Open an existing project"};
+    const std::unique_ptr<QAction> Action(View(Item));
+    Item.Enabled = false;
+    Item.Caption = "&Close";
+    EXPECT_FALSE(Action->isEnabled());
+    EXPECT_EQ(Action->text(), "&Close");
+}
+
 TEST_F(ControlViewTest, SliderAndNumberFieldShareTheValue)
 {
     ScrollBarView* const Both = Show(View(Life, " years"));
