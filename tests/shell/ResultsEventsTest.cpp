@@ -1,7 +1,6 @@
 // The results screen and the viewers, by what their surfaces, labels and tables hold.
 #include "ShellTest.h"
 #include "cost/CostResults.h"
-#include "hydraulics/HydraulicResults.h"
 #include "model/SampleRecords.h"
 #include "results/ChartFrame.h"
 #include "results/PlotState.h"

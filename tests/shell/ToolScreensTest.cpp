@@ -1,6 +1,5 @@
 // The screens of the tools under a user's hands: roughness from measurements, unit converter.
 #include "InputTest.h"
-#include "hydraulics/HydraulicResults.h"
 #include "model/SampleRecords.h"
 #include "results/PlotState.h"
 #include "roughness/RoughnessStores.h"
