@@ -1,11 +1,12 @@
-// A window to put views into, and the window system behind it with message boxes that are only noted.
+// A window to put views into, the window system behind it with message boxes that are only noted, and a user
+// of its dialogs.
 #pragma once
 
+#include "desktop/Binding.h"
 #include "desktop/QtPlatform.h"
 
 #include <QTest>
-#include <QVBoxLayout>
-#include <QWidget>
+#include <QtWidgets>
 
 #include <gmock/gmock.h>
 
@@ -24,6 +25,25 @@ public:
         return Answer::Ok;
     }
 };
+
+// Does something to the next window that stands above all others.
+template <typename Widget = QDialog, typename Action>
+void WithTopWindow(Action Do)
+{
+    QTimer::singleShot(0, qApp, [Do] {
+        auto* const Top = qobject_cast<Widget*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(Top);
+        Do(*Top);
+    });
+}
+
+// The answer to a dialog that asks for a file.
+inline void EnterFile(QDialog& Dialog, const QString& Name)
+{
+    auto* const Line = Dialog.findChild<QLineEdit*>();
+    Line->setText(Name);
+    QTest::keyClick(Line, Qt::Key_Return);
+}
 
 // The fixture's members are the records; the views go before they do.
 class DesktopTest : public testing::Test {

@@ -3,8 +3,6 @@
 #include "input/FileCommands.h"
 #include "model/SampleRecords.h"
 
-#include <QTemporaryDir>
-
 #include <fstream>
 #include <random>
 

@@ -1,92 +1,10 @@
-// The grid's cells on the screen: their place, the current cell, keys, selection, and the editors over it.
-#include "desktop/GridView.h"
-
-#include "desktop/Binding.h"
-#include "desktop/DesktopTest.h"
-#include "desktop/Views.h"
-#include "platform/Keys.h"
-
-#include <QAccessible>
-#include <QClipboard>
-#include <QComboBox>
-#include <QElapsedTimer>
-#include <QHeaderView>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
+// The grid's cells on the screen: their place, their looks, and what stays in sight.
+#include "GridViewTest.h"
 
 namespace velorix {
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
-
-class GridViewTest : public DesktopTest {
-protected:
-    GridViewTest()
-    {
-        Editor.Visible = false;
-        List.Visible = false;
-        Table.FixedCols = 1;
-        Table.HeaderHeight = 500;
-        Table.DataRowHeight = 450;
-        Table.ColWidth.assign(8, 1200);
-        for (int Row = 0; Row < Table.Rows(); ++Row)
-            for (int Col = 0; Col < Table.Cols(); ++Col)
-                Table.SetText(Row, Col, std::to_string(Row) + "." + std::to_string(Col));
-        Table.Select(1, 1);
-        Shown = Put(View(Table, Editor, &List));
-    }
-
-    void SetUp() override
-    {
-        ShowHost();
-        Shown->setFocus();
-    }
-
-    void TearDown() override
-    {
-        Table.CellView = {};
-        DesktopTest::TearDown();
-    }
-
-    void Click(int Row, int Col, Qt::MouseButton Button = Qt::LeftButton, Qt::KeyboardModifiers Held = {})
-    {
-        QTest::mouseClick(Shown->viewport(), Button, Held, Shown->CellRect(Row, Col).center());
-    }
-
-    void PressKeys(const std::vector<Qt::Key>& Keys, Qt::KeyboardModifiers Held = {})
-    {
-        for (Qt::Key Each : Keys) QTest::keyClick(Shown, Each, Held);
-    }
-
-    void ClickHeading(int Col, Qt::MouseButton Button = Qt::LeftButton)
-    {
-        QHeaderView* const Header = Shown->horizontalHeader();
-        const int Section = Col - 1;
-        const int Middle = Header->sectionViewportPosition(Section) + Header->sectionSize(Section) / 2;
-        QTest::mouseClick(Header->viewport(), Button, {}, QPoint(Middle, Header->height() / 2));
-    }
-
-    // What the shell does when a cell is opened.
-    void OpenEditor()
-    {
-        Editor.Text = Table.Text(Table.Row(), Table.Col());
-        Editor.SelStart = static_cast<int>(Editor.Text.Get().size());
-        Editor.Visible = true;
-        System().SetFocus(Editor);
-    }
-
-    std::string Place() const { return std::to_string(Table.Row()) + "," + std::to_string(Table.Col()); }
-    QRect CurrentRect() { return Shown->CellRect(Table.Row(), Table.Col()); }
-    bool InSight(const QRect& Cell) const { return Shown->viewport()->rect().contains(Cell); }
-
-    Grid Table{501, 8, "Enter the profile"};
-    TextBox Editor;
-    ComboBox List{{"Node", "Reservoir"}};
-    GridView* Shown = nullptr;
-};
 
 // 1200 and 450 twips are 80 and 30 pixels at 96 dots an inch, and 500 are 33.
 TEST_F(GridViewTest, ToldSizesAreKeptUnlessAHeadingNeedsMore)
@@ -122,30 +40,17 @@ TEST_F(GridViewTest, ToldSizesAreKeptUnlessAHeadingNeedsMore)
 
 TEST_F(GridViewTest, ColumnsComeAndGoWhileTheTableIsHidden)
 {
+    const int Scrolls = Shown->verticalScrollBar()->maximum();
     for (int Cols : {5, 8, 3}) {
-        Shown->hide();
+        Table.Visible = false;
         Table.SetCols(Cols);
-        Shown->show();
-        QCoreApplication::processEvents();
+        Table.Visible = true; // laid out before the grid has told its new shape
+        QTest::qWait(1);
         EXPECT_EQ(Shown->horizontalHeader()->count(), Cols - 1);
         EXPECT_EQ(Shown->CellRect(1, Cols - 1).right(), Shown->viewport()->rect().right());
+        EXPECT_EQ(Shown->verticalScrollBar()->maximum(), Scrolls);
     }
-}
-
-TEST_F(GridViewTest, HeadingsStayWhereTheyAreWhileTheCellsScroll)
-{
-    Host->resize(420, 300);
-    QCoreApplication::processEvents();
-    const QRect Cell = Shown->CellRect(9, 3);
-    Shown->horizontalScrollBar()->setValue(25);
-    Shown->verticalScrollBar()->setValue(60);
-    EXPECT_EQ(Shown->CellRect(9, 3), Cell.translated(-25, -60));
-    const QHeaderView* const Cols = Shown->horizontalHeader();
-    const QHeaderView* const Rows = Shown->verticalHeader();
-    EXPECT_EQ(Cols->sectionViewportPosition(2), Shown->CellRect(9, 3).left());
-    EXPECT_EQ(Rows->sectionViewportPosition(8), Shown->CellRect(9, 3).top());
-    EXPECT_EQ(Cols->y() + Cols->height(), Shown->viewport()->y());
-    EXPECT_EQ(Rows->x() + Rows->width(), Shown->viewport()->x());
+    EXPECT_THAT(Windows.Messages, IsEmpty());
 }
 
 TEST_F(GridViewTest, ColoursAreTheToldOnesAndEqualNeighboursShowAsOneCell)
@@ -213,98 +118,6 @@ TEST_F(GridViewTest, HeadingsAreBoldAndCellsCanBeCentred)
     EXPECT_NEAR(Ink(Shown->viewport(), Cell).second, 0.5, 0.03);
 }
 
-TEST_F(GridViewTest, AClickSelectsTheCellAndTellsTheButton)
-{
-    std::vector<std::string> Heard;
-    Table.MouseDown = [&](int Button) { Heard.push_back(std::to_string(Button) + " on " + Place()); };
-    Click(4, 2);
-    Click(5, 3, Qt::RightButton);
-    ClickHeading(4, Qt::RightButton); // opens no menu
-    PressKeys({Qt::Key_F10}, Qt::ShiftModifier);
-    ClickHeading(4); // can't become current, but the press counts
-    EXPECT_THAT(Heard, ElementsAre("1 on 4,2", "2 on 5,3", "4 on 5,3", "2 on 5,3", "1 on 5,3"));
-}
-
-TEST_F(GridViewTest, KeysGoToTheHandlersAndThenMoveTheCurrentCell)
-{
-    std::vector<int> Downs;
-    std::vector<int> Presses;
-    std::vector<int> Ups;
-    Table.KeyDown = [&](int& Key) {
-        Downs.push_back(Key);
-        if (Key == Keys::Left) Key = 0;
-    };
-    Table.KeyPress = [&](int& Key) { Presses.push_back(Key); };
-    Table.KeyUp = [&](int& Key) { Ups.push_back(Key); };
-    PressKeys({Qt::Key_Down, Qt::Key_Right, Qt::Key_Left, Qt::Key_F2, Qt::Key_Return});
-    QTest::keyClicks(Shown, "4%");
-    EXPECT_EQ(Place(), "2,2");
-    EXPECT_THAT(Downs, ElementsAre(Keys::Down, Keys::Right, Keys::Left, Keys::F2, Keys::Enter));
-    EXPECT_THAT(Presses, ElementsAre(13, '4', '%'));
-    EXPECT_EQ(Ups, Downs);
-}
-
-// An Enter that closed a message box is let go over the grid; one that closed the editor is the grid's own.
-TEST_F(GridViewTest, TheArrowsPassAHeadingInTheMidstOfTheTable)
-{
-    Table.MergeEqualCells = true;
-    for (int Col = 0; Col < Table.Cols(); ++Col) Table.SetText(3, Col, "Conditions");
-    Table.ShapeView();
-    Table.Select(2, 1);
-    for (int Row : {3, 4}) {
-        PressKeys({Qt::Key_Down});
-        EXPECT_EQ(Table.Row(), Row);
-    }
-    PressKeys({Qt::Key_Up, Qt::Key_Up});
-    EXPECT_EQ(Table.Row(), 2);
-    PressKeys({Qt::Key_Down, Qt::Key_Down}, Qt::ShiftModifier);
-    EXPECT_EQ(Table.Row(), 2);
-    EXPECT_EQ(Table.Selected().LastRow, 4);
-}
-
-TEST_F(GridViewTest, AKeyThatWentDownElsewhereIsNoKeyUpOfTheGrid)
-{
-    int Ups = 0;
-    Table.KeyUp = [&](int&) { ++Ups; };
-    QTest::keyRelease(Shown, Qt::Key_Return);
-    EXPECT_EQ(Ups, 0);
-
-    OpenEditor();
-    Editor.KeyPress = [&](int& Key) {
-        Key = 0;
-        Editor.Visible = false;
-    };
-    QTest::keyPress(Shown->EditorView(), Qt::Key_Return);
-    QTest::keyRelease(Shown, Qt::Key_Return);
-    EXPECT_EQ(Ups, 1);
-}
-
-TEST_F(GridViewTest, TabLeavesTheGridAndMovingAroundKeepsTheCellInSight)
-{
-    CommandButton Next{"Next"};
-    QWidget* const Button = Put(View(Next));
-    QCoreApplication::processEvents();
-    Table.Select(400, 6);
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(InSight(CurrentRect()));
-    PressKeys({Qt::Key_PageUp, Qt::Key_End});
-    EXPECT_LT(Table.Row(), 400 - 5);
-    EXPECT_EQ(Table.Col(), 7);
-    EXPECT_TRUE(InSight(CurrentRect()));
-    PressKeys({Qt::Key_Home}, Qt::ControlModifier);
-    EXPECT_EQ(Place(), "1,1");
-    EXPECT_TRUE(InSight(CurrentRect()));
-    Editor.Visible = true; // is no stop on the way
-    PressKeys({Qt::Key_Tab});
-    EXPECT_TRUE(Button->hasFocus());
-    QTest::keyClick(Button, Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_TRUE(Shown->hasFocus());
-    System().SetFocus(Editor);
-    Editor.Visible = false; // and the focus goes no further than the grid
-    EXPECT_TRUE(Shown->hasFocus());
-    Host.reset();
-}
-
 TEST_F(GridViewTest, ANewLastRowAndACellOnAPageThatScrollsComeIntoSight)
 {
     Table.SetRows(502);
@@ -353,122 +166,6 @@ TEST_F(GridViewTest, TheFrameAroundTheCurrentCellStepsBackWithTheFocus)
     Host.reset();
 }
 
-TEST_F(GridViewTest, CopyTakesTheSelectedCells)
-{
-    Click(2, 3);
-    QTest::keySequence(Shown, QKeySequence::Copy);
-    EXPECT_EQ(QApplication::clipboard()->text(), "2.3\n");
-    PressKeys({Qt::Key_Down, Qt::Key_Left}, Qt::ShiftModifier);
-    QTest::keySequence(Shown, QKeySequence::Copy);
-    EXPECT_EQ(QApplication::clipboard()->text(), "2.2\t2.3\n3.2\t3.3\n");
-    EXPECT_EQ(Place(), "2,3");
-    Click(4, 4, Qt::LeftButton, Qt::ShiftModifier);
-    EXPECT_EQ(Table.SelectedText(), "2.3\t2.4\n3.3\t3.4\n4.3\t4.4\n");
-    PressKeys({Qt::Key_Down}); // from the current cell, and alone again
-    EXPECT_EQ(Table.SelectedText(), "3.3\n");
-
-    Click(1, 1);
-    const QPoint Target = Shown->CellRect(1, 3).center();
-    QMouseEvent Drag(QEvent::MouseMove, Target, Shown->viewport()->mapToGlobal(Target), Qt::NoButton,
-                     Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(Shown->viewport(), &Drag);
-    EXPECT_EQ(Table.SelectedText(), "1.1\t1.2\t1.3\n");
-    Table.Select(7, 7);
-    EXPECT_EQ(Table.SelectedText(), "7.7\n");
-
-    Table.SetRows(4);
-    QCoreApplication::processEvents();
-    ClickHeading(3);
-    EXPECT_EQ(Place(), "1,3");
-    EXPECT_EQ(Table.SelectedText(), "0.3\n1.3\n2.3\n3.3\n");
-    PressKeys({Qt::Key_A}, Qt::ControlModifier);
-    EXPECT_EQ(Shown->selectionModel()->selectedIndexes().size(), 3 * 7);
-    QTest::mouseClick(Shown->verticalHeader()->viewport(), Qt::LeftButton, {},
-                      QPoint(5, Shown->CellRect(2, 1).center().y()));
-    EXPECT_EQ(Table.SelectedText().substr(0, 8), "2.1\t2.2\t");
-}
-
-TEST_F(GridViewTest, TheKeysOfCommandsReachTheRecord)
-{
-    std::string Heard;
-    Table.Paste = [&] { Heard += "paste "; };
-    Table.Undo = [&] { Heard += "undo "; };
-    Table.KeyDown = [&](int& Key) { Heard += Key == Keys::Delete ? "delete " : "other "; };
-    for (const QKeySequence::StandardKey Each : {QKeySequence::Paste, QKeySequence::Undo})
-        QTest::keySequence(Shown, Each);
-    PressKeys({Qt::Key_Delete});
-    EXPECT_EQ(Heard, "paste undo delete ");
-}
-
-TEST_F(GridViewTest, TheEditorLiesOverTheCurrentCellAndScrollsWithIt)
-{
-    Host->resize(420, 300);
-    Click(3, 2);
-    OpenEditor();
-    QLineEdit* const Line = Shown->EditorView();
-    EXPECT_EQ(Line->geometry(), CurrentRect());
-    EXPECT_TRUE(Line->hasFocus());
-    Shown->verticalScrollBar()->setValue(20);
-    EXPECT_EQ(Line->geometry(), CurrentRect());
-    EXPECT_TRUE(InSight(Line->geometry()));
-
-    // Below the headings it doesn't show; a key brings it back.
-    Shown->verticalScrollBar()->setValue(70);
-    EXPECT_EQ(Line->geometry(), CurrentRect());
-    EXPECT_FALSE(InSight(Line->geometry()));
-    Shown->verticalScrollBar()->setValue(1000);
-    EXPECT_FALSE(Line->geometry().intersects(Shown->viewport()->rect()));
-    QTest::keyClicks(Line, "5");
-    EXPECT_EQ(Line->geometry(), CurrentRect());
-    EXPECT_TRUE(InSight(Line->geometry()));
-    EXPECT_EQ(Editor.Text.Get(), "3.25");
-
-    // The other keys do nothing to the grid below.
-    Table.KeyPress = [](int&) { ADD_FAILURE(); };
-    for (Qt::Key Key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Escape, Qt::Key_Return, Qt::Key_PageDown})
-        QTest::keyClick(Line, Key);
-    EXPECT_EQ(Place(), "3,2");
-}
-
-TEST_F(GridViewTest, TheListShowsTheCellsTextAndLetsTheKeyboardOut)
-{
-    Click(2, 7);
-    Table.SetText(2, 7, "Air valve");
-    List.Visible = true;
-    QComboBox* const Choice = Shown->ListView();
-    EXPECT_TRUE(CurrentRect().contains(Choice->geometry()));
-    EXPECT_EQ(Choice->placeholderText(), "Air valve");
-    Choice->setFocus(Qt::TabFocusReason);
-    QTest::keyClick(Choice, Qt::Key_Down);
-    EXPECT_EQ(List.Text(), "Node");
-    QTest::keyClick(Choice, Qt::Key_Left);
-    EXPECT_EQ(Place(), "2,6");
-    EXPECT_TRUE(Shown->hasFocus());
-
-    System().SetFocus(List);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activePopupWidget() != nullptr; }));
-    Choice->hidePopup();
-}
-
-TEST_F(GridViewTest, TheRowMenuOpensOverTheGridAndRunsItsEntries)
-{
-    MenuItem Rows{"Rows"};
-    MenuItem Add{"Add a row"};
-    Rows.Visible = false;
-    bool Added = false;
-    Add.Click = [&] { Added = true; };
-    PopUpOver(*Shown, Rows, {&Add});
-    Table.MouseDown = [&](int) { Rows.Visible = true; };
-    Click(3, 3, Qt::RightButton);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activePopupWidget() != nullptr; }));
-    EXPECT_FALSE(Rows.Visible);
-    QWidget* const Menu = QApplication::activePopupWidget();
-    EXPECT_EQ(Menu->pos(), Shown->viewport()->mapToGlobal(Shown->CellRect(3, 3).center()));
-    for (Qt::Key Key : {Qt::Key_Down, Qt::Key_Return}) QTest::keyClick(Menu, Key);
-    EXPECT_TRUE(Added);
-    Host.reset();
-}
-
 TEST_F(GridViewTest, AScreenReaderGetsATableOfNamedCells)
 {
     Table.SetText(0, 2, "Elevation");
@@ -502,18 +199,6 @@ TEST_F(GridViewTest, RowsThatGoTakeNothingElseAlong)
 }
 
 // The whole table is on the screen within the blink of an eye; ten times the aim allows for a loaded machine.
-TEST_F(GridViewTest, ATableThatIsShownWithFewerColumnsScrollsAsBefore)
-{
-    const int Before = Shown->verticalScrollBar()->maximum();
-    Table.Visible = false;
-    Table.SetCols(5);
-    Table.Visible = true; // laid out before the grid has told its new shape
-    QTest::qWait(1);
-    EXPECT_THAT(Windows.Messages, IsEmpty());
-    EXPECT_EQ(Shown->verticalScrollBar()->maximum(), Before);
-    EXPECT_EQ(Shown->model()->columnCount(), 4);
-}
-
 TEST_F(GridViewTest, FillingAndPaintingAFullTableTakesNoTime)
 {
     QElapsedTimer Watch;

@@ -1,15 +1,8 @@
 // The guide that the build has made, and its viewer.
-#include "desktop/Binding.h"
 #include "desktop/MainWindowTest.h"
 #include "desktop/PdfView.h"
 #include "screens/Guide.h"
 #include "shell/GuideEvents.h"
-
-#include <QComboBox>
-#include <QFile>
-#include <QScrollBar>
-#include <QSpinBox>
-#include <QTemporaryFile>
 
 namespace velorix {
 namespace {

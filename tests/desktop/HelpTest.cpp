@@ -2,20 +2,8 @@
 #include "desktop/DialogLayouts.h"
 #include "desktop/HelpWindow.h"
 #include "desktop/MainWindowTest.h"
-#include "screens/ConverterScreen.h"
 #include "screens/Dialogs.h"
-#include "screens/ImportWizard.h"
 #include "screens/Print.h"
-
-#include <QFile>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QRegularExpression>
-#include <QTextBrowser>
-#include <QTextDocument>
-#include <QTextFormat>
-#include <QTimer>
-#include <QToolButton>
 
 #include <set>
 
@@ -27,13 +15,6 @@ std::vector<HelpTopic> ShippedTopics()
     QFile File(HELP_FILE);
     EXPECT_TRUE(File.open(QIODevice::ReadOnly));
     return HelpTopicsIn(QString::fromUtf8(File.readAll()));
-}
-
-std::set<int> NumbersOf(const std::vector<HelpTopic>& Topics)
-{
-    std::set<int> Numbers;
-    for (const HelpTopic& Each : Topics) EXPECT_TRUE(Numbers.insert(Each.Number).second) << Each.Number;
-    return Numbers;
 }
 
 class TopicPlatform : public NotingPlatform {
@@ -58,7 +39,8 @@ TEST_F(HelpTest, EveryHelpCommandAndEveryLinkFindsItsTopic)
     const std::set<int> Asked(Topics.Asked.begin(), Topics.Asked.end());
     EXPECT_EQ(Asked.size(), 14U);
     const std::vector<HelpTopic> Shipped = ShippedTopics();
-    const std::set<int> Numbers = NumbersOf(Shipped);
+    std::set<int> Numbers;
+    for (const HelpTopic& Each : Shipped) EXPECT_TRUE(Numbers.insert(Each.Number).second) << Each.Number;
     for (const int Each : Asked) EXPECT_TRUE(Numbers.count(Each)) << Each;
 
     static const QRegularExpression Link("\\]\\(#(\\d*)\\)");
@@ -95,33 +77,22 @@ TEST_F(HelpTest, F1AsksForTheHelpOfADialog)
     TopicPlatform Topics;
     InstallPlatform(&Topics);
     RegisterDialogs(Topics);
-    const auto PressF1 = [](Screen& Shown) {
+    const auto OpenAnd = [&](Screen& Shown, const std::function<void()>& Do) {
+        QTimer::singleShot(0, Main.get(), [&] {
+            Do();
+            Shown.Unload();
+        });
+        Topics.ShowModal(Shown);
+    };
+    const auto PressF1 = [] {
         QWidget* const Dialog = QApplication::activeModalWidget();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == Dialog; })) << Shown.Name;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == Dialog; }));
         QTest::keyClick(Dialog->focusWidget() ? Dialog->focusWidget() : Dialog, Qt::Key_F1);
     };
-    const std::pair<Screen*, int> Cases[] = {{&frmAbout, 5000},  {&frmPref, 4000},      {&frmConverter, 8500},
-                                             {&frmImport, 3030}, {&frmDeleteRow, 3060}, {&frmPrint, 4500}};
-    for (const auto& [Shown, Topic] : Cases) {
-        QTimer::singleShot(0, Main.get(), [&, Front = Shown] {
-            PressF1(*Front);
-            Front->Unload();
-        });
-        Topics.ShowModal(*Shown);
-        EXPECT_EQ(Topics.Asked, std::vector<int>{Topic}) << Shown->Name;
-        Topics.Asked.clear();
-    }
-
-    QTimer::singleShot(0, Main.get(), [&] {
-        QTimer::singleShot(0, Main.get(), [&] {
-            PressF1(frmSelectYear);
-            frmSelectYear.Unload();
-        });
-        Topics.ShowModal(frmSelectYear);
-        frmPrint.Unload();
-    });
-    Topics.ShowModal(frmPrint);
-    EXPECT_EQ(Topics.Asked, std::vector<int>{4500});
+    OpenAnd(frmAbout, PressF1);
+    OpenAnd(frmPref, PressF1);
+    OpenAnd(frmPrint, [&] { OpenAnd(frmSelectYear, PressF1); });
+    EXPECT_EQ(Topics.Asked, (std::vector<int>{5000, 4000, 4500}));
 }
 
 class HelpWindowTest : public DesktopTest {
@@ -143,6 +114,13 @@ protected:
         return Titles;
     }
 
+    QToolButton* Tool(const QString& Name) const
+    {
+        for (QToolButton* Each : Window->findChildren<QToolButton*>())
+            if (Each->accessibleName() == Name) return Each;
+        return nullptr;
+    }
+
     void Search(const QString& Words) { Window->findChild<QLineEdit*>()->setText(Words); }
 
     HelpWindow* const Window = new HelpWindow(
@@ -159,14 +137,8 @@ TEST_F(HelpWindowTest, LinksAndChoicesAreStepsThatCanBeTakenBack)
     List().setCurrentRow(0);
     EXPECT_TRUE(Shown().startsWith("Contents"));
 
-    const QList<QToolButton*> Steps =
-        Window->findChildren<QToolButton*>(QString(), Qt::FindChildrenRecursively);
-    QToolButton* Back = nullptr;
-    QToolButton* Forward = nullptr;
-    for (QToolButton* Each : Steps) {
-        if (Each->accessibleName() == "Back") Back = Each;
-        if (Each->accessibleName() == "Forward") Forward = Each;
-    }
+    QToolButton* const Back = Tool("Back");
+    QToolButton* const Forward = Tool("Forward");
     EXPECT_FALSE(Forward->isEnabled());
     Back->click();
     Back->click();
@@ -180,42 +152,35 @@ TEST_F(HelpWindowTest, LinksAndChoicesAreStepsThatCanBeTakenBack)
     EXPECT_FALSE(Forward->isEnabled()); // a new way
 }
 
+// Words that begin with what is typed come first, those of a title before those of a text; within words it is
+// sought only when none begins so. The topic that shows stays if it is among the found, else the best comes.
 TEST_F(HelpWindowTest, ASearchListsTheTopicsThatHoldAllWordsAndMarksThem)
 {
-    Search("bedding TRENCH");
-    EXPECT_EQ(Listed(), QStringList{"Pipe laying"});
-    EXPECT_TRUE(Shown().contains("Trench"));
-    EXPECT_EQ(Window->findChild<QTextBrowser*>()->extraSelections().size(), 2);
-    Window->ShowTopic(30); // asked for by a command: the search is over
     const QStringList All = {"Contents", "Pipe laying", "Energy"};
-    EXPECT_EQ(Listed(), All);
+    const struct {
+        const char* Typed;
+        QStringList Titles;
+        const char* Shows;
+        int Marks;
+    } Cases[] = {{"bedding TRENCH", {"Pipe laying"}, "Trench", 2},
+                 {"p", {"Pipe laying", "Energy"}, "Peak", 1},
+                 {"e", {"Energy", "Contents", "Pipe laying"}, "Peak", 1}, // Contents, Pipe, Energy, See
+                 {"ta", {"Contents"}, "Start", 1},
+                 {"la", {"Pipe laying", "Energy"}, "Peak", 1},
+                 {"b", {"Pipe laying"}, "bedding", 1},
+                 {"nowhere", {}, "Peak", 0}};
+    for (const auto& [Typed, Titles, Shows, Marks] : Cases) {
+        Search("");
+        EXPECT_EQ(Listed(), All);
+        Window->ShowTopic(30);
+        Search(Typed);
+        EXPECT_EQ(Listed(), Titles) << Typed;
+        EXPECT_TRUE(Shown().contains(Shows)) << Typed;
+        EXPECT_EQ(Window->findChild<QTextBrowser*>()->extraSelections().size(), Marks) << Typed;
+    }
     Search("bedding");
-    Search("nowhere");
-    EXPECT_TRUE(Shown().contains("Trench")); // what stood stays
-    Search("");
+    Window->ShowTopic(30); // asked for by a command: the search is over
     EXPECT_EQ(Listed(), All);
-}
-
-// The topic that shows, if its words begin so; else that with the most of them. Within words only when
-// nothing begins so.
-TEST_F(HelpWindowTest, WordsThatBeginWithWhatIsTypedComeFirst)
-{
-    Search("p"); // that of a title before those of a text
-    EXPECT_EQ(Listed(), QStringList({"Pipe laying", "Energy"}));
-    EXPECT_TRUE(Shown().contains("Peak"));
-    Search("e"); // Contents, Pipe, Energy, See
-    EXPECT_EQ(Listed(), QStringList({"Energy", "Contents", "Pipe laying"}));
-    EXPECT_TRUE(Shown().contains("Peak"));
-    EXPECT_EQ(Window->findChild<QTextBrowser*>()->extraSelections().size(), 1);
-    Search("ta");
-    EXPECT_EQ(Listed(), QStringList{"Contents"});
-    EXPECT_EQ(Window->findChild<QTextBrowser*>()->extraSelections().size(), 1);
-    Search("la");
-    EXPECT_EQ(Listed(), QStringList({"Pipe laying", "Energy"}));
-    List().setCurrentRow(1);
-    EXPECT_TRUE(Shown().contains("Peak"));
-    Search("b");
-    EXPECT_TRUE(Shown().contains("bedding"));
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 // What holds of every screen's layout: nothing is missing, nameless, clipped or out of the keyboard's reach.
 #include "analysis/AnalyseDialog.h"
-#include "desktop/Binding.h"
 #include "desktop/DialogLayouts.h"
 #include "desktop/MainWindowTest.h"
 #include "results/PlotState.h"
@@ -9,28 +8,7 @@
 #include "screens/ImportWizard.h"
 #include "screens/RoughnessScreen.h"
 
-#include <QAbstractButton>
-#include <QAbstractSpinBox>
-#include <QAccessible>
-#include <QClipboard>
-#include <QDialog>
-#include <QDir>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
-#include <QRadioButton>
-#include <QRegularExpression>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QSvgRenderer>
-#include <QTabBar>
-#include <QTabWidget>
-#include <QToolButton>
-
 #include <algorithm>
-#include <cmath>
 #include <map>
 #include <set>
 
@@ -163,13 +141,6 @@ void ExpectOwnMnemonics(const QMainWindow& Window)
 
 class LayoutsTest : public MainWindowTest {
 protected:
-    void StartProject(int SystemType)
-    {
-        wSystemType = static_cast<std::int16_t>(SystemType);
-        NewProjectDefaults();
-        QCoreApplication::processEvents();
-    }
-
     // Everything that must hold of what the window shows now.
     void Examine(const Screen& Shown, const std::string& State)
     {
@@ -178,6 +149,27 @@ protected:
         ExpectRoomForAll(*Main);
         ExpectTabsReach(Shown, *Main);
         ExpectOwnMnemonics(*Main);
+    }
+
+    // A dialog over the main window, no larger than the smallest screen has room for.
+    static void ExamineDialog(const Screen& Shown, QDialog& Dialog)
+    {
+        SCOPED_TRACE(Shown.Name);
+        QCoreApplication::processEvents();
+        ExpectRoomForAll(Dialog);
+        ExpectTabsReach(Shown, Dialog);
+        const QSize Needed = Dialog.isMaximized() ? Dialog.minimumSizeHint() : Dialog.size();
+        EXPECT_LE(Needed.width(), 800);
+        EXPECT_LE(Needed.height(), 560);
+    }
+
+    std::unique_ptr<QDialog> Open(Screen& Shown, QDialog* (*Make)(QWidget*))
+    {
+        Shown.LoadHidden();
+        std::unique_ptr<QDialog> Dialog(Make(Main.get()));
+        Dialog->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(Dialog.get()));
+        return Dialog;
     }
 
     void ExaminePages(const std::string& State)
@@ -194,7 +186,7 @@ protected:
 // The two commands that are wanted most stand among the tool buttons too, and Exit has two records.
 TEST_F(LayoutsTest, EveryMenuEntryStandsInItsMenuAndRaisesItsOwnClick)
 {
-    StartProject(1); // which has all pages
+    Start(1); // which has all pages
     std::map<std::string, int> Told, Expected;
     for (Control* Each : MDIProject.Controls) {
         auto* const Entry = dynamic_cast<MenuItem*>(Each);
@@ -248,35 +240,28 @@ TEST_F(LayoutsTest, TheInputScreenFitsWhateverIsChosen)
     const std::vector<OptionButton*> Choices[] = {{&frmLCC.optGCalculatedFlowrate, &frmLCC.optMortar},
                                                   {&frmLCC.optPumpVarying, &frmLCC.optPumpDetails}};
     for (int SystemType : {0, 1}) {
-        StartProject(SystemType);
+        Start(SystemType);
         ExaminePages("system " + std::to_string(SystemType));
         for (OptionButton* Each : Choices[SystemType]) {
             Each->Value = true;
             ExaminePages(Each->Caption.Get() + " of system " + std::to_string(SystemType));
         }
     }
-}
-
-TEST_F(LayoutsTest, APaneStandsInForItsPageAndTakesTheFocus)
-{
-    StartProject(1);
-    frmLCC.fraPumpDetails.Visible = true;
-    Examine(frmLCC, "pump details");
-    EXPECT_FALSE(FocusTarget(frmLCC.txtProject)->isVisible());
-    frmLCC.fraPumpDetails.Visible = false;
-    EXPECT_TRUE(FocusTarget(frmLCC.txtProject)->isVisible());
-
-    frmLCC.sstInput.Tab = 1;
-    frmLCC.fraLaying.Visible = true;
-    EXPECT_TRUE(FocusTarget(frmLCC.msgLaying)->hasFocus());
-    Examine(frmLCC, "laying");
-    frmLCC.fraLaying.Visible = false;
-    EXPECT_TRUE(FocusTarget(frmLCC.msgProfile)->isVisible());
+    for (const auto& [Page, Pane, Covered] :
+         {std::tuple<int, Frame&, Control&>(0, frmLCC.fraPumpDetails, frmLCC.txtProject),
+          {1, frmLCC.fraLaying, frmLCC.msgProfile}}) {
+        frmLCC.sstInput.Tab = Page;
+        Pane.Visible = true;
+        Examine(frmLCC, Pane.Caption);
+        EXPECT_FALSE(FocusTarget(Covered)->isVisible());
+        Pane.Visible = false;
+        EXPECT_TRUE(FocusTarget(Covered)->isVisible());
+    }
 }
 
 TEST_F(LayoutsTest, KeysTurnThePagesFromAnyField)
 {
-    StartProject(0);
+    Start(0);
     frmLCC.sstInput.Tab = 1;
     QWidget* const List = FocusTarget(frmLCC.comElevationUnits);
     List->setFocus();
@@ -288,16 +273,13 @@ TEST_F(LayoutsTest, KeysTurnThePagesFromAnyField)
     EXPECT_EQ(frmLCC.sstInput.Tab, 0); // a page that goes gives way
 }
 
-TEST_F(LayoutsTest, OneScreenStandsAtATime)
+TEST_F(LayoutsTest, TheResultsStandInForTheInputAndFit)
 {
     QWidget* const Input = FocusTarget(frmLCC.sstInput);
     QWidget* const Results = FocusTarget(frmResults.sstResults);
-    EXPECT_TRUE(Input->isVisible());
-    frmResults.LoadHidden();
-    frmLCC.Visible = false;
-    EXPECT_FALSE(Input->isVisible() || Results->isVisible());
-    frmResults.Visible = true;
-    EXPECT_TRUE(Results->isVisible());
+    EXPECT_TRUE(Input->isVisible() && !Results->isVisible());
+    ShowResults();
+    EXPECT_TRUE(Results->isVisible() && !Input->isVisible());
     frmResults.lblDesignLife.Caption = "100 years";
     frmResults.lblNPVE.Caption = frmResults.lblNPVI.Caption = "R1,938,817,700";
     frmResults.lblIRR.Caption = "IRR = 117.813 %";
@@ -307,22 +289,11 @@ TEST_F(LayoutsTest, OneScreenStandsAtATime)
         frmResults.sstResults.Tab = Page;
         Examine(frmResults, "results, page " + std::to_string(Page));
     }
-    struct {
-        int Page;
-        CommandButton& Show;
-        Control& First;
-        CommandButton& Hide;
-    } const Panes[] = {
-        {0, frmResults.sscViewHydraulicTable, frmResults.msgHydraulic, frmResults.sscHideHydraulicTable},
-        {0, frmResults.sscDutypoint, frmResults.hscDuty, frmResults.sscHideDuty},
-        {1, frmResults.sscViewTable, frmResults.msgSystem, frmResults.sscHideTable}};
-    for (const auto& Each : Panes) {
-        frmResults.sstResults.Tab = Each.Page;
-        Each.Show.Click();
-        EXPECT_TRUE(FocusTarget(Each.First)->hasFocus()) << Each.Show.ToolTip;
-        Each.Hide.Click();
-    }
-    frmResults.Visible = false;
+}
+
+TEST_F(LayoutsTest, TheRoughnessScreensFitWithLongFiguresAndInNarrowWindows)
+{
+    frmLCC.Visible = false;
     TakeProfileForPlot();
     MDIProject.mnuRoughness.Click();
     QCoreApplication::processEvents();
@@ -349,132 +320,32 @@ TEST_F(LayoutsTest, OneScreenStandsAtATime)
 TEST_F(LayoutsTest, DialogsAreCompleteAndFit)
 {
     for (const auto& [Shown, Make] : AllDialogs()) {
-        if (Shown == &frmAnalyse) continue; // opens empty, see below
-        SCOPED_TRACE(Shown->Name);
-        Shown->LoadHidden();
-        const std::unique_ptr<QDialog> Dialog(Make(Main.get()));
-        Dialog->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(Dialog.get()));
+        const auto Dialog = Open(*Shown, Make);
+        if (Shown == &frmAnalyse) { // any key ends its opening
+            QWidget* const Analyse = FocusTarget(frmAnalyse.sscAnalyse);
+            EXPECT_FALSE(Analyse->isVisible());
+            QTest::keyClick(Dialog->focusWidget(), Qt::Key_Escape);
+            EXPECT_TRUE(Dialog->isVisible());
+            EXPECT_EQ(Dialog->focusWidget(), Analyse);
+        }
         ExpectAllThere(*Shown, *Dialog);
-        ExpectRoomForAll(*Dialog);
-        ExpectTabsReach(*Shown, *Dialog);
+        ExamineDialog(*Shown, *Dialog);
         ExpectPressesTold(*Shown);
-        const QSize Needed = Dialog->isMaximized() ? Dialog->minimumSizeHint() : Dialog->size();
-        EXPECT_LE(Needed.width(), 800);
-        EXPECT_LE(Needed.height(), 560);
         Shown->Unload();
     }
 }
 
 TEST_F(LayoutsTest, EveryStepOfTheImportFits)
 {
-    frmImport.LoadHidden();
-    const std::unique_ptr<QDialog> Dialog(ImportDialog(Main.get()));
-    Dialog->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(Dialog.get()));
+    const auto Dialog = Open(frmImport, ImportDialog);
     QApplication::clipboard()->setText("12,5\t0\t600\t6\t90\t0\n");
     for (CommandButton* Pressed : {&frmImport.sscNext, &frmImport.sscPaste, &frmImport.sscNext}) {
         Pressed->Click();
-        QCoreApplication::processEvents();
-        ExpectRoomForAll(*Dialog);
-        ExpectTabsReach(frmImport, *Dialog);
-        EXPECT_LE(Dialog->width(), 800);
-        EXPECT_LE(Dialog->height(), 560);
+        ExamineDialog(frmImport, *Dialog);
     }
     EXPECT_TRUE(FocusTarget(frmImport.msgFImport)->isVisible());
     EXPECT_GE(Dialog->x(), 0);
     frmImport.Unload();
-}
-
-TEST_F(LayoutsTest, AnyKeyEndsTheOpeningOfTheAnalysis)
-{
-    frmAnalyse.LoadHidden();
-    const std::unique_ptr<QDialog> Dialog(AnalyseDialog(Main.get()));
-    Dialog->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(Dialog.get()));
-    QWidget* const Analyse = FocusTarget(frmAnalyse.sscAnalyse);
-    EXPECT_FALSE(Analyse->isVisible());
-    QTest::keyClick(Dialog->focusWidget(), Qt::Key_Escape);
-    EXPECT_TRUE(Dialog->isVisible());
-    EXPECT_EQ(Dialog->focusWidget(), Analyse);
-    ExpectAllThere(frmAnalyse, *Dialog);
-    ExpectPressesTold(frmAnalyse);
-    ExpectRoomForAll(*Dialog);
-    frmAnalyse.Unload();
-}
-
-TEST(StyleTest, EveryDrawingCanBeDrawn)
-{
-    const QStringList Names = QDir(":/icons").entryList();
-    EXPECT_FALSE(Names.isEmpty());
-    for (const QString& Each : Names)
-        EXPECT_TRUE(QSvgRenderer(":/icons/" + Each).isValid()) << Each.toStdString();
-}
-
-// Contrast of two colours, 1 to 21, as the Web Content Accessibility Guidelines define it.
-double Contrast(const QColor& One, const QColor& Other)
-{
-    const auto Linear = [](double Part) {
-        return Part <= 0.04045 ? Part / 12.92 : std::pow((Part + 0.055) / 1.055, 2.4);
-    };
-    const auto Luminance = [&](const QColor& Value) {
-        return 0.2126 * Linear(Value.redF()) + 0.7152 * Linear(Value.greenF()) +
-               0.0722 * Linear(Value.blueF());
-    };
-    const auto [Low, High] = std::minmax({Luminance(One), Luminance(Other)});
-    return (High + 0.05) / (Low + 0.05);
-}
-
-void StyleAsOn(bool Dark)
-{
-    QApplication::setPalette(QPalette(QColor(Dark ? "#202020" : "#efefef")));
-    ApplyStyle(*static_cast<QApplication*>(QApplication::instance()));
-    ASSERT_EQ(Colors().Dark, Dark);
-}
-
-// 4.5 is what the guidelines ask of text of ordinary size, 3 of what marks a control. They ask nothing of
-// what can't be used.
-TEST(StyleTest, TextIsLegibleOnLightAndOnDarkDesktops)
-{
-    const QPalette Before = QApplication::palette();
-    for (const bool Dark : {false, true}) {
-        StyleAsOn(Dark);
-        for (const QColor& Letters : {Colors().Ink, Colors().Muted, Colors().Accent})
-            for (const QColor& Surface : {Colors().Window, Colors().Card, Colors().Field})
-                EXPECT_GE(Contrast(Letters, Surface), 4.5);
-        EXPECT_GE(Contrast(Colors().Ink, Colors().Button), 4.5);
-        EXPECT_GE(Contrast(Colors().Disabled, Colors().Button), Dark ? 3.0 : 1.0);
-    }
-    QApplication::setPalette(Before);
-}
-
-TEST(StyleTest, TheFocusShowsOnBoxesAndLeavesTheTextOfATabAlone)
-{
-    const QPalette Before = QApplication::palette();
-    for (const bool Dark : {true, false}) {
-        StyleAsOn(Dark);
-        QWidget Window;
-        auto* const Layout = new QVBoxLayout(&Window);
-        auto* const Box = new QLineEdit;
-        auto* const Tabs = new QTabWidget;
-        Tabs->addTab(new QWidget, QString(12, ' '));
-        Layout->addWidget(Box);
-        Layout->addWidget(Tabs);
-        Window.show();
-        Window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&Window));
-        const auto Outline = [Box] { return Box->grab().toImage().pixelColor(Box->width() / 2, 0); };
-        Box->setFocus();
-        const QColor Focused = Outline();
-        Tabs->tabBar()->setFocus();
-        EXPECT_GE(Contrast(Focused, Colors().Card), 3.0);
-        EXPECT_GE(Contrast(Focused, Colors().Card), 1.5 * Contrast(Outline(), Colors().Card));
-
-        const QImage Tab = Tabs->tabBar()->grab().toImage();
-        for (int Y = 2; Y < Tab.height() - 4; ++Y)
-            EXPECT_EQ(Tab.pixelColor(Tabs->tabBar()->tabRect(0).center().x(), Y), Colors().Tint) << Y;
-    }
-    QApplication::setPalette(Before);
 }
 
 } // namespace

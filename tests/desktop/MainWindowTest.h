@@ -35,6 +35,21 @@ protected:
         ResetSession();
     }
 
+    // A new project of that kind.
+    static void Start(int SystemType)
+    {
+        wSystemType = static_cast<std::int16_t>(SystemType);
+        NewProjectDefaults();
+        QCoreApplication::processEvents();
+    }
+
+    static void ShowResults()
+    {
+        frmLCC.Visible = false;
+        frmResults.LoadHidden();
+        frmResults.Visible = true;
+    }
+
     std::unique_ptr<MainWindow> Main;
 };
 

@@ -8,18 +8,6 @@
 #include "reports/PrintRun.h"
 #include "screens/Viewers.h"
 
-#include <QComboBox>
-#include <QDialog>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QProcess>
-#include <QPushButton>
-#include <QScopeGuard>
-#include <QSpinBox>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
-
 #include <fstream>
 
 namespace velorix {
@@ -37,16 +25,6 @@ protected:
     }
     ~PrintJobsTest() override { InstallPlatform(nullptr); }
 
-    template <typename Action>
-    static void WithTopDialog(Action Do)
-    {
-        QTimer::singleShot(0, qApp, [Do] {
-            auto* const Top = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            ASSERT_TRUE(Top);
-            Do(*Top);
-        });
-    }
-
     static void Press(const QDialog& Dialog, const QString& Text)
     {
         for (QPushButton* Each : Dialog.findChildren<QPushButton*>())
@@ -54,20 +32,17 @@ protected:
         FAIL() << "no button " << Text.toStdString();
     }
 
-    static void EnterFile(const std::filesystem::path& Path)
+    static void NameNextFile(const std::filesystem::path& Path)
     {
-        WithTopDialog([Path](QDialog& Dialog) {
-            Dialog.findChild<QLineEdit*>()->setText(QString::fromStdString(Path.string()));
-            QTest::keyClick(Dialog.findChild<QLineEdit*>(), Qt::Key_Return);
-        });
+        WithTopWindow([Path](QDialog& Dialog) { EnterFile(Dialog, QString::fromStdString(Path.string())); });
     }
 
     // Answers the printer dialog, whatever printers the machine has, and the question for the file.
     std::optional<PrintChoice> Choose(const QString& Target, int Copies, const std::filesystem::path& File,
                                       const PrintDialog& Asked = {})
     {
-        WithTopDialog([=](QDialog& Dialog) {
-            if (!File.empty()) EnterFile(File);
+        WithTopWindow([=](QDialog& Dialog) {
+            if (!File.empty()) NameNextFile(File);
             Dialog.findChild<QComboBox*>()->setCurrentText(Target);
             Dialog.findChild<QSpinBox*>()->setValue(Copies);
             Press(Dialog, "OK");
@@ -136,7 +111,7 @@ TEST_F(PrintJobsTest, APrinterGetsAPageAsItIsAndItsRefusalIsTold)
     const auto PrintBy = [&](const std::string& Script) {
         std::ofstream(Program) << "#!/bin/sh\ncd '" << Folder.string() << "'\n" << Script << "\n";
         std::filesystem::permissions(Program, std::filesystem::perms::owner_all);
-        WithTopDialog([](QDialog& Dialog) {
+        WithTopWindow([](QDialog& Dialog) {
             auto* const Targets = Dialog.findChild<QComboBox*>();
             Targets->insertItem(0, "Office");
             Targets->setItemData(0, static_cast<int>(PrintTarget::Printer), Qt::UserRole);
@@ -181,10 +156,10 @@ TEST_F(PrintJobsTest, WhatCannotBeWrittenOrHasNoPageLeavesNoFile)
 
 TEST_F(PrintJobsTest, CancelInEitherDialogGivesNothing)
 {
-    WithTopDialog([](QDialog& Dialog) { Press(Dialog, "Cancel"); });
+    WithTopWindow([](QDialog& Dialog) { Press(Dialog, "Cancel"); });
     EXPECT_FALSE(Windows.AskPrinter({}));
-    WithTopDialog([](QDialog& Dialog) {
-        WithTopDialog([](QDialog& File) { File.reject(); });
+    WithTopWindow([](QDialog& Dialog) {
+        WithTopWindow([](QDialog& File) { File.reject(); });
         Dialog.findChild<QComboBox*>()->setCurrentText("PDF file");
         Press(Dialog, "OK");
     });
@@ -195,7 +170,7 @@ TEST_F(PrintJobsTest, TheSetupPresetsTheNextPrintAndAsksForNoFile)
 {
     EXPECT_TRUE(Choose("PDF file", 1, {}, {.Setup = true}));
     EXPECT_TRUE(Choose("Preview", 2, {}));
-    WithTopDialog([](QDialog& Dialog) {
+    WithTopWindow([](QDialog& Dialog) {
         EXPECT_EQ(Dialog.findChild<QComboBox*>()->currentText(), "Preview");
         EXPECT_EQ(Dialog.findChild<QSpinBox*>()->value(), 1);
         Dialog.reject();
@@ -208,7 +183,7 @@ TEST_F(PrintJobsTest, ThePreviewGoesThroughThePagesByKeysAndSavesThem)
     ASSERT_TRUE(Choose("Preview", 1, {}));
     PrintPages(5);
     bool Shown = false;
-    WithTopDialog([&](QDialog& Preview) {
+    WithTopWindow([&](QDialog& Preview) {
         Shown = true;
         auto* const Number = Preview.findChild<QSpinBox*>();
         const auto Key = [&](Qt::Key Pressed, Qt::KeyboardModifiers With = Qt::NoModifier) {
@@ -225,7 +200,7 @@ TEST_F(PrintJobsTest, ThePreviewGoesThroughThePagesByKeysAndSavesThem)
         EXPECT_EQ(Key(Qt::Key_Plus, Qt::ControlModifier), 1);
         Number->setValue(3);
         EXPECT_FALSE(Preview.grab().isNull());
-        EnterFile(Folder / "seen.pdf");
+        NameNextFile(Folder / "seen.pdf");
         Press(Preview, "Save as PDF...");
         Key(Qt::Key_Escape);
     });

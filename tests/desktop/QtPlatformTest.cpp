@@ -5,16 +5,6 @@
 #include "desktop/DesktopTest.h"
 #include "desktop/Views.h"
 
-#include <QClipboard>
-#include <QDialog>
-#include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QTimer>
-
 #include <cfenv>
 #include <fstream>
 
@@ -49,27 +39,10 @@ protected:
     }
     ~QtPlatformTest() override { InstallPlatform(nullptr); }
 
-    // Does something to the next window that stands above all others.
-    template <typename Widget, typename Action>
-    void WithTopWindow(Action Do)
-    {
-        QTimer::singleShot(0, qApp, [Do] {
-            auto* const Top = qobject_cast<Widget*>(QApplication::activeModalWidget());
-            ASSERT_TRUE(Top);
-            Do(*Top);
-        });
-    }
-
     Answer AnswerBy(Qt::Key Key, MessageButtons Buttons)
     {
         WithTopWindow<QMessageBox>([Key](QMessageBox& Box) { QTest::keyClick(&Box, Key); });
         return Windows.Show({.Text = "Text", .Buttons = Buttons});
-    }
-
-    static void EnterName(QFileDialog& Dialog, const QString& Name)
-    {
-        Dialog.findChild<QLineEdit*>()->setText(Name);
-        QTest::keyClick(Dialog.findChild<QLineEdit*>(), Qt::Key_Return);
     }
 
     QtPlatform Windows;
@@ -118,7 +91,7 @@ TEST_F(QtPlatformTest, AMessageShowsItsTextAsItStandsAndWithThePlainPointer)
 TEST_F(QtPlatformTest, AModalScreenIsFollowedUntilItIsHidden)
 {
     Small.Ok.Click = [this] { Small.Visible = false; };
-    WithTopWindow<QDialog>([this](QDialog& Dialog) {
+    WithTopWindow([this](QDialog& Dialog) {
         EXPECT_EQ(Dialog.windowTitle(), "  SMALL");
         Small.Caption = "Big";
         EXPECT_EQ(Dialog.windowTitle(), "Big");
@@ -140,7 +113,7 @@ TEST_F(QtPlatformTest, TheFrameAndEscapeCloseAScreenItsOwnWay)
     Small.Close = [&] {
         if (++Closed == 3) Small.Unload(); // until then it stays
     };
-    WithTopWindow<QDialog>([](QDialog& Dialog) {
+    WithTopWindow([](QDialog& Dialog) {
         QTest::keyClick(&Dialog, Qt::Key_Escape);
         Dialog.close();
         EXPECT_TRUE(Dialog.isVisible());
@@ -156,11 +129,11 @@ TEST_F(QtPlatformTest, ADialogMayOpenAnotherAndGoBeforeIt)
     Windows.RegisterDialog(Second, [](QWidget* Owner) { return new QDialog(Owner); });
     Small.Ok.Click = [&] {
         Small.Visible = false;
-        WithTopWindow<QDialog>([](QDialog& Dialog) { Dialog.close(); });
+        WithTopWindow([](QDialog& Dialog) { Dialog.close(); });
         System().ShowModal(Second);
         Small.Unload();
     };
-    WithTopWindow<QDialog>([](QDialog& Dialog) { Dialog.findChild<QPushButton*>()->click(); });
+    WithTopWindow([](QDialog& Dialog) { Dialog.findChild<QPushButton*>()->click(); });
     Windows.ShowModal(Small);
     EXPECT_FALSE(Small.IsLoaded() || Second.IsLoaded());
 }
@@ -172,7 +145,7 @@ TEST_F(QtPlatformTest, AScreenWithoutADialogIsAFailureAndTheEndOfTheProgramEndsD
     EXPECT_FALSE(Unknown.IsLoaded());
 
     QTimer::singleShot(0, qApp, [this] {
-        WithTopWindow<QDialog>([this](QDialog&) { Windows.EndProgram(); });
+        WithTopWindow([this](QDialog&) { Windows.EndProgram(); });
         Windows.ShowModal(Small);
     });
     EXPECT_FALSE(Windows.HasEnded());
@@ -184,7 +157,7 @@ TEST_F(QtPlatformTest, AFatalFailureIsReportedBeforeItEndsTheProgram)
 {
     Small.Ok.Click = [] { throw FatalFailure("row 2 of the paste"); };
     QTimer::singleShot(0, qApp, [this] {
-        WithTopWindow<QDialog>([this](QDialog& Dialog) {
+        WithTopWindow([this](QDialog& Dialog) {
             WithTopWindow<QMessageBox>([this](QMessageBox& Box) {
                 EXPECT_TRUE(Box.text().contains("row 2 of the paste"));
                 EXPECT_FALSE(Windows.HasEnded());
@@ -205,7 +178,7 @@ TEST_F(QtPlatformTest, AFileIsAskedForInItsFolderAndGetsTheExtension)
         EXPECT_EQ(Dialog.directory().path().toStdString(), Asked.Folder.string());
         EXPECT_EQ(Dialog.nameFilters(), QStringList({"All files (*)", "Projects (*.vlx *.old)"}));
         EXPECT_EQ(Dialog.selectedNameFilter(), "Projects (*.vlx *.old)");
-        EnterName(Dialog, "main°");
+        EnterFile(Dialog, "main°");
     });
     EXPECT_THAT(Windows.AskFileToSave(Asked), Optional(Eq(Asked.Folder / "main°.vlx")));
     EXPECT_EQ(NameFilters(""), QStringList());
@@ -221,14 +194,14 @@ TEST_F(QtPlatformTest, OverwritingIsAskedBackAndCancelGivesNothing)
             AskedBack = true;
             Question.reject();
         });
-        EnterName(Dialog, "old");
+        EnterFile(Dialog, "old");
         EXPECT_TRUE(Dialog.isVisible());
         Dialog.reject();
     });
     EXPECT_EQ(Windows.AskFileToSave(Asked), std::nullopt);
     EXPECT_TRUE(AskedBack);
 
-    WithTopWindow<QFileDialog>([](QFileDialog& Dialog) { EnterName(Dialog, "old.vlx"); });
+    WithTopWindow<QFileDialog>([](QFileDialog& Dialog) { EnterFile(Dialog, "old.vlx"); });
     EXPECT_THAT(Windows.AskFileToOpen(Asked), Optional(Eq(Asked.Folder / "old.vlx")));
 }
 

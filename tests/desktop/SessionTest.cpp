@@ -1,17 +1,8 @@
 // The whole program under a user's hands: its window, its dialogs and its grids, by keyboard.
-#include "desktop/Binding.h"
 #include "desktop/DialogLayouts.h"
 #include "desktop/MainWindowTest.h"
 #include "model/ProjectFile.h"
 #include "screens/Dialogs.h"
-
-#include <QAction>
-#include <QApplication>
-#include <QClipboard>
-#include <QMenu>
-#include <QMenuBar>
-#include <QTemporaryDir>
-#include <QTimer>
 
 namespace velorix {
 namespace {
@@ -58,9 +49,8 @@ protected:
     void Press(Qt::Key Key, Qt::KeyboardModifiers Held = Qt::NoModifier)
     {
         QTest::keyPress(QApplication::focusWidget(), Key, Held);
-        QWidget* const Now =
-            QApplication::focusWidget(); // the press may have moved the focus, or shown a dialog
-        if (Now) QTest::keyRelease(Now, Key, Held);
+        // The press may have moved the focus, or shown a dialog.
+        if (QWidget* const Now = QApplication::focusWidget()) QTest::keyRelease(Now, Key, Held);
         QCoreApplication::processEvents();
     }
 
@@ -77,17 +67,12 @@ protected:
         Type(Text);
     }
 
-    static void Start(int SystemType)
+    // The profile stands on the second page.
+    void TypeIntoProfile(const QString& Text)
     {
-        wSystemType = static_cast<std::int16_t>(SystemType);
-        NewProjectDefaults();
-    }
-
-    void StartPumpingProject()
-    {
-        Press(Qt::Key_N, Qt::ControlModifier);
-        Main->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(Main.get()));
+        frmLCC.sstInput.Tab = 1;
+        FocusTarget(frmLCC.msgProfile)->setFocus();
+        Type(Text);
     }
 
     // A row from its first column on, each cell left by the arrow; Enter ends the last one.
@@ -99,29 +84,28 @@ protected:
         }
     }
 
-    void FillGeneralPage()
-    {
-        Fill(frmLCC.txtProject, "Ridge main");
-        Fill(frmLCC.txtDesigner, "M. Naidoo");
-        Fill(frmLCC.txtPFlowrate, "35");
-        Fill(frmLCC.txtPPRWL, "1201.5");
-        Fill(frmLCC.txtPERWL, "1260");
-        Fill(frmLCC.txtPumpOperatingFlowrate, "150");
-    }
-
     SavingPlatform Saving;
     QTemporaryDir Folder;
 };
 
 TEST_F(SessionTest, WhatIsTypedFromNothingIsWhatTheFileHolds)
 {
-    StartPumpingProject();
+    TypeIntoProfile("12");
+    Press(Qt::Key_N, Qt::ControlModifier); // over an open cell
+    Main->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Main.get()));
+    EXPECT_FALSE(frmLCC.txtCell.Visible);
+    EXPECT_EQ(frmLCC.msgProfile.Text(1, 1), "0");
+    EXPECT_EQ(Saved, 1);
     EXPECT_EQ(MDIProject.lblSystem.Caption.Get(), "Pumping system");
     EXPECT_EQ(QApplication::focusWidget(), FocusTarget(frmLCC.txtProject));
-    FillGeneralPage();
+    const std::pair<TextBox*, const char*> GeneralPage[] = {
+        {&frmLCC.txtProject, "Ridge main"}, {&frmLCC.txtDesigner, "M. Naidoo"},
+        {&frmLCC.txtPFlowrate, "35"},       {&frmLCC.txtPPRWL, "1201.5"},
+        {&frmLCC.txtPERWL, "1260"},         {&frmLCC.txtPumpOperatingFlowrate, "150"}};
+    for (const auto& [Box, Text] : GeneralPage) Fill(*Box, Text);
 
-    Press(Qt::Key_Tab, Qt::ControlModifier);
-    FocusTarget(frmLCC.msgProfile)->setFocus();
+    TypeIntoProfile("");
     TypeRow({"1200", "0", "300", "6", "850"});
     Press(Qt::Key_Down);
     for (int Step = 0; Step < 4; ++Step) Press(Qt::Key_Left);
@@ -139,27 +123,12 @@ TEST_F(SessionTest, WhatIsTypedFromNothingIsWhatTheFileHolds)
     const ProjectFields Stored = ReadProjectFile(Saving.Target);
     EXPECT_EQ(Stored.SystemType, 1);
     EXPECT_EQ(TextOf(Stored.Project), "Ridge main");
-    EXPECT_EQ(Stored.TRWL, Single(1201.5));
-    EXPECT_EQ(Stored.PumpOperatingFlowrate, Single(150));
-    EXPECT_EQ(Stored.Elevation[2], Single(1215));
-    EXPECT_EQ(Stored.Elevation[3], Single(1258.25));
-    EXPECT_EQ(Stored.AccLength[3], Single(900));
-    EXPECT_EQ(Stored.Diameter[3], Single(300)); // copied from the row before
-    EXPECT_EQ(Stored.Elevation[4], Single(UnusedNode));
+    EXPECT_THAT((std::vector<double>{Stored.TRWL, Stored.PumpOperatingFlowrate, Stored.Elevation[2],
+                                     Stored.Elevation[3], Stored.AccLength[3]}),
+                testing::ElementsAre(1201.5, 150, 1215, 1258.25, 900));
+    EXPECT_EQ(Stored.Diameter[3], 300); // copied from the row before
+    EXPECT_EQ(Stored.Elevation[4], UnusedNode);
     EXPECT_EQ(Main->windowTitle(), "  Velorix (Ridge main)");
-}
-
-TEST_F(SessionTest, ANewProjectOverAnOpenCellStartsCleanAtItsName)
-{
-    Press(Qt::Key_Tab, Qt::ControlModifier);
-    FocusTarget(frmLCC.msgProfile)->setFocus();
-    Type("12");
-    EXPECT_TRUE(frmLCC.txtCell.Visible);
-    StartPumpingProject();
-    EXPECT_FALSE(frmLCC.txtCell.Visible);
-    EXPECT_EQ(frmLCC.msgProfile.Text(1, 1), "0");
-    EXPECT_EQ(QApplication::focusWidget(), FocusTarget(frmLCC.txtProject));
-    EXPECT_EQ(Saved, 1);
 }
 
 // Nothing changes at the save any more. The accent of a letter goes, signs fall into their parts, and one
@@ -183,17 +152,13 @@ TEST_F(SessionTest, BoxesShowForeignCharactersAsTheFileWillHoldThem)
 
 TEST_F(SessionTest, TheFocusStaysAtHandWhenAScreenOrAPageGoes)
 {
-    Press(Qt::Key_Tab, Qt::ControlModifier);
-    FocusTarget(frmLCC.msgProfile)->setFocus();
-    Type("77");
+    TypeIntoProfile("77");
     frmLCC.Visible = false;
     frmLCC.Visible = true; // back from a dialog, with the cell's editor closed
     EXPECT_EQ(QApplication::focusWidget(), FocusTarget(frmLCC.msgProfile));
 
     // Results that go out of sight take no key along from the screen on top.
-    frmLCC.Visible = false;
-    frmResults.LoadHidden();
-    frmResults.Visible = true;
+    ShowResults();
     frmResults.sscDutypoint.Click();
     Press(Qt::Key_F6);
     FocusTarget(frmLCC.msgProfile)->setFocus();
@@ -214,8 +179,7 @@ TEST_F(SessionTest, ASaveUnderAnotherNameLeavesTheFocusWhereItWas)
     for (int SystemType : {0, 1}) {
         Start(SystemType);
         frmLCC.sstInput.Tab = 0;
-        Fill(frmLCC.txtProject, "Ridge main");
-        Fill(frmLCC.txtDesigner, "M. Naidoo");
+        frmLCC.txtProject.Text = frmLCC.txtDesigner.Text = "x";
         for (TextBox* Each : {&frmLCC.txtDesigner, SystemType == 0 ? &frmLCC.txtTRWL : &frmLCC.txtPPRWL}) {
             FocusTarget(*Each)->setFocus();
             Press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
@@ -275,8 +239,7 @@ TEST_F(SessionTest, TheEmptyWorkspaceTellsHowToGoOn)
     Press(Qt::Key_F6);
     EXPECT_TRUE(frmLCC.Visible);
 
-    Fill(frmLCC.txtProject, "Ridge main");
-    Fill(frmLCC.txtDesigner, "M. Naidoo");
+    frmLCC.txtProject.Text = frmLCC.txtDesigner.Text = "x";
     Press(Qt::Key_S, Qt::ControlModifier);
     Saving.Reply = Answer::Yes;
     MDIProject.mnuDelete.Click();
@@ -349,17 +312,24 @@ TEST_F(SessionTest, EnterPressesAButtonAndEscapeClosesWhatStandsOpen)
     EXPECT_FALSE(frmLCC.fraLaying.Visible || QApplication::activePopupWidget());
     EXPECT_TRUE(List->hasFocus());
 
-    frmLCC.Visible = false;
-    frmResults.LoadHidden();
-    frmResults.Visible = true;
+    ShowResults();
     frmResults.sscDutypoint.Visible = true; // as with a pump curve
-    for (const auto& [Show, Pane] : {std::pair(&frmResults.sscDutypoint, &frmResults.fraDuty),
-                                     {&frmResults.sscViewHydraulicTable, &frmResults.fraTable}}) {
-        FocusTarget(*Show)->setFocus();
+    const struct {
+        int Page;
+        CommandButton& Show;
+        Frame& Pane;
+        Control& First;
+    } Panes[] = {{0, frmResults.sscDutypoint, frmResults.fraDuty, frmResults.hscDuty},
+                 {0, frmResults.sscViewHydraulicTable, frmResults.fraTable, frmResults.msgHydraulic},
+                 {1, frmResults.sscViewTable, frmResults.fraViewTable, frmResults.msgSystem}};
+    for (const auto& [Page, Show, Pane, First] : Panes) {
+        SCOPED_TRACE(Show.ToolTip);
+        frmResults.sstResults.Tab = Page;
+        FocusTarget(Show)->setFocus();
         Press(Qt::Key_Enter);
-        EXPECT_TRUE(Pane->Visible) << Show->ToolTip;
+        EXPECT_TRUE(Pane.Visible && FocusTarget(First)->hasFocus());
         Press(Qt::Key_Escape);
-        EXPECT_FALSE(Pane->Visible) << Show->ToolTip;
+        EXPECT_FALSE(Pane.Visible);
     }
 }
 
@@ -423,18 +393,16 @@ TEST_F(SessionTest, APumpPointThatFailsItsCheckIsReachedByItsButton)
 // The results begin with the focus on their tabs, which have no hint of their own.
 TEST_F(SessionTest, TheHintOfAMenuGoesWithIt)
 {
-    frmResults.LoadHidden();
-    frmLCC.Visible = false;
-    frmResults.Visible = true;
+    ShowResults();
     QAction* const File = Main->menuBar()->actions().front();
-    const QAction* const Exit = File->menu()->actions().back();
     QTest::mouseClick(Main->menuBar(), Qt::LeftButton, {}, Main->menuBar()->actionGeometry(File).center());
     QCoreApplication::processEvents();
-    QTest::mouseMove(File->menu(), File->menu()->actionGeometry(const_cast<QAction*>(Exit)).center());
+    QMenu* const Menu = File->menu();
+    const QPoint Exit = Menu->actionGeometry(Menu->actions().back()).center();
+    QTest::mouseMove(Menu, Exit);
     QCoreApplication::processEvents();
     EXPECT_EQ(MDIProject.StatusText.Caption.Get(), "Exit the program");
-    QTest::mouseClick(File->menu(), Qt::LeftButton, {},
-                      File->menu()->actionGeometry(const_cast<QAction*>(Exit)).center());
+    QTest::mouseClick(Menu, Qt::LeftButton, {}, Exit);
     EXPECT_EQ(Saving.Messages.back().Text, "Are you sure you want to quit ?");
     EXPECT_EQ(MDIProject.StatusText.Caption.Get(), "");
 }
@@ -442,9 +410,7 @@ TEST_F(SessionTest, TheHintOfAMenuGoesWithIt)
 // No minus sign passes the filters, nor does one with Alt.
 TEST_F(SessionTest, ACellKeepsWhatItsEditorShows)
 {
-    Press(Qt::Key_Tab, Qt::ControlModifier);
-    FocusTarget(frmLCC.msgProfile)->setFocus();
-    Type("52");
+    TypeIntoProfile("52");
     Press(Qt::Key_Minus, Qt::AltModifier);
     Press(Qt::Key_Left, Qt::ShiftModifier); // selects the 2
     Type("2");

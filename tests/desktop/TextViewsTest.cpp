@@ -2,13 +2,6 @@
 #include "desktop/DesktopTest.h"
 #include "desktop/Views.h"
 
-#include <QClipboard>
-#include <QDialog>
-#include <QInputMethodEvent>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
-
 namespace velorix {
 namespace {
 

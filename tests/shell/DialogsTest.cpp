@@ -6,17 +6,7 @@ namespace {
 
 using DialogsTest = ShellTest;
 
-TEST_F(DialogsTest, StartPutsANewProjectOnTheScreen)
-{
-    EXPECT_TRUE(MDIProject.Visible);
-    EXPECT_TRUE(frmLCC.Visible);
-    EXPECT_FALSE(frmIntro.IsLoaded());
-    EXPECT_FALSE(frmAgree.IsLoaded());
-    EXPECT_EQ(MDIProject.StatusText.Caption.Get(), "Open a project or start a new project");
-    EXPECT_FALSE(MDIProject.mnuRoughness.Visible);
-}
-
-TEST_F(DialogsTest, OpeningCountsOnAndAdvisesOnOtherScreenSizes)
+TEST_F(DialogsTest, TheOpeningCountsOnAdvisesOnOtherScreenSizesAndEndsInANewProject)
 {
     std::vector<std::size_t> Counts;
     Windows.ModalScripts["frmIntro"] = [&] {
@@ -29,6 +19,10 @@ TEST_F(DialogsTest, OpeningCountsOnAndAdvisesOnOtherScreenSizes)
     StartProgram();
     EXPECT_EQ(Counts, (std::vector<std::size_t>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 1}));
     EXPECT_FALSE(frmIntro.tmrWelcome.Enabled);
+    EXPECT_FALSE(frmIntro.IsLoaded() || frmAgree.IsLoaded());
+    EXPECT_TRUE(MDIProject.Visible && !MDIProject.mnuRoughness.Visible);
+    EXPECT_EQ(Shown(), std::set<std::string>{"frmLCC"});
+    EXPECT_EQ(MDIProject.StatusText.Caption.Get(), "Open a project or start a new project");
     EXPECT_TRUE(Windows.Messages.empty());
 
     Windows.Pixels = {1280, 800};
@@ -49,36 +43,25 @@ TEST_F(DialogsTest, PreferencesAreTakenOnOKOnly)
 {
     wPG = 12.34;
     wContingencies = 12.125; // the bar counts hundredths of a percent, halves to the even one
-    const auto Change = [] {
-        EXPECT_FALSE(frmLCC.Visible);
-        EXPECT_EQ(frmPref.hsbPG.Value, 1234);
-        EXPECT_EQ(frmPref.lblPG.Caption.Get(), "12.34%");
-        EXPECT_EQ(frmPref.hsbContingencies.Value, 1212);
-        EXPECT_TRUE(frmPref.optMetric.Value);
-        frmPref.optUS.Value = true;
-        frmPref.optDollars.Value = true;
-        frmPref.hsbContingencies.Value = 755;
-        EXPECT_EQ(frmPref.lblContingencies.Caption.Get(), "7.55%");
-    };
-    Windows.ModalScripts["frmPref"] = [&] {
-        Change();
-        frmPref.CloseByFrame();
-    };
-    MDIProject.mnuPreferences.Click();
-    EXPECT_EQ(wUnits, 0);
-    EXPECT_EQ(wCurrency, 0);
-    EXPECT_EQ(wContingencies, 12.125);
-    EXPECT_TRUE(frmLCC.Visible);
-
-    Windows.ModalScripts["frmPref"] = [&] {
-        Change();
-        frmPref.sscOK.Click();
-    };
-    MDIProject.mnuPreferences.Click();
-    EXPECT_EQ(wUnits, 1);
-    EXPECT_EQ(wCurrency, 1);
+    for (const bool Taken : {false, true}) {
+        Windows.ModalScripts["frmPref"] = [Taken] {
+            EXPECT_FALSE(frmLCC.Visible);
+            EXPECT_EQ(frmPref.hsbPG.Value, 1234);
+            EXPECT_EQ(frmPref.lblPG.Caption.Get(), "12.34%");
+            EXPECT_EQ(frmPref.hsbContingencies.Value, 1212);
+            EXPECT_TRUE(frmPref.optMetric.Value);
+            frmPref.optUS.Value = true;
+            frmPref.optDollars.Value = true;
+            frmPref.hsbContingencies.Value = 755;
+            EXPECT_EQ(frmPref.lblContingencies.Caption.Get(), "7.55%");
+            Taken ? frmPref.sscOK.Click() : frmPref.CloseByFrame();
+        };
+        MDIProject.mnuPreferences.Click();
+        EXPECT_EQ(wUnits + wCurrency, Taken ? 2 : 0);
+        EXPECT_EQ(wContingencies, Single(Taken ? 7.55 : 12.125));
+        EXPECT_TRUE(frmLCC.Visible);
+    }
     EXPECT_EQ(wPG, Single(12.34));
-    EXPECT_EQ(wContingencies, Single(7.55));
     EXPECT_EQ(frmLCC.lblUnit[5].Caption.Get(), "$");
     EXPECT_EQ(frmLCC.msgLaying.Text(0, 1), "Cost ($/ft³)");
 }
@@ -100,7 +83,7 @@ TEST_F(DialogsTest, DialogsOverTheResultsBringBackTheInput)
             Shown->CloseByFrame();
         };
         Item->Click();
-        EXPECT_TRUE(frmLCC.Visible) << Dialog->Name;
+        EXPECT_EQ(Shown(), std::set<std::string>{"frmLCC"}) << Dialog->Name;
         EXPECT_EQ(frmLCC.lblCurrency[0].Caption.Get(), "R");
         Fire(MDIProject.tmrCurrency);
         EXPECT_EQ(frmLCC.lblCurrency[0].Caption.Get(), "$") << Dialog->Name;

@@ -1,49 +1,12 @@
 // Cells edited from the keyboard, the list over a cell, and what loads and row operations leave behind.
-#include "shell/GridEditor.h"
+#include "GridEditorTest.h"
 
-#include "InputTest.h"
-#include "base/Text.h"
-#include "input/ProfileTable.h"
 #include "model/Components.h"
-
-#include <gmock/gmock.h>
 
 namespace velorix {
 namespace {
 
 using testing::ElementsAre;
-
-using Place = std::pair<int, int>; // row, col
-
-class GridEditorTest : public InputTest {
-protected:
-    GridEditorTest() { Fill(); }
-
-    void Fill()
-    {
-        for (int Row = 1; Row <= 4; ++Row) {
-            wElevation[Row] = 50.0 + Row;
-            wAccLength[Row] = 100.0 * Row;
-            wDiameter[Row] = 300.0 + Row;
-        }
-        FillProfileGrid();
-        Saved = 1;
-    }
-
-    static Place Current(const Grid& Table) { return {Table.Row(), Table.Col()}; }
-
-    static std::vector<Place> Tinted(const Grid& Table)
-    {
-        std::vector<Place> Cells;
-        for (int Row = 0; Row < Table.Rows(); ++Row)
-            for (int Col = 0; Col < Table.Cols(); ++Col)
-                if (Table.Cell(Row, Col).BackColor == CurrentCellColor) Cells.emplace_back(Row, Col);
-        return Cells;
-    }
-
-    Grid& Profile = frmLCC.msgProfile;
-    TextBox& Editor = frmLCC.txtCell;
-};
 
 TEST_F(GridEditorTest, TheCursorTakesItsTintAlongAndMarksTheProject)
 {
@@ -110,6 +73,13 @@ TEST_F(GridEditorTest, KeysEditTheCellAndMoveOn)
     Go(frmLCC.msgOperational, 3, 2); // from the last column into the next row, column 1
     Type(U"1→");
     EXPECT_EQ(Current(frmLCC.msgOperational), Place(4, 1));
+    Go(frmLCC.msgOtherOperational, 5, 1);
+    Type(U"⏎"); // on the last row: only the profile gets another
+    EXPECT_EQ(Current(frmLCC.msgOtherOperational), Place(5, 1));
+    Go(Profile, 4, 7);
+    Type(U"⏎");
+    EXPECT_THAT(Tinted(Profile), ElementsAre(Place(5, 1)));
+    EXPECT_EQ(frmLCC.msgOtherOperational.Rows() + NodeCount, 6 + 5);
 }
 
 TEST_F(GridEditorTest, APressClosesTheEditorAndEscapeBringsBackTheTextAsEntered)
@@ -136,33 +106,29 @@ TEST_F(GridEditorTest, APressClosesTheEditorAndEscapeBringsBackTheTextAsEntered)
     EXPECT_EQ(Profile.Text(2, 2), "200");
 }
 
-// Grid and editor filter different columns of the profile, and F2 opens the grid's; a double click any.
 TEST_F(GridEditorTest, ColumnsDifferInWhatTheyTakeAndWhatOpensThem)
 {
-    std::vector<int> TakenByGrid;
-    std::vector<int> TakenByEditor;
-    std::vector<int> OpenedByF2;
-    std::vector<int> OpenedByClick;
+    // F2 opens the column's editor, a double click does, the grid takes a sign, the editor takes one.
+    const char* const Expected[] = {
+        "F2 click ",        "F2 click ", "click grid editor ", "click grid ", "F2 click editor ",
+        "F2 click editor ", ""};
     for (int Col = 1; Col <= 7; ++Col) {
-        Go(Profile, 1, Col);
-        Type(U"✎");
-        if (Editor.Visible) OpenedByF2.push_back(Col);
-        Profile.MouseDown(1);
-        Profile.DblClick();
-        if (Editor.Visible) OpenedByClick.push_back(Col);
-        Profile.MouseDown(1);
-        Windows.SetFocus(Profile);
-        Type(U"-");
-        if (Profile.Text(1, Col) == "-") TakenByGrid.push_back(Col);
-        Profile.MouseDown(1);
-        Windows.SetFocus(Profile);
-        Type(U"4-");
-        if (Profile.Text(1, Col) == "4-") TakenByEditor.push_back(Col);
+        std::string Does;
+        const auto Try = [&](const std::string& Name, const auto& Holds) {
+            Go(Profile, 1, Col);
+            if (Holds()) Does += Name + " ";
+            Profile.MouseDown(1);
+        };
+        const auto Takes = [&](const std::u32string& Keys, const char* Text) {
+            Type(Keys);
+            return Profile.Text(1, Col) == Text;
+        };
+        Try("F2", [&] { return Type(U"✎"), Editor.Visible.Get(); });
+        Try("click", [&] { return Profile.DblClick(), Editor.Visible.Get(); });
+        Try("grid", [&] { return Takes(U"-", "-"); });
+        Try("editor", [&] { return Takes(U"4-", "4-"); });
+        EXPECT_EQ(Does, Expected[Col - 1]) << Col;
     }
-    EXPECT_THAT(OpenedByF2, ElementsAre(1, 2, 5, 6));
-    EXPECT_THAT(OpenedByClick, ElementsAre(1, 2, 3, 4, 5, 6));
-    EXPECT_THAT(TakenByGrid, ElementsAre(3, 4));
-    EXPECT_THAT(TakenByEditor, ElementsAre(3, 5, 6));
 
     Go(Profile, 2, 1);
     Type(U"('");
@@ -213,23 +179,6 @@ TEST_F(GridEditorTest, TheComponentIsChosenFromTheList)
     EXPECT_EQ(Profile.Text(3, 6), "0");
 }
 
-TEST_F(GridEditorTest, EnterOnTheLastRowOfTheProfileAddsOne)
-{
-    Go(Profile, 4, 7);
-    Type(U"⏎");
-    EXPECT_EQ(Profile.Rows(), 6);
-    EXPECT_EQ(Current(Profile), Place(5, 1));
-    EXPECT_THAT(Tinted(Profile), ElementsAre(Place(5, 1)));
-    EXPECT_EQ(Profile.Text(5, 3), "303");
-    EXPECT_EQ(NodeCount, 5);
-
-    Grid& Expenses = frmLCC.msgOtherOperational;
-    Go(Expenses, 5, 1);
-    Type(U"⏎");
-    EXPECT_EQ(Current(Expenses), Place(5, 1));
-    EXPECT_EQ(Expenses.Rows(), 6);
-}
-
 TEST_F(GridEditorTest, HeadingsInsideTheLayingTableAreClosed)
 {
     Grid& Laying = frmLCC.msgLaying;
@@ -248,15 +197,6 @@ TEST_F(GridEditorTest, HeadingsInsideTheLayingTableAreClosed)
     EXPECT_EQ(Laying.Text(8, 1), "12");
 }
 
-TEST_F(GridEditorTest, TheRightButtonOpensTheRowMenuOfTheProfile)
-{
-    Profile.MouseDown(1);
-    frmLCC.msgDemand.MouseDown(2);
-    EXPECT_FALSE(MDIProject.mnuFGridRows.Visible);
-    Profile.MouseDown(2);
-    EXPECT_TRUE(MDIProject.mnuFGridRows.Visible);
-}
-
 TEST_F(GridEditorTest, ALoadIsNoEditAndLeavesNoTrace)
 {
     Profile.Select(4, 3);
@@ -271,6 +211,17 @@ TEST_F(GridEditorTest, ALoadIsNoEditAndLeavesNoTrace)
     EXPECT_THAT(Tinted(Profile), ElementsAre(Place(1, 1)));
     EXPECT_THAT(Tinted(frmLCC.msgOperational), ElementsAre(Place(3, 1)));
 
+    // Nor is one the life that makes the table of the demand shorter and longer.
+    Grid& Demand = frmLCC.msgDemand;
+    Go(Demand, 30, 1);
+    Type(U"8");
+    for (const int Life : {10, 60}) {
+        frmLCC.hscLife.Value = Life;
+        EXPECT_FALSE(frmLCC.txtDemand.Visible);
+        EXPECT_EQ(Demand.Tag, Demand.Text(10, 1));
+        EXPECT_THAT(Tinted(Demand), ElementsAre(Place(10, 1)));
+    }
+
     Windows.SetFocus(frmLCC.msgOperational);
     Type(U"777");
     Analysed = 1;
@@ -280,22 +231,14 @@ TEST_F(GridEditorTest, ALoadIsNoEditAndLeavesNoTrace)
     EXPECT_FALSE(frmLCC.txtCellOperational.Visible);
 }
 
-TEST_F(GridEditorTest, ALongerAndAShorterDemandTableHaveOneCurrentCell)
-{
-    Grid& Demand = frmLCC.msgDemand;
-    Go(Demand, 30, 1);
-    Type(U"8");
-    frmLCC.hscLife.Value = 10;
-    EXPECT_EQ(Current(Demand), Place(10, 1));
-    EXPECT_FALSE(frmLCC.txtDemand.Visible);
-    EXPECT_EQ(Demand.Tag, Demand.Text(10, 1));
-    EXPECT_THAT(Tinted(Demand), ElementsAre(Place(10, 1)));
-    frmLCC.hscLife.Value = 60;
-    EXPECT_THAT(Tinted(Demand), ElementsAre(Place(10, 1)));
-}
-
 TEST_F(GridEditorTest, RowOperationsAreEditsWhenTheyChangeTheRows)
 {
+    Profile.MouseDown(1);
+    frmLCC.msgDemand.MouseDown(2);
+    EXPECT_FALSE(MDIProject.mnuFGridRows.Visible);
+    Profile.MouseDown(2); // the right button opens the menu of them
+    EXPECT_TRUE(MDIProject.mnuFGridRows.Visible);
+
     struct Case {
         const Handler& Command;
         Answer Answered;
@@ -316,159 +259,6 @@ TEST_F(GridEditorTest, RowOperationsAreEditsWhenTheyChangeTheRows)
         EXPECT_EQ(Profile.Tag, Profile.Text(1, 1));
         EXPECT_THAT(Tinted(Profile), ElementsAre(Place(1, 1)));
     }
-}
-
-class GridPasteTest : public GridEditorTest {
-protected:
-    void Paste(Grid& Table, const std::string& Text)
-    {
-        Windows.Clipboard = Text;
-        Table.Paste();
-    }
-
-    // The texts of a range of cells, without the blanks around them.
-    static std::string Texts(Grid& Table, const CellRange& Range)
-    {
-        Table.Select(Range.FirstRow, Range.FirstCol);
-        Table.SelectTo(Range.LastRow, Range.LastCol);
-        return Table.SelectedText();
-    }
-};
-
-TEST_F(GridPasteTest, TheCellsFromTheCurrentOneOnTakeTheClipboard)
-{
-    Go(Profile, 2, 5);
-    Saved = 1;
-    Paste(Profile, "-1.5\t 1E+2 \tAir valve\r\n\t.25\t45° bend"); // as spreadsheets write it
-    ExpectMarked(true, "a paste");
-    EXPECT_EQ(Profile.Tag, "0");
-    EXPECT_EQ(Profile.Text(2, 7), ComponentTable[6]); // with the blanks that a choice stores
-    EXPECT_EQ(Texts(Profile, {2, 5, 3, 7}), "-1.5\t1E+2\tAir valve\n\t.25\t45° bend\n");
-    Go(Profile, 4, 7);
-    Paste(Profile, "Reservoir\n\n\n"); // an empty line finds no room and needs none
-    EXPECT_EQ(frmLCC.comNode.ListIndex, 1);
-
-    // What is copied from a table can be pasted into it.
-    const std::string All = Texts(Profile, {1, 1, 4, 7});
-    Fill();
-    Profile.Select(1, 1);
-    Paste(Profile, All);
-    EXPECT_EQ(Texts(Profile, {1, 1, 4, 7}), All);
-    EXPECT_EQ(LastMessage(), "");
-
-    Go(frmLCC.msgLaying, 8, 1);
-    Paste(frmLCC.msgLaying, "8\nclosed\nclosed\n11\n"); // the headings stay
-    EXPECT_EQ(Texts(frmLCC.msgLaying, {8, 1, 11, 1}),
-              "8\nAnticipated laying conditions\nPercentage expected\n11\n");
-}
-
-TEST_F(GridPasteTest, WhatDoesNotFitRefusesTheWholePaste)
-{
-    const std::string Before = Texts(Profile, {1, 1, 4, 7});
-    const auto ExpectRefused = [&](Place From, const std::string& Text,
-                                   const std::vector<std::string>& Told) {
-        Go(Profile, From.first, From.second);
-        Saved = 1;
-        Windows.Messages.clear();
-        Paste(Profile, Text);
-        ASSERT_EQ(Windows.Messages.size(), 1U) << Text;
-        for (const std::string& Each : Told) EXPECT_THAT(LastMessage(), testing::HasSubstr(Each));
-        ExpectMarked(false, Text);
-        EXPECT_EQ(Texts(Profile, {1, 1, 4, 7}), Before);
-    };
-    for (const std::string Text : {"12,75", "1 2", "x", "5x", "NaN", "1E+39", "--1", "0x10", "5\r\r"})
-        ExpectRefused({2, 1}, "1\t2\n3\t" + Text,
-                      {"\"Accumulated length\"", "row \"3\"", Trim(Text).substr(0, 2)});
-    ExpectRefused({2, 3}, std::string(41, '1'), {"\"Pipe diameter\"", "row \"2\"", "1..."});
-    for (const std::string Text : {"", "node", "Nodes"})
-        ExpectRefused({2, 6}, "1\t" + Text, {"\"Description\"", "row \"2\"", "\"" + Text + "\""});
-    ExpectRefused({2, 7}, "Node\tbeyond", {"column 9", "row \"2\"", "\"beyond\""});
-    ExpectRefused({3, 1}, "1\n2\n3\n", {"3 rows", "only 2 from row \"3\"", "Add rows", "import wizard"});
-    Go(frmLCC.msgOtherOperational, 5, 1);
-    Paste(frmLCC.msgOtherOperational, "1\n2");
-    EXPECT_THAT(LastMessage(), testing::HasSubstr("only 1 from row \"Housing\" on."));
-    EXPECT_THAT(LastMessage(), testing::Not(testing::HasSubstr("wizard")));
-    for (const auto& [Row, Heading] : {std::pair(8, "Cost ("), {12, "Percentage expected"}}) {
-        Go(frmLCC.msgLaying, Row, 1);
-        Paste(frmLCC.msgLaying, "x");
-        EXPECT_THAT(LastMessage(), testing::StartsWith(std::string("\"") + Heading));
-    }
-    Windows.Messages.clear();
-    Paste(Profile, ""); // nothing to paste
-    EXPECT_TRUE(Windows.Messages.empty());
-}
-
-TEST_F(GridPasteTest, DeleteEmptiesTheSelectedNumberCells)
-{
-    Go(Profile, 3, 7);
-    Profile.SelectTo(2, 2);
-    Saved = 1;
-    Type(U"✂");
-    ExpectMarked(true, "emptied cells");
-    EXPECT_EQ(Texts(Profile, {2, 1, 3, 7}), "52\t\t\t\t\t\tNode\n53\t\t\t\t\t\tNode\n");
-    Go(frmLCC.msgLaying, 8, 1);
-    frmLCC.msgLaying.SelectTo(11, 1);
-    Type(U"✂");
-    EXPECT_EQ(Texts(frmLCC.msgLaying, {8, 1, 11, 1}),
-              "\nAnticipated laying conditions\nPercentage expected\n\n");
-}
-
-TEST_F(GridPasteTest, UndoBringsTheCellsBackUntilTheTableIsAnother)
-{
-    const std::string Before = Texts(Profile, {1, 1, 4, 7});
-    Go(Profile, 1, 1);
-    Paste(Profile, "1\t2\n3\t4");
-    const std::string Pasted = Texts(Profile, {1, 1, 4, 7});
-    Go(Profile, 3, 3);
-    Type(U"12→");
-    Go(Profile, 4, 7);
-    frmLCC.comNode.ListIndex = 4;
-    Type(U"✂"); // no number cell, nothing to take back
-    Profile.Undo();
-    EXPECT_EQ(frmLCC.comNode.ListIndex, 0);
-    Saved = 1;
-    Profile.Undo();
-    ExpectMarked(true, "a change taken back");
-    EXPECT_EQ(Texts(Profile, {1, 1, 4, 7}), Pasted);
-    frmLCC.Visible = false;
-    frmLCC.Visible = true; // back from the results
-    Profile.Undo();
-    EXPECT_EQ(Texts(Profile, {1, 1, 4, 7}), Before);
-    Saved = 1;
-    Profile.Undo();
-    ExpectMarked(false, "nothing to take back");
-
-    // Each command and each session of the editor is a change of its own.
-    Go(Profile, 2, 2);
-    Type(U"55⏎");
-    Profile.Select(2, 2);
-    Type(U"✂");
-    for (const char* Each : {"77", "88"}) Paste(Profile, Each);
-    Type(U"✎9←←←←");
-    EXPECT_EQ(Profile.Text(2, 2), "889");
-    Profile.Select(2, 2);
-    for (const char* Each : {"88", "77", "", "55", "200"}) {
-        Profile.Undo();
-        EXPECT_EQ(Profile.Text(2, 2), Each);
-    }
-
-    void (*const Changes[])() = {
-        [] { ChangeProfileRows(AddProfileRow); }, [] { NewProjectDefaults(); },
-        [] { frmLCC.comDiameterUnits.ListIndex = 1 - frmLCC.comDiameterUnits.ListIndex; }};
-    for (const auto& Change : Changes) {
-        Go(Profile, 1, 1);
-        Paste(Profile, "77");
-        Change();
-        Saved = 1;
-        Profile.Undo();
-        ExpectMarked(false, "another table");
-    }
-    Go(frmLCC.msgDemand, 1, 1);
-    Paste(frmLCC.msgDemand, "77");
-    frmLCC.hscLife.Value = frmLCC.hscLife.Value - 1;
-    Saved = 1;
-    frmLCC.msgDemand.Undo();
-    ExpectMarked(false, "a table of other years");
 }
 
 } // namespace

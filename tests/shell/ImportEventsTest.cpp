@@ -18,7 +18,7 @@ protected:
     }
 
     // The numbers of the frames that are visible, and the caption of the button that goes on.
-    static std::string Shown()
+    static std::string StepShown()
     {
         std::string Steps;
         for (const Frame* Each : {&frmImport.fraStep1, &frmImport.fraStep2, &frmImport.fraStep3})
@@ -41,13 +41,13 @@ TEST_F(ImportEventsTest, APastedProfileIsReviewedAndReplacesTheOldOne)
         for (; frmImport.tmrPaste.Enabled && Ticks < 100; ++Ticks) Fire(frmImport.tmrPaste);
         EXPECT_EQ(std::to_string(Ticks) + frmImport.imgWizard2.Picture.Get(), "19w19");
         Next();
-        EXPECT_EQ(Shown(), "3&Finish");
+        EXPECT_EQ(StepShown(), "3&Finish");
         const Grid& Table = frmImport.msgFImport;
         EXPECT_EQ(Table.Rows(), 4);
         EXPECT_EQ(Table.Text(2, 0) + "," + Table.Text(2, 1) + "," + Table.Text(2, 7), ",20,Node");
         for (const char* Step : {"2&Next", "1&Next"}) {
             frmImport.sscPrevious.Click();
-            EXPECT_EQ(Shown(), Step);
+            EXPECT_EQ(StepShown(), Step);
         }
         for (int Step = 1; Step <= 3; ++Step) Next(); // needs no second paste
     };
@@ -83,7 +83,7 @@ TEST_F(ImportEventsTest, ARefusedPasteIsToldAndGoesOnToTheReview)
             Next();
             EXPECT_EQ(LastMessage() + Windows.Messages.back().Title, Each.Message + std::string("Error !"));
             EXPECT_EQ(frmImport.lblPaste.Visible, Each.PasteStands);
-            EXPECT_EQ(Shown(), "3&Finish");
+            EXPECT_EQ(StepShown(), "3&Finish");
             EXPECT_TRUE(frmImport.lblAdvice.Visible);
             EXPECT_EQ(frmImport.msgFImport.Rows(), 2);
             frmImport.CloseByFrame();

@@ -55,28 +55,22 @@ TEST_F(InputEventsTest, EveryEditMarksTheProjectAndAnHourDoesNot)
     EXPECT_EQ(MDIProject.StatusText.Caption.Get(), "Click to change applicable rate");
 }
 
-// Of all boxes but the cells' editors, those of numbers drop every other key; txtGFlowrate takes any.
-TEST_F(InputEventsTest, NumberBoxesTakeDigitsAndThePoint)
+// All but those of texts and the cells' editors, of which grids have the tests. One box is told to take any
+// key.
+TEST_F(InputEventsTest, BoxesOfNumbersTakeDigitsAndThePoint)
 {
-    LccScreen& S = frmLCC;
-    // clang-format off
-    std::set<const Control*> Numbers = {
-        &S.txtKsNew, &S.txtKsOld, &S.txtKsOldYears, &S.txtTRWL, &S.txtBRWL, &S.txtPPRWL, &S.txtPERWL,
-        &S.txtPFlowrate, &S.txtPumpOperatingFlowrate, &S.txtPumpEfficiency, &S.txtLiningThickness, &S.txtSPeak,
-        &S.txtSStandard, &S.txtSOffpeak, &S.txtWPeak, &S.txtWStandard, &S.txtWOffpeak, &S.txtEscalation,
-        &S.txtEnergyEscalation, &S.txtDiscountRate, &S.txtWaterSales, &S.txtWaterIncrease, &S.txtElectrical,
-        &S.txtMechanical, &S.txtSupervision};
-    const std::set<const Control*> Editors = {&S.txtCell, &S.txtLaying, &S.txtDemand, &S.txtPumpDemand,
-                                              &S.txtCellOperational, &S.txtCellOtherOperational};
-    // clang-format on
-    for (const auto* Column : {&S.txtH, &S.txtQ, &S.txtEfficiency})
-        for (const TextBox& Each : *Column) Numbers.insert(&Each);
+    const std::set<const Control*> Editors = {
+        &frmLCC.txtCell,       &frmLCC.txtLaying,          &frmLCC.txtDemand,
+        &frmLCC.txtPumpDemand, &frmLCC.txtCellOperational, &frmLCC.txtCellOtherOperational};
+    const std::set<const Control*> Free = {&frmLCC.txtProject,         &frmLCC.txtDesigner,
+                                           &frmLCC.txtDescription,     &frmLCC.txtPumptype,
+                                           &frmLCC.txtPumpDescription, &frmLCC.txtGFlowrate};
     std::string Typed; // all that the keyboard has
     for (char Each = 1; Each < 127; ++Each) Typed += Each;
     for (Control* Each : frmLCC.Controls) {
         auto* const Box = dynamic_cast<TextBox*>(Each);
         if (!Box || Editors.count(Box)) continue;
-        EXPECT_EQ(Taken(*Box, Typed), Numbers.count(Box) ? "\x08\x0d.0123456789" : Typed) << Box->ToolTip;
+        EXPECT_EQ(Taken(*Box, Typed), Free.count(Box) ? Typed : "\x08\x0d.0123456789") << Box->ToolTip;
     }
     MDIProject.StatusText.Caption = "";
     EXPECT_EQ(Taken(frmLCC.txtKsNew, "12.5\x1b"), "12.5"); // Escape is dropped, and no character
@@ -212,24 +206,23 @@ TEST_F(InputEventsTest, AStoredValueThatIsNoNumberShowsUntilItsBoxGoesOutOfUse)
 TEST_F(InputEventsTest, ABoxThatGoesOutOfUseIsNotLeftEmpty)
 {
     LccScreen& S = frmLCC;
-    const std::vector<std::pair<OptionButton*, OptionButton*>> Choices = {
-        {&S.optGSpecifiedFlowrate, &S.optGCalculatedFlowrate}, // of a gravity system
-        {&S.optPumpFixed, &S.optPumpVarying},
-        {&S.optPumpDetails, &S.optFlowrate},
-        {&S.optFlowrate, &S.optPumpDetails}};
-    const std::vector<std::vector<TextBox*>> Boxes = {{&S.txtGFlowrate},
-                                                      {&S.txtPFlowrate},
-                                                      {&S.txtH[0], &S.txtQ[3], &S.txtEfficiency[5]},
-                                                      {&S.txtPumpOperatingFlowrate, &S.txtPumpEfficiency}};
-    for (std::size_t Choice = 0; Choice < Choices.size(); ++Choice) {
-        Start(Choice == 0 ? 0 : 1);
-        frmLCC.txtProject.Text = frmLCC.txtDesigner.Text = "x";
-        Choices[Choice].first->Value = true;
+    const struct {
+        int SystemType;
+        OptionButton &InUse, &OutOfUse;
+        std::vector<TextBox*> Boxes;
+    } Cases[] = {{0, S.optGSpecifiedFlowrate, S.optGCalculatedFlowrate, {&S.txtGFlowrate}},
+                 {1, S.optPumpFixed, S.optPumpVarying, {&S.txtPFlowrate}},
+                 {1, S.optPumpDetails, S.optFlowrate, {&S.txtH[0], &S.txtQ[3], &S.txtEfficiency[5]}},
+                 {1, S.optFlowrate, S.optPumpDetails, {&S.txtPumpOperatingFlowrate, &S.txtPumpEfficiency}}};
+    for (const auto& [SystemType, InUse, OutOfUse, Boxes] : Cases) {
+        Start(SystemType);
+        S.txtProject.Text = S.txtDesigner.Text = "x";
+        InUse.Value = true;
         wFlowrate = wPumpOperatingFlowrate = wPumpEfficiency = 12.5;
         wPumpCurve.Fill(12.5);
-        for (TextBox* Each : Boxes[Choice]) Each->Text = " ";
-        Choices[Choice].second->Value = true;
-        for (const TextBox* Each : Boxes[Choice]) EXPECT_EQ(Each->Text.Get(), "12.5") << Each->ToolTip;
+        for (TextBox* Each : Boxes) Each->Text = " ";
+        OutOfUse.Value = true;
+        for (const TextBox* Each : Boxes) EXPECT_EQ(Each->Text.Get(), "12.5") << Each->ToolTip;
         SaveAs = 1;
         CommitProject();
         EXPECT_EQ(Committing, 0);

@@ -21,44 +21,23 @@ struct Noted {
     std::function<bool()> HoldsItsStart;
 };
 
-bool Other(bool Value)
-{
-    return !Value;
-}
-int Other(int Value)
-{
-    return Value + 1;
-}
-std::string Other(const std::string& Value)
-{
-    return Value + "x";
-}
-Date Other(Date Value)
-{
-    return {Value.Year + 1, Value.Month, Value.Day};
-}
-Color Other(Color Value)
-{
-    return {Value.Value + 1};
-}
-double Other(double Value)
-{
-    return Value + 1;
-}
-Pen Other(Pen Value)
-{
-    ++Value.Width;
-    return Value;
-}
-DisplayList Other(DisplayList Value)
-{
-    Value.Items.emplace_back(BoxItem{});
-    return Value;
-}
 template <typename T>
-std::vector<T> Other(std::vector<T> Value)
+T Other(T Value)
 {
-    Value.emplace_back();
+    if constexpr (std::is_arithmetic_v<T>)
+        Value = static_cast<T>(!Value);
+    else if constexpr (std::is_same_v<T, std::string>)
+        Value += "x";
+    else if constexpr (std::is_same_v<T, Date>)
+        ++Value.Year;
+    else if constexpr (std::is_same_v<T, Color>)
+        ++Value.Value;
+    else if constexpr (std::is_same_v<T, Pen>)
+        ++Value.Width;
+    else if constexpr (std::is_same_v<T, DisplayList>)
+        Value.Items.emplace_back(BoxItem{});
+    else
+        Value.emplace_back();
     return Value;
 }
 

@@ -15,6 +15,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace velorix {
 
 class ShellTest : public testing::Test {
@@ -49,6 +51,15 @@ protected:
         };
         MDIProject.mnuAnalyse.Click();
         ASSERT_TRUE(frmResults.Visible);
+    }
+
+    // The screens that stand in the main window or over it, by their names.
+    static std::set<std::string> Shown()
+    {
+        std::set<std::string> Names;
+        for (const Screen* Each : AllScreens())
+            if (Each->Visible && Each != &MDIProject) Names.insert(Each->Name);
+        return Names;
     }
 
     std::string LastMessage() const { return Windows.Messages.empty() ? "" : Windows.Messages.back().Text; }

@@ -1,6 +1,5 @@
 // The screens of the tools under a user's hands: roughness from measurements, unit converter.
 #include "InputTest.h"
-#include "hydraulics/HydraulicResults.h"
 #include "model/SampleRecords.h"
 #include "results/PlotState.h"
 #include "roughness/RoughnessStores.h"
@@ -18,10 +17,9 @@ class RoughnessScreenTest : public InputTest {
 protected:
     RoughnessScreenTest()
     {
-        ProjectRecord = GravityRecord();
-        SetText(ProjectRecord.Designer, "A. Designer");
-        NewProject = 1;
-        LoadProject();
+        ProjectFields Record = GravityRecord();
+        SetText(Record.Designer, "A. Designer");
+        Open(Record);
         Windows.Files = {File};
         frmLCC.sscViewProfile.Click();
         MDIProject.mnuRoughness.Click();
