@@ -96,7 +96,7 @@ protected:
 TEST_F(ProcessTest, ATimeLimitIsToldAndShownInTheTable)
 {
     WriteBig();
-    const Run Late = Batch("analyse first.vlx --timeout 0.001");
+    const Run Late = Batch("analyse first.vlx --csv late --timeout 0.001");
     EXPECT_EQ(Late.Status, 1);
     EXPECT_EQ(Late.Errors, "velorix-batch: first.vlx: ended at the time limit of 0.001 s\n");
     EXPECT_THAT(Late.Output, testing::HasSubstr("\nfirst.vlx   timed out"));

@@ -18,8 +18,8 @@ protected:
     }
 };
 
-// Of 160 mm less two walls of 6.1 mm and 20 l/s, 3.1 m of head lost over the first 900 m. The second scenario
-// takes the units of the first, whatever its own are, and has a gap.
+// Of 160 mm less two walls of 6.1 mm and 20 l/s. The second scenario takes the units of the
+// first, whatever its own are, and has a gap.
 TEST_F(ToolCommandsTest, RoughnessGoesOutAsListsOrAsATable)
 {
     const std::string Readings = R"({"Scenarios": [
@@ -34,18 +34,16 @@ TEST_F(ToolCommandsTest, RoughnessGoesOutAsListsOrAsATable)
         EXPECT_EQ(Each.value()[7], json({0, 0, 0, 0})) << Each.key();
     }
     EXPECT_EQ(Results["StretchValid"][1], json({-1, 0, -1, 0}));
-    EXPECT_EQ(Results["StretchLength"][0][0], 900);
-    EXPECT_NEAR(Results["HeadDifference"][0][0], 3.1, 1e-4);
     EXPECT_NEAR(Results["AverageDiameter"][0][0], 0.1478, 1e-6);
     EXPECT_NEAR(Results["AverageVelocity"][0][0], 0.58286, 1e-5);
 
     const Run Shown = Roughness(Readings);
     EXPECT_EQ(Shown.Status, 0);
     EXPECT_EQ(Shown.Errors, "");
-    EXPECT_THAT(Shown.Output, HasSubstr("Scenario 2: 0.020000001 m³/s\n"
-                                        "Calculated between              1 to 2      2 to 3      3 to 4"));
-    EXPECT_THAT(Shown.Output,
-                HasSubstr("\nAverage diameter (mm)           147.80                  147.80\n"));
+    for (const char* Each : {"Scenario 2: 0.020000001 m³/s\n"
+                             "Calculated between              1 to 2      2 to 3      3 to 4",
+                             "\nAverage diameter (mm)           147.80                  147.80\n"})
+        EXPECT_THAT(Shown.Output, HasSubstr(Each));
 
     Roughness(Readings, "--json out.json");
     EXPECT_EQ(json::parse(ReadFile(Folder / "out.json")), Results);

@@ -170,9 +170,8 @@ TEST_F(ReportsTest, PumpingProjectStandsAtItsColumns)
             "[9]m[30]m³/s[51]%|[9]95[30]0[51]0|[9]92[30]0.05[51]55|",
             "|[7]Pump type: Split case|[7]Configuration:|[7]Two in parallel,|[7]one standing by|"});
     Expect(PrintEnergyData,
-           {"(1)|*[7]ENERGY DATA: PUMPING SYSTEM|*[6]Energy details:|*[7]Tariff[24]Summer months[46]Winter "
-            "months|"
-            "[7]Peak rate:[30]R0.90/kW[55]R0.90/kW|",
+           {"(1)|*[7]ENERGY DATA: PUMPING SYSTEM|*[6]Energy details:|"
+            "*[7]Tariff[24]Summer months[46]Winter months|[7]Peak rate:[30]R0.90/kW[55]R0.90/kW|",
             "[104]23[108]24|[7]Summer[16]O[20]O[24]O[28]O[32]O[36]O[40]O[44]P[48]P[52]P[56]S",
             "[104]O|[7]Winter[16]O",
             "|[7]Pumping hours per day - 20|[7]Number of summer months - 6 months|"});
@@ -183,8 +182,7 @@ TEST_F(ReportsTest, PumpingProjectStandsAtItsColumns)
          "|[7]Staff[25]Annual package (R)[50]Percentage of time (%)|[8]Manager[32]300000[55]20|",
          "|[7]Description of expenses[35]Annual ammount (R)|[8]Transport[40]0|",
          "|*[7]Rates[52]Income|[8]Escalation rate - [35]6 %[56]Current water sales unit tariff - "
-         "[90]R2.00/m³|"
-         "[8]Discount rate - [35]8 %[56]Water tariff annual increase - [90]5 %|"
+         "[90]R2.00/m³|[8]Discount rate - [35]8 %[56]Water tariff annual increase - [90]5 %|"
          "[8]Energy escalation rate - [35]7 %|"});
     Expect(PrintHydraulicAnalysis, {"|*[9]Flow rate: 0.108 m³/s[60]Pumping head: 76.500 m[110]Year: 2003|",
                                     "|[5]1[11] 0 [24] 98 [36]176.500[49]78.500[61]Node "});
@@ -216,8 +214,8 @@ TEST_F(ReportsTest, PumpingProjectStandsAtItsColumns)
          "[7]IRR:[30]12.346 %|*[6]Annual cost|[7]Operational cost[45]R1,000  (Escalation rate is 6.00%)|",
          "|[7]Energy cost[45]R1,000  (Escalation rate is 7.00%)|"});
     Expect(PrintDuty,
-           {"(1)|*[7]RESULTS: PUMP & SYSTEM CURVE|*[8]Year 2003|*[8]LEGEND:|*[23]- Pump curve[60]- System "
-            "curve|",
+           {"(1)|*[7]RESULTS: PUMP & SYSTEM CURVE|*[8]Year 2003|*[8]LEGEND:|"
+            "*[23]- Pump curve[60]- System curve|",
             "(2)|*[7]RESULTS: DUTY POINTS|*[7]Year[15]Flow rate[30]Pumping head[45]Pump efficiency|"
             "*[15]m³/s[30]m[45]%|[7]2003[15]"});
     frmLCC.optFlowrate.Value = true;
