@@ -4,6 +4,7 @@
 #include "batch/ProjectJson.h"
 #include "input/ProjectTest.h"
 
+#include <algorithm>
 #include <gmock/gmock.h>
 #include <map>
 #include <nlohmann/json.hpp>

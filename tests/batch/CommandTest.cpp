@@ -78,6 +78,7 @@ TEST_F(CommandTest, WhatCannotBeDoneIsToldAndWritesNothing)
                    {"--json village.vlx ridge.vlx", "\"village.vlx\" is a project; only import"},
                    {"village.vlx --json village.vlx", "\"village.vlx\" is read by this command"},
                    {"village.vlx --json same", "\"same\" is read by this command"},
+                   {"village.vlx --json folder.vlx", "\"folder.vlx\" is a project"},
                    {"village.vlx --json link", "\"link\" is a project"}});
 }
 
