@@ -4,10 +4,6 @@
 #include "batch/Plots.h"
 
 #include <cmath>
-#include <gmock/gmock.h>
-#include <map>
-#include <regex>
-#include <tuple>
 
 namespace velorix {
 namespace {
@@ -120,13 +116,9 @@ double At(const Numbers& X, const Numbers& Y, double x)
     return NAN;
 }
 
-class EachExample : public PlotTest, public testing::WithParamInterface<const char*> {
+class EachPlot : public OfEachExample<PlotTest> {
 protected:
-    const std::string Example = GetParam();
-    const std::string File = (Examples / (Example + ".vlx")).string() + " ";
-    const json Project = json::parse(ReadFile(Examples / (Example + ".json")));
     const json Figures = json::parse(Batch("analyse --json - " + File).Output);
-    const bool Pumping = Project["SystemType"] == "Pumping system";
     const int Life = Project["Life"];
     const int Construction = Project["SupplyStart"].get<int>() - Project["BaseYear"].get<int>();
 
@@ -138,7 +130,7 @@ protected:
 
 // Node by node, for the first and the last year: the gradeline of a gravity main at the point before the
 // node, that of a pumping main at the node itself, with the riser at the station.
-TEST_P(EachExample, ProfilesShowGroundAndGradeline)
+TEST_P(EachPlot, ProfilesShowGroundAndGradeline)
 {
     const Numbers Ground = Project["Elevation"];
     for (const char* Name : {"profile", "hydraulic"})
@@ -149,17 +141,17 @@ TEST_P(EachExample, ProfilesShowGroundAndGradeline)
                 Gradeline.push_back(Gradeline.front());
             } else
                 Gradeline.pop_back();
-            const Sheet Drawn = SheetOf(File + Name + " --year " + std::to_string(Year));
+            const Sheet Drawn = SheetOf(File + " " + Name + " --year " + std::to_string(Year));
             ExpectNear(Drawn.Curve("#004000").Y, Ground, Drawn.StepY);
             ExpectNear(Drawn.Curve("#004000").X, Project["AccLength"], Drawn.StepX);
             ExpectNear(Drawn.Curve("#0000ff").Y, Gradeline, Drawn.StepY);
         }
 }
 
-TEST_P(EachExample, BarsReachTheFiguresOfTheirYears)
+TEST_P(EachPlot, BarsReachTheFiguresOfTheirYears)
 {
-    const Sheet Demand = SheetOf(File + "demand");
-    const Sheet Income = SheetOf(File + "income");
+    const Sheet Demand = SheetOf(File + " demand");
+    const Sheet Income = SheetOf(File + " income");
     const json& Varying = Project["Demand"];
     const double Hours = Pumping ? Project["PumpingHours"].get<double>() : 24;
     const double PerFlow = Hours / 24 / Figures["DemandFactor"].get<double>();
@@ -183,27 +175,27 @@ TEST_P(EachExample, BarsReachTheFiguresOfTheirYears)
 }
 
 // The difference of income and cost is 0 at the rate of return.
-TEST_P(EachExample, TheGraphOfRatesCrossesAtTheRateOfReturn)
+TEST_P(EachPlot, TheGraphOfRatesCrossesAtTheRateOfReturn)
 {
     const double Irr = Figures["Irr"];
     const Sheet Drawn =
-        SheetOf(File + "irr --begin " + std::to_string(Irr - 1) + " --end " + std::to_string(Irr + 1));
+        SheetOf(File + " irr --begin " + std::to_string(Irr - 1) + " --end " + std::to_string(Irr + 1));
     const Points Differences = Drawn.Curve("#0000ff");
     EXPECT_EQ(Differences.X.size(), 201U); // each hundredth of a percent
     EXPECT_NEAR(At(Differences.Y, Differences.X, 0), Irr, 0.005);
 }
 
 // All that apply, by their names; only the smallest project's money fits the whole range of rates.
-TEST_P(EachExample, AllLeavesOutWhatDoesNotApply)
+TEST_P(EachPlot, AllLeavesOutWhatDoesNotApply)
 {
     const bool HasCurve = Figures["PumpFlow"][0] != 0;
     const bool IsSmall = Example == "kloofsig-village-main";
-    const Run All = Batch("plot " + File + "all --out plots/new --format json");
+    const Run All = Batch("plot " + File + " all --out plots/new --format json");
     EXPECT_EQ(All.Status, IsSmall ? 0 : 2);
     EXPECT_EQ(All.Errors.find("irr: Could not show the Internal") == std::string::npos, IsSmall);
     for (const Plot& Each : AllPlots()) {
         const std::string Name = Each.Name;
-        const auto Single = Batch("plot " + File + Name + " --out - --format json");
+        const auto Single = Batch("plot " + File + " " + Name + " --out - --format json");
         const bool Stands = Name == "pump-curve" || Name == "duty" ? HasCurve : Name != "irr" || IsSmall;
         EXPECT_EQ(Single.Status, Stands ? 0 : 2) << Name;
         EXPECT_TRUE(ReadFile(Folder / "plots/new" / (Example + "-" + Name + ".json")) == Single.Output)
@@ -212,10 +204,7 @@ TEST_P(EachExample, AllLeavesOutWhatDoesNotApply)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(PlotTest, EachExample,
-                         testing::Values("brandkop-regional-main", "cedar-mesa-transmission-main",
-                                         "hoekfontein-pumping-main", "kloofsig-village-main",
-                                         "witklip-mine-rising-main"));
+INSTANTIATE_TEST_SUITE_P(PlotTest, EachPlot, testing::ValuesIn(ExampleNames()));
 
 // The system curve passes through each year's duty point, and the pump curve through its six points.
 TEST_F(PlotTest, CurvesMeetInTheDutyPoint)
@@ -271,44 +260,34 @@ TEST_F(PlotTest, WhatCannotBeDrawnIsToldAndWritesNothing)
     json Steep(6, {1, 1, 80});
     Steep[0][0] = 2e7; // no tick is that wide
     WriteExample("steep.vlx", "hoekfontein-pumping-main", {{"PumpCurve", Steep}});
-    const std::string Before = ReadFile(Folder / "village.vlx");
-    const std::tuple<std::string, int, const char*> Cases[] = {
-        {"village.vlx duty", 2, "village.vlx: duty: the system has no pump curve"},
-        {"village.vlx hydraulic --year 26", 2, "the year 26 is outside 1 to 25"},
-        {"village.vlx profile --year 0", 2, "the year 0 is outside 1 to 25"},
-        {"village.vlx profile --end 3421", 2, "the chainage 3421 is outside 0 to 3420"},
-        {"village.vlx hydraulic --end nan", 2, "the chainage NaN is outside"},
-        {"village.vlx hydraulic --begin 2000 --end 1000", 2, "The begin distance should be less"},
-        {"village.vlx profile --begin 1000 --end 1000", 2, "The begin distance should be less"},
-        {"village.vlx irr --begin 7 --end 7", 2, "The begin IRR value should be smaller"},
-        {"village.vlx irr --end 1e300", 2, "the rate 1E+300 is outside 0 to 200 %"},
-        {"high.vlx duty", 2, "The pump curve does not intersect the system curve for year 1"},
-        {"high.vlx profile", 2, "The pump curve does not intersect"},
-        {"idle.vlx pump-curve", 2, "All the pump data cannot be zero !"},
-        {"steep.vlx pump-curve", 2, "Could not show the pump curve.  Please check the pump data !"},
-        {"village.vlx demand --year 1", 1, "--year is for plots of one year"},
-        {"village.vlx income --begin 1", 1, "--begin and --end are for plots of a range"},
-        {"village.vlx all --begin 1", 1, "\"all\" takes none"},
-        {"village.vlx cost", 1, "PLOT"},
-        {"village.vlx demand --format jpg", 1, "--format"},
-        {"missing.vlx demand", 1, "missing.vlx\": No such file"},
-        {"village.vlx demand --format svg --out village.vlx", 1, "\"village.vlx\" is read by"},
-        {"village.vlx demand --format svg --out high.vlx", 1, "\"high.vlx\" is a project"},
-        {"village.vlx demand --out new", 1, "\"new\" doesn't end in the name of a format"},
-    };
-    for (const auto& [Words, Status, Reason] : Cases) {
-        const bool HasOut = Words.find("--out") != std::string::npos;
-        const Run Refused = Batch("plot " + Words + (HasOut ? "" : " --out new.svg"));
-        EXPECT_EQ(Refused.Status, Status) << Words;
-        EXPECT_EQ(Refused.Output, "") << Words;
-        EXPECT_THAT(Refused.Errors, HasSubstr(Reason)) << Words;
-        EXPECT_FALSE(std::filesystem::exists(Folder / "new.svg")) << Words;
-    }
-    EXPECT_TRUE(ReadFile(Folder / "village.vlx") == Before);
+    ExpectRefused(
+        "plot --out new.svg",
+        {{"village.vlx duty", "village.vlx: duty: the system has no pump curve", 2},
+         {"village.vlx hydraulic --year 26", "the year 26 is outside 1 to 25", 2},
+         {"village.vlx profile --year 0", "the year 0 is outside 1 to 25", 2},
+         {"village.vlx profile --end 3421", "the chainage 3421 is outside 0 to 3420", 2},
+         {"village.vlx hydraulic --end nan", "the chainage NaN is outside", 2},
+         {"village.vlx hydraulic --begin 2000 --end 1000", "The begin distance should be less", 2},
+         {"village.vlx profile --begin 1000 --end 1000", "The begin distance should be less", 2},
+         {"village.vlx irr --begin 7 --end 7", "The begin IRR value should be smaller", 2},
+         {"village.vlx irr --end 1e300", "the rate 1E+300 is outside 0 to 200 %", 2},
+         {"high.vlx duty", "The pump curve does not intersect the system curve for year 1", 2},
+         {"high.vlx profile", "The pump curve does not intersect", 2},
+         {"idle.vlx pump-curve", "All the pump data cannot be zero !", 2},
+         {"steep.vlx pump-curve", "Could not show the pump curve.  Please check the pump data !", 2},
+         {"village.vlx demand --year 1", "--year is for plots of one year"},
+         {"village.vlx income --begin 1", "--begin and --end are for plots of a range"},
+         {"village.vlx all --begin 1", "\"all\" takes none"},
+         {"village.vlx cost", "PLOT"},
+         {"village.vlx demand --format jpg", "--format"},
+         {"missing.vlx demand", "missing.vlx\": No such file"}});
+    ExpectRefused("plot village.vlx demand",
+                  {{"--format svg --out village.vlx", "\"village.vlx\" is read by"},
+                   {"--format svg --out high.vlx", "\"high.vlx\" is a project"},
+                   {"--out new", "\"new\" doesn't end in the name of a format"}});
 }
 
-// By extension or by name, to a file or to standard output. Without the module only JSON can be had, and the
-// reason names where the module may stand.
+// By extension or by name, to a file or to standard output. Without the module only JSON can be had.
 TEST_F(PlotTest, FormatsNeedTheModuleThatPaints)
 {
     WriteExample("village.vlx", "kloofsig-village-main");
@@ -325,19 +304,14 @@ TEST_F(PlotTest, FormatsNeedTheModuleThatPaints)
     EXPECT_THAT(ReadFile(Folder / "new.svg"), HasSubstr("<title>Demand and capacity</title>"));
     EXPECT_THAT(Batch("plot - demand --out - --format svg <village.vlx").Output, StartsWith("<?xml"));
 
-    const std::filesystem::path Program = VELORIX_BATCH;
     std::filesystem::create_directories(Folder / "new/bin");
-    std::filesystem::copy(Program, Folder / "new/bin");
-    const std::string Words = "--version; new/bin/velorix-batch plot village.vlx demand --out away.";
-    const Run Alone = Batch(Words + "svg");
+    std::filesystem::copy(VELORIX_BATCH, Folder / "new/bin");
+    const std::string Line = "new/bin/velorix-batch plot village.vlx demand --out away.";
+    const Run Alone = Shell(Line + "svg");
     EXPECT_EQ(Alone.Status, 1);
+    EXPECT_THAT(Alone.Errors, HasSubstr("nor in \""));
     EXPECT_FALSE(std::filesystem::exists(Folder / "away.svg"));
-    EXPECT_EQ(Batch(Words + "json").Status, 0);
-    std::smatch Place;
-    ASSERT_TRUE(std::regex_search(Alone.Errors, Place, std::regex("nor in \"([^\"]+)\""))) << Alone.Errors;
-    std::filesystem::create_directories(Place[1].str());
-    std::filesystem::copy(Program.parent_path() / "velorix-paint.so", Place[1].str());
-    EXPECT_EQ(Batch(Words + "svg").Status, 0);
+    EXPECT_EQ(Shell(Line + "json").Status, 0);
 }
 
 } // namespace

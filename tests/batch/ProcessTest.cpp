@@ -1,10 +1,8 @@
-// The program velorix-batch among signals: workers that crash or take too long, interrupts, its own end; and
-// what it needs for many files.
+// The program velorix-batch under time limits and interrupts, and what it needs for many files.
 #include "BatchTest.h"
 
 #include <csignal>
-#include <fcntl.h>
-#include <gmock/gmock.h>
+#include <poll.h>
 #include <sys/resource.h>
 #include <thread>
 #include <unistd.h>
@@ -13,14 +11,13 @@ namespace velorix {
 namespace {
 
 using nlohmann::json;
-using testing::ContainsRegex;
-using testing::HasSubstr;
 
 // The program while it runs.
 class Started {
 public:
     Started(const std::filesystem::path& Folder, const std::string& Words)
     {
+        EXPECT_EQ(::pipe(Ends), 0);
         Process = ::fork();
         if (Process != 0) return;
         // A sanitizer keeps freed memory back, which would pass for growth.
@@ -29,28 +26,6 @@ public:
             "cd '" + Folder.string() + "' && exec " VELORIX_BATCH " " + Words + " >out.txt 2>err.txt";
         ::execl("/bin/sh", "sh", "-c", Line.c_str(), nullptr);
         ::_exit(127);
-    }
-
-    // A worker that has been stopped at its work; 0 when the program has ended.
-    pid_t StoppedWorker() const
-    {
-        while (const pid_t Found = Worker()) {
-            if (LeavesInterrupts(Found)) ::kill(Found, SIGSTOP);
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
-            if (State(Found) == 'T') return Found;
-        }
-        return 0;
-    }
-
-    // Waits for one of its workers; 0 when the program has ended.
-    pid_t Worker() const
-    {
-        const std::string Place = "/proc/" + std::to_string(Process);
-        for (pid_t Found = 0; IsAlive(Process);) {
-            std::ifstream(Place + "/task/" + std::to_string(Process) + "/children") >> Found;
-            if (Found != 0) return Found;
-        }
-        return 0;
     }
 
     void Send(int Signal) const { ::kill(Process, Signal); }
@@ -63,32 +38,19 @@ public:
         return WIFEXITED(Status) ? WEXITSTATUS(Status) : -WTERMSIG(Status);
     }
 
-    // The system's letter: T for a process that has been stopped, Z for one that has ended.
-    static char State(pid_t Process)
+    // Whether nobody is left who has inherited the pipe, the workers among them.
+    bool AllGone() const
     {
-        std::string Ignored;
-        char Letter = 'Z';
-        std::ifstream("/proc/" + std::to_string(Process) + "/stat") >> Ignored >> Ignored >> Letter;
-        return Letter;
+        ::close(Ends[1]);
+        pollfd Pipe = {Ends[0], POLLIN, 0};
+        return ::poll(&Pipe, 1, 0) == 1 && (Pipe.revents & POLLHUP) != 0;
     }
-
-    // What a worker does once it is tied to its parent.
-    static bool LeavesInterrupts(pid_t Process)
-    {
-        std::ifstream Status("/proc/" + std::to_string(Process) + "/status");
-        std::string Word;
-        while (Status >> Word && Word != "SigIgn:") continue;
-        unsigned long Ignored = 0;
-        Status >> std::hex >> Ignored;
-        return (Ignored >> (SIGINT - 1) & 1U) != 0;
-    }
-
-    static bool IsAlive(pid_t Process) { return State(Process) != 'Z'; }
 
     rusage Use{}; // of itself and its workers
 
 private:
     pid_t Process = 0;
+    int Ends[2] = {};
 };
 
 class ProcessTest : public BatchTest {
@@ -123,32 +85,15 @@ protected:
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
         return std::filesystem::exists(Folder / Name);
     }
-
-    int FilesIn(const std::string& Name) const
-    {
-        const std::filesystem::directory_iterator All(Folder / Name);
-        return static_cast<int>(std::distance(begin(All), end(All)));
-    }
 };
 
-TEST_F(ProcessTest, ACrashAndATimeLimitAreTheirOwnFilesOnly)
+TEST_F(ProcessTest, ATimeLimitIsToldAndShownInTheTable)
 {
     WriteBig();
-    WriteCopies(4);
-    const std::string Words = "analyse copy*.vlx --json results.json --csv tables --jobs 1";
-    Started Crash(Folder, Words);
-    ::kill(Crash.StoppedWorker(), SIGKILL);
-    EXPECT_EQ(Crash.Wait(), 1);
-    EXPECT_THAT(ReadFile(Folder / "err.txt"),
-                ContainsRegex("copy[1-4].vlx: crashed: the worker was ended by signal 9"));
-    const json Results = json::parse(ReadFile(Folder / "results.json"));
-    EXPECT_EQ(Results.size(), 4U);
-    EXPECT_EQ(std::count(Results.begin(), Results.end(), json(nullptr)), 1);
-    EXPECT_EQ(FilesIn("tables"), 3 * 7);
-
-    const Run Late = Batch("analyse copy1.vlx --json late.json --timeout 0.001");
+    const Run Late = Batch("analyse first.vlx --csv late --timeout 0.001");
     EXPECT_EQ(Late.Status, 1);
-    EXPECT_EQ(Late.Errors, "velorix-batch: copy1.vlx: ended at the time limit of 0.001 s\n");
+    EXPECT_EQ(Late.Errors, "velorix-batch: first.vlx: ended at the time limit of 0.001 s\n");
+    EXPECT_THAT(Late.Output, testing::HasSubstr("\nfirst.vlx   timed out"));
 }
 
 // Tables of files that have been finished stay, an array that isn't complete doesn't replace an earlier one,
@@ -162,30 +107,17 @@ TEST_F(ProcessTest, AnInterruptEndsAllAndExitsWith130)
         std::filesystem::remove_all(Folder / "tables");
         Started Batch(Folder, "analyse copy*.vlx --json results.json --csv tables --jobs 2");
         ASSERT_TRUE(Appears("tables/copy1-Gradeline.csv"));
-        const pid_t Worker = Batch.Worker();
         Batch.Send(Signal);
         EXPECT_EQ(Batch.Wait(), 130);
-        EXPECT_FALSE(Started::IsAlive(Worker));
+        EXPECT_TRUE(Batch.AllGone());
         EXPECT_EQ(ReadFile(Folder / "err.txt"), "velorix-batch: interrupted\n");
         EXPECT_EQ(ReadFile(Folder / "results.json"), "earlier");
-        EXPECT_EQ(FilesIn("."), 1 + 300 + 4); // results.json, tables, out.txt and err.txt
-        EXPECT_THAT(ReadFile(Folder / "tables/copy1-Gradeline.csv"), ContainsRegex("\n2[0-9]*,[^\n]*\n$"));
+        const std::filesystem::directory_iterator Files(Folder);
+        EXPECT_EQ(std::distance(begin(Files), end(Files)),
+                  1 + 300 + 4); // results.json, tables and the output
+        EXPECT_THAT(ReadFile(Folder / "tables/copy1-Gradeline.csv"),
+                    testing::ContainsRegex("\n2[0-9]*,[^\n]*\n$"));
     }
-}
-
-TEST_F(ProcessTest, WorkersDieWithTheProgram)
-{
-    WriteBig();
-    WriteCopies(300);
-    Started Batch(Folder, "analyse copy*.vlx --jobs 1 --json results.json");
-    const pid_t Worker = Batch.StoppedWorker();
-    ASSERT_NE(Worker, 0);
-    Batch.Send(SIGKILL);
-    EXPECT_EQ(Batch.Wait(), -SIGKILL);
-    for (int Tries = 0; Tries < 1000 && Started::IsAlive(Worker); ++Tries)
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    EXPECT_FALSE(Started::IsAlive(Worker));
-    EXPECT_FALSE(std::filesystem::exists(Folder / "results.json"));
 }
 
 // Results of 200 more files are some 12 MB.

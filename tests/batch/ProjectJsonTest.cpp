@@ -1,50 +1,44 @@
 // Projects to JSON and back, and what is refused.
 #include "BatchTest.h"
 #include "base/Failure.h"
+#include "model/EveryEntry.h"
 
-#include <gmock/gmock.h>
 #include <limits>
 #include <random>
 
 namespace velorix {
 namespace {
 
-using nlohmann::json;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-// Fills every field of a record by chance, as a project file may hold it.
-struct RandomFields {
-    int Between(int Least, int Most) { return std::uniform_int_distribution(Least, Most)(Chance); }
-
-    // Every choice, by its text or its number.
-    void Fill(const FieldRule& Rule, std::int16_t& Value)
-    {
-        Value = static_cast<std::int16_t>(Between(Rule.Allowed.Least, Rule.Allowed.Most));
-    }
-
+// A record as a project file may hold it, filled by chance.
+ProjectFields RandomRecord(std::mt19937& Chance)
+{
+    const auto Between = [&](int Least, int Most) {
+        return std::uniform_int_distribution(Least, Most)(Chance);
+    };
     // Any bits at all, but one NaN only: JSON has a word for it, and none for its bits.
-    void Fill(const FieldRule&, Single& Value)
-    {
-        Value = Single::FromBits(static_cast<std::uint32_t>(Chance()));
-        if (Value != Value) Value = std::numeric_limits<float>::quiet_NaN();
-        if (Between(0, 9) == 0) Value = Between(0, 1) == 0 ? -0.0 : std::numeric_limits<float>::infinity();
-    }
-
-    template <int Width>
-    void Fill(const FieldRule&, FixedText<Width>& Value)
-    {
-        for (char& Each : Value.Bytes) Each = static_cast<char>(Between(33, 255));
-    }
-
-    template <typename T, int Count>
-    void Fill(const FieldRule& Rule, Array1<T, Count>& Values)
-    {
-        for (T& Each : Values) Fill(Rule, Each);
-    }
-
-    std::mt19937 Chance{20050303};
-};
+    const auto AnySingle = [&] {
+        const Single Value = Single::FromBits(static_cast<std::uint32_t>(Chance()));
+        if (Between(0, 9) == 0)
+            return Single(Between(0, 1) == 0 ? -0.0 : std::numeric_limits<float>::infinity());
+        return Value == Value ? Value : Single(std::numeric_limits<float>::quiet_NaN());
+    };
+    ProjectFields Record;
+    ForEachField(Record, [&](const FieldRule& Rule, auto& Field) {
+        ForEachEntry(Field, [&](int, auto& Value) {
+            if constexpr (requires { Value.Bytes; })
+                for (char& Each : Value.Bytes) Each = static_cast<char>(Between(33, 255));
+            else if constexpr (std::is_same_v<decltype(Value), Single&>)
+                Value = AnySingle();
+            else // every choice, by its text or its number
+                Value = static_cast<std::int16_t>(Between(Rule.Allowed.Least, Rule.Allowed.Most));
+        });
+    });
+    Record.Laying[14] = 0.0;
+    return Record;
+}
 
 class ProjectJsonTest : public BatchTest {
 protected:
@@ -61,15 +55,11 @@ protected:
 
 TEST_F(ProjectJsonTest, EveryBitOfARecordComesBack)
 {
-    RandomFields Random;
+    std::mt19937 Chance{20050303};
     for (int Trial = 1; Trial <= 50; ++Trial) {
-        ProjectFields Record;
-        ForEachField(Record, [&](const FieldRule& Rule, auto& Field) { Random.Fill(Rule, Field); });
-        Record.Laying[14] = 0.0;
+        ProjectFields Record = RandomRecord(Chance);
         (Trial % 2 == 0 ? Record.Elevation : Record.AccLength)[500] = UnusedNode; // still a row in use
-        const std::string Text = ProjectToJson(Record);
-        EXPECT_EQ(BytesOf(ProjectFromJson(Text)), BytesOf(Record)) << "trial " << Trial;
-        EXPECT_NO_THROW(json::parse(Text));
+        EXPECT_EQ(BytesOf(ProjectFromJson(ProjectToJson(Record))), BytesOf(Record)) << "trial " << Trial;
     }
 }
 
@@ -85,14 +75,12 @@ TEST_F(ProjectJsonTest, FieldsReadAsTypedAndAbsentOnesAreThoseOfANewProject)
     EXPECT_THAT(Text, StartsWith("{\n  \"SystemType\": \"Pumping system\",\n  \"Units\": \"US units\",\n"
                                  "  \"Currency\": \"Dollar ($)\",\n"));
     for (const char* Member :
-         {R"("Project": "Rising main, \"6 m³/min\"")", R"("Life": 7,)", R"("Flowrate": 0.1,)",
-          R"("Demand": [1.5, 0, 2],)", R"("Elevation": [10, 20],)", R"("AccLength": [0, 500.5],)",
-          R"("NodeDesc": ["Pumpstation", "Isolating valve"],)", R"("FlowrateUnits": "ft³/s",)",
-          R"("LiningType": "Cement mortar/Other",)", R"("SummerHour": ["Peak", "Standard", "Off-peak", )",
-          R"("VaryingDemand": "Fixed demand",)", R"("PumpDetails": "Specified operating flow rate",)",
-          R"("DemandUnits": "ft³/s",)", R"("WaterSalesUnits": "/ft³",)", R"("HeadUnits": "ft",)",
-          R"("PumpCurve": [[80, 0, 0], [70.5, 100, 60], [0, 0, 0], )", R"("LengthUnits": "ft",)",
-          R"("WaterSales": 0.05,)"})
+         {R"("Project": "Rising main, \"6 m³/min\"")", R"("Flowrate": 0.1,)", R"("Demand": [1.5, 0, 2],)",
+          R"("Elevation": [10, 20],)", R"("AccLength": [0, 500.5],)",
+          R"("NodeDesc": ["Pumpstation", "Isolating valve"],)",
+          R"("SummerHour": ["Peak", "Standard", "Off-peak", )", R"("VaryingDemand": "Fixed demand",)",
+          R"("DemandUnits": "ft³/s",)", R"("HeadUnits": "ft",)",
+          R"("PumpCurve": [[80, 0, 0], [70.5, 100, 60], [0, 0, 0], )", R"("WaterSales": 0.05,)"})
         EXPECT_THAT(Text, HasSubstr(Member));
 }
 
@@ -140,12 +128,8 @@ TEST_F(ProjectJsonTest, RefusesWithKeyAndReason)
 // From the layout table of the file format.
 TEST_F(ProjectJsonTest, WholeNumbersHaveTheirRanges)
 {
-    struct Case {
-        std::string Field;
-        int Least;
-        int Most;
-    };
-    const Case Cases[] = {// clang-format off
+    const std::tuple<std::string, int, int> Ranges[] = {
+        // clang-format off
         {"SystemType", 0, 1}, {"Units", 0, 1}, {"Currency", 0, 1}, {"FlowrateUnits", 0, 12}, {"VaryingDemand", 0, 1},
         {"Life", 2, 100}, {"BaseYear", 1950, 2500}, {"SupplyStart", 1950, 2500}, {"DemandUnits", 0, 12},
         {"TRWLUnits", 0, 3}, {"BRWLUnits", 0, 3}, {"NodeNr", 1, 500}, {"NodeDesc", 0, 20},
@@ -155,16 +139,15 @@ TEST_F(ProjectJsonTest, WholeNumbersHaveTheirRanges)
         {"HeadUnits", 0, 1}, {"FlowUnits", 0, 3}, {"PumpDetails", 0, 1}, {"Summer", 0, 12}, {"SummerHour", 0, 2},
         {"WinterHour", 0, 2}, {"PumpOperatingFlowrateUnits", 0, 9}, {"PumpingHours", 1, 24}};
     // clang-format on
-    for (const Case& Each : Cases) {
-        const bool Listed = Each.Field.starts_with("Node") || Each.Field.ends_with("Hour");
-        const auto Reason = [&](int Value) {
+    for (const auto& [Field, Least, Most] : Ranges) {
+        const bool Listed = Field.starts_with("Node") || Field.ends_with("Hour");
+        const std::string Range = std::to_string(Least) + " to " + std::to_string(Most);
+        for (const int Value : {Least - 1, Least, Most, Most + 1}) {
             const std::string Text = std::to_string(Value);
-            return ReasonAgainst("{\"" + Each.Field + "\": " + (Listed ? "[" + Text + "]" : Text) + "}");
-        };
-        for (const int Allowed : {Each.Least, Each.Most}) EXPECT_EQ(Reason(Allowed), "nothing");
-        const std::string Range = std::to_string(Each.Least) + " to " + std::to_string(Each.Most);
-        for (const int Refused : {Each.Least - 1, Each.Most + 1})
-            EXPECT_EQ(Reason(Refused), Each.Field + ": " + std::to_string(Refused) + " is outside " + Range);
+            EXPECT_EQ(ReasonAgainst("{\"" + Field + "\": " + (Listed ? "[" + Text + "]" : Text) + "}"),
+                      Value >= Least && Value <= Most ? "nothing"
+                                                      : Field + ": " + Text + " is outside " + Range);
+        }
     }
 }
 

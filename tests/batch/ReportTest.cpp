@@ -5,11 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <gmock/gmock.h>
-#include <iomanip>
 #include <regex>
-#include <sstream>
-#include <tuple>
 
 namespace velorix {
 namespace {
@@ -45,7 +41,7 @@ struct Page {
     }
 };
 
-using Sections = std::vector<std::pair<std::string, int>>; // by title: a number of pages, or a page from 1
+using Sections = std::vector<std::pair<std::string, int>>; // titles with their first pages, from 1
 
 struct Pdf {
     std::vector<Page> Pages;
@@ -55,11 +51,11 @@ struct Pdf {
 
 class ReportTest : public BatchTest {
 protected:
-    std::string OutputOf(const std::string& ShellLine) const
+    std::string OutputOf(const std::string& Line) const
     {
-        const std::string In = "cd '" + Folder.string() + "' && ";
-        EXPECT_EQ(std::system((In + ShellLine + " >read.txt").c_str()), 0) << ShellLine;
-        return ReadFile(Folder / "read.txt");
+        const Run Done = Shell(Line);
+        EXPECT_EQ(Done.Status, 0) << Line << "\n" << Done.Errors;
+        return Done.Output;
     }
 
     Pdf ReadPdf(const std::string& Name) const
@@ -107,53 +103,23 @@ void ExpectClear(const Page& Printed)
     }
 }
 
-class EachReport : public ReportTest, public testing::WithParamInterface<const char*> {
-protected:
-    const std::string Example = GetParam();
-    const json Project = json::parse(ReadFile(Examples / (Example + ".json")));
-    const bool Pumping = Project["SystemType"] == "Pumping system";
-
-    // The pages of each section, by its page breaks: they come after told rows, also when no row follows.
-    Sections ExpectedPages() const
-    {
-        const int Life = Project["Life"];
-        const int Nodes = static_cast<int>(Project["Elevation"].size());
-        const int AllYears = Project["SupplyStart"].get<int>() - Project["BaseYear"].get<int>() + Life;
-        const int DemandBreaks = Project["VaryingDemand"] == "Varying demand" ? (Life + 2) / 25 : 0;
-        Sections All = {
-            {"General data", 1 + DemandBreaks},
-            {"Pipeline profile", 2 + Nodes / 27},
-            {"Rates and sales data", 1},
-            {"Hydraulic analysis", 1 + Nodes / 27},
-            {"Demand and yield", 1 + Life / 27},
-            {"Income and expenditure", 1 + AllYears / 32},
-            {"Cost analysis", 1},
-            {"Hydraulic graph", 1},
-            {"Demand and capacity graph", 1},
-            {"Income and expenditure graph", 1},
-            {"Internal rate of return graph", 1},
-        };
-        if (Pumping) All.insert(All.begin() + 2, {"Energy data", 1});
-        return All;
-    }
-};
+using EachReport = OfEachExample<ReportTest>;
 
 TEST_P(EachReport, HasItsPagesWithEveryTextInItsPlace)
 {
-    std::filesystem::copy(Examples / (Example + ".vlx"), Folder);
+    std::filesystem::copy(File, Folder);
     ASSERT_EQ(Batch("report " + Example + ".vlx --pdf report.pdf").Status, 0);
     const Pdf Printed = ReadPdf("report.pdf");
     for (const char* Key : {"Project", "Description", "Designer"})
         EXPECT_THAT(Printed.Facts, HasSubstr(" " + Project[Key].get<std::string>() + "\n"));
 
-    Sections Bookmarks;
-    int First = 1;
-    for (const auto& [Title, Count] : ExpectedPages()) {
-        Bookmarks.emplace_back(Title, First);
-        First += Count;
-    }
-    EXPECT_EQ(Printed.Bookmarks, Bookmarks);
-    ASSERT_EQ(Printed.Pages.size(), static_cast<std::size_t>(First - 1));
+    std::string Titles;
+    for (const auto& [Title, At] : Printed.Bookmarks) Titles += Title + "; ";
+    EXPECT_EQ(Titles, std::string("General data; Pipeline profile; ") + (Pumping ? "Energy data; " : "") +
+                          "Rates and sales data; Hydraulic analysis; Demand and yield; Income and "
+                          "expenditure; Cost analysis; "
+                          "Hydraulic graph; Demand and capacity graph; Income and expenditure graph; "
+                          "Internal rate of return graph; ");
 
     const std::size_t WideFrom = Printed.Pages.size() - 3;
     int Number = 0;
@@ -169,26 +135,6 @@ TEST_P(EachReport, HasItsPagesWithEveryTextInItsPlace)
                                        HasSubstr(Example + ".vlx"), HasSubstr("Velorix : VERSION: ")));
     }
 
-    const std::tuple<std::string, const char*, double> Places[] = {
-        {"General data", "GENERAL", TabLeft(7, 13)},
-        {"Rates and sales data", "RATES", TabLeft(7, 12)},
-        {"Hydraulic analysis", "HYDRAULIC", TabLeft(40, 13)},
-        {"Demand and yield", "SYSTEM", TabLeft(30, 13)},
-        {"Income and expenditure", "SYSTEM", TabLeft(27, 13)},
-        {"Cost analysis", "VAT", TabLeft(7, 12)},
-        {"Hydraulic graph", "Begin", TabLeft(8, 11)},
-        {"Internal rate of return graph", "IRR", TabLeft(7, 13)},
-    };
-    for (const auto& [Section, Text, Left] : Places)
-        for (const auto& [Title, At] : Printed.Bookmarks) {
-            if (Title != Section) continue;
-            EXPECT_NEAR(Printed.Pages.at(static_cast<std::size_t>(At - 1)).LeftOf(Text), Left, 1) << Section;
-        }
-
-    std::ostringstream End;
-    End << std::fixed << std::setprecision(3) << Project["AccLength"].back().get<double>();
-    EXPECT_THAT(Printed.Pages[WideFrom - 1].Text(), HasSubstr(" " + End.str() + " "));
-
     // The headline figures, as the table of the analysis has them.
     std::smatch Figures;
     const std::string Table = Batch("analyse " + Example + ".vlx").Output;
@@ -198,10 +144,7 @@ TEST_P(EachReport, HasItsPagesWithEveryTextInItsPlace)
                       HasSubstr("IRR: " + Figures[3].str())));
 }
 
-INSTANTIATE_TEST_SUITE_P(ReportTest, EachReport,
-                         testing::Values("brandkop-regional-main", "cedar-mesa-transmission-main",
-                                         "hoekfontein-pumping-main", "kloofsig-village-main",
-                                         "witklip-mine-rising-main"));
+INSTANTIATE_TEST_SUITE_P(ReportTest, EachReport, testing::ValuesIn(ExampleNames()));
 
 TEST_F(ReportTest, SectionsComeInTheirOrderHoweverTheyAreNamed)
 {
@@ -258,30 +201,22 @@ TEST_F(ReportTest, WhatCannotBePrintedIsToldAndWritesNothing)
     WriteExample("village.vlx", "kloofsig-village-main");
     WriteExample("high.vlx", "hoekfontein-pumping-main", {{"BRWL", 1700}});
     WriteFile("file", "");
-    const std::tuple<std::string, int, const char*> Cases[] = {
-        {"village.vlx --sections general,energy", 2, "village.vlx: the section energy doesn't apply"},
-        {"village.vlx --sections duty", 2, "the section duty doesn't apply"},
-        {"high.vlx --sections cost,irr-graph", 2, "does not intersect"},
-        {"village.vlx --year 26", 2, "the year 26 is outside 1 to 25"},
-        {"village.vlx --year 0 --sections general", 2, "the year 0 is outside 1 to 25"},
-        {"village.vlx --sections general,graphs", 1, "--sections"},
-        {"missing.vlx", 1, "missing.vlx\": No such file"},
-        {"village.vlx --pdf nowhere/new.pdf", 1, "nowhere/new.pdf"},
-        {"village.vlx --pdf /dev/full", 1, "/dev/full\": No space left"},
-        {"village.vlx --pdf high.vlx", 1, "\"high.vlx\" is a project"},
-        {"village.vlx --pdf village.vlx", 1, "\"village.vlx\" is read by"},
-        {"village.vlx high.vlx --pdf file", 1, "file\": "},
-        {"village.vlx high.vlx --pdf -", 1, "several files need --pdf FOLDER"},
-        {"village.vlx ./village.vlx --pdf new.pdf", 1, "Two of the files are named \"village\""},
-    };
-    for (const auto& [Words, Status, Reason] : Cases) {
-        const bool HasOut = Words.find("--pdf") != std::string::npos;
-        const Run Refused = Batch("report " + Words + (HasOut ? "" : " --pdf new.pdf"));
-        EXPECT_EQ(Refused.Status, Status) << Words;
-        EXPECT_EQ(Refused.Output, "") << Words;
-        EXPECT_THAT(Refused.Errors, HasSubstr(Reason)) << Words;
-        EXPECT_FALSE(std::filesystem::exists(Folder / "new.pdf")) << Words;
-    }
+    ExpectRefused(
+        "report --pdf new.pdf",
+        {{"village.vlx --sections general,energy", "village.vlx: the section energy doesn't apply", 2},
+         {"village.vlx --sections duty", "the section duty doesn't apply", 2},
+         {"high.vlx --sections cost,irr-graph", "does not intersect", 2},
+         {"village.vlx --year 26", "the year 26 is outside 1 to 25", 2},
+         {"village.vlx --year 0 --sections general", "the year 0 is outside 1 to 25", 2},
+         {"village.vlx --sections general,graphs", "--sections"},
+         {"missing.vlx", "missing.vlx\": No such file"},
+         {"village.vlx ./village.vlx", "Two of the files are named \"village\""}});
+    ExpectRefused("report village.vlx", {{"--pdf nowhere/new.pdf", "nowhere/new.pdf"},
+                                         {"--pdf /dev/full", "/dev/full\": No space left"},
+                                         {"--pdf high.vlx", "\"high.vlx\" is a project"},
+                                         {"--pdf village.vlx", "\"village.vlx\" is read by"},
+                                         {"high.vlx --pdf file", "file\": "},
+                                         {"high.vlx --pdf -", "several files need --pdf FOLDER"}});
 }
 
 TEST_F(ReportTest, SeveralFilesGoIntoAFolderAndOneToStandardOutput)

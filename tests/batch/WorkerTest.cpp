@@ -3,6 +3,7 @@
 
 #include <csignal>
 #include <gmock/gmock.h>
+#include <poll.h>
 #include <stdexcept>
 #include <sys/ioctl.h>
 #include <sys/resource.h>
@@ -117,6 +118,32 @@ TEST(WorkerTest, AFailureOfTheTakerLeavesNoWorker)
         std::runtime_error);
     EXPECT_EQ(::waitpid(-1, nullptr, 0), -1);
     EXPECT_EQ(errno, ECHILD);
+}
+
+// By its end the pipe loses its last writer, a worker that would go on for a minute.
+TEST(WorkerTest, WorkersDieWithTheProgram)
+{
+    int Ends[2];
+    ASSERT_EQ(::pipe(Ends), 0);
+    const pid_t Program = ::fork();
+    if (Program == 0) {
+        const auto Work = [&](int) {
+            EXPECT_EQ(::write(Ends[1], "x", 1), 1);
+            std::this_thread::sleep_for(std::chrono::minutes(1));
+            return std::string();
+        };
+        RunWorkers(1, {}, Work, [](int, const WorkerOutcome&) {});
+        ::_exit(0);
+    }
+    ::close(Ends[1]);
+    char Byte = 0;
+    EXPECT_EQ(::read(Ends[0], &Byte, 1), 1); // the worker is at work
+    ::kill(Program, SIGKILL);
+    EXPECT_EQ(::waitpid(Program, nullptr, 0), Program);
+    pollfd Pipe = {Ends[0], POLLIN, 0};
+    EXPECT_EQ(::poll(&Pipe, 1, 20'000), 1);
+    EXPECT_EQ(::read(Ends[0], &Byte, 1), 0);
+    ::close(Ends[0]);
 }
 
 } // namespace

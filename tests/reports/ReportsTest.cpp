@@ -96,18 +96,21 @@ protected:
         return {LineOf("Printed: ") + 1, LineOf("The software program")};
     }
 
-    struct Told {
-        Report Printed;
-        std::size_t Page;
-        std::string Lines; // that follow each other, with a bar before and behind each
-    };
-    void Expect(const std::vector<Told>& All)
+    // Lines that follow each other, with a bar before and behind each and the page's number before its first;
+    // what is told lies in this order on the pages of the report.
+    void Expect(Report Printed, const std::vector<std::string>& Told)
     {
-        for (const Told& Each : All) {
-            Print(Each.Printed);
-            std::string Whole = "|";
-            for (const PageLine& Line : Body(Each.Page)) Whole += Shown(Line) + "|";
-            EXPECT_THAT(Whole, testing::HasSubstr(Each.Lines));
+        Print(Printed);
+        std::string Whole;
+        for (std::size_t Page = 0; Page < Windows.Pages.size(); ++Page) {
+            Whole += "(" + std::to_string(Page + 1) + ")|";
+            for (const PageLine& Line : Body(Page)) Whole += Shown(Line) + "|";
+        }
+        std::size_t Place = 0;
+        for (const std::string& Each : Told) {
+            Place = Whole.find(Each, Place);
+            ASSERT_NE(Place, std::string::npos) << Each << " is not next in\n" << Whole;
+            Place += Each.size() - 1; // the last bar may be the next one's first
         }
     }
 
@@ -158,55 +161,49 @@ TEST_F(ReportsTest, PumpingProjectStandsAtItsColumns)
     IncomeSeries[1] = MaintTotal[1] = OperationalCost[1] = EnergyCost[1] = 1000.4;
     frmLCC.txtMechanical.Text = "1234567";
     frmLCC.txtElectrical.Text = "not yet";
+    Expect(PrintGeneralData,
+           {"(1)|*[7]GENERAL PROJECT DATA: PUMPING SYSTEM|[7]Design life:[30]31|[7]Starting year:[30]2001|"
+            "[7]Supply start year:[30]2003|[7]Preferred option:[30]Fixed demand|[7]Demand: 90 l/s|"
+            "*[7]Reservoir levels|[9]Pumpstation reservoir water level:[45]100 m|"
+            "[9]End reservoir water level:[45]145 ft|*[7]Pumping system|"
+            "[7]Preferred option:[30]Specified pump curve|[9]Head[30]Flow rate[51]Efficiency|"
+            "[9]m[30]m³/s[51]%|[9]95[30]0[51]0|[9]92[30]0.05[51]55|",
+            "|[7]Pump type: Split case|[7]Configuration:|[7]Two in parallel,|[7]one standing by|"});
+    Expect(PrintEnergyData,
+           {"(1)|*[7]ENERGY DATA: PUMPING SYSTEM|*[6]Energy details:|"
+            "*[7]Tariff[24]Summer months[46]Winter months|[7]Peak rate:[30]R0.90/kW[55]R0.90/kW|",
+            "[104]23[108]24|[7]Summer[16]O[20]O[24]O[28]O[32]O[36]O[40]O[44]P[48]P[52]P[56]S",
+            "[104]O|[7]Winter[16]O",
+            "|[7]Pumping hours per day - 20|[7]Number of summer months - 6 months|"});
+    Expect(
+        PrintRatesData,
+        {"(1)|*[7]RATES AND SALES DATA: PUMPING SYSTEM|*[7]Capital cost|[8]Mechanical works - [35]R1,234,567|"
+         "[8]Electrical works - [35]Rnot yet|*[7]Maintenance cost|[8]Pipeline -[35]0.25%|",
+         "|[7]Staff[25]Annual package (R)[50]Percentage of time (%)|[8]Manager[32]300000[55]20|",
+         "|[7]Description of expenses[35]Annual ammount (R)|[8]Transport[40]0|",
+         "|*[7]Rates[52]Income|[8]Escalation rate - [35]6 %[56]Current water sales unit tariff - "
+         "[90]R2.00/m³|[8]Discount rate - [35]8 %[56]Water tariff annual increase - [90]5 %|"
+         "[8]Energy escalation rate - [35]7 %|"});
+    Expect(PrintHydraulicAnalysis, {"|*[9]Flow rate: 0.108 m³/s[60]Pumping head: 76.500 m[110]Year: 2003|",
+                                    "|[5]1[11] 0 [24] 98 [36]176.500[49]78.500[61]Node "});
     const std::string Demand =
         "|*[30]SYSTEM ANALYSIS (DEMAND & YIELD)|*[5]Year[15]Yield[30]Demand[45]Demand[60]Total";
+    Expect(PrintDemandAndYield,
+           {"(1)" + Demand +
+                "[75]Pumping|*[30]supplied[45]shortage[60]demand[75]hours|"
+                "*[5]2003[15]90.000[30]88.750[45]1.250[60]90.000[75]19.50|",
+            "(2)" + Demand + "|*[30]supplied[45]shortage[60]demand|*[5]2030[", "|*[15]All units are: l/s|"});
     const std::string Income =
         "|*[27]SYSTEM ANALYSIS (INCOME & EXPENDITURE)|"
         "*[5]Year[12]Income[28]Total[44]Capital[60]Maintenance[76]Operational[92]Energy|"
         "*[28]expenditure[44]cost[60]cost[76]cost[92]cost|*[5]";
-    Expect({
-        {PrintGeneralData, 0,
-         "|*[7]GENERAL PROJECT DATA: PUMPING SYSTEM|[7]Design life:[30]31|[7]Starting year:[30]2001|"
-         "[7]Supply start year:[30]2003|[7]Preferred option:[30]Fixed demand|[7]Demand: 90 l/s|"
-         "*[7]Reservoir levels|[9]Pumpstation reservoir water level:[45]100 m|"
-         "[9]End reservoir water level:[45]145 ft|*[7]Pumping system|"
-         "[7]Preferred option:[30]Specified pump curve|[9]Head[30]Flow rate[51]Efficiency|"
-         "[9]m[30]m³/s[51]%|[9]95[30]0[51]0|[9]92[30]0.05[51]55|"},
-        {PrintGeneralData, 0,
-         "|[7]Pump type: Split case|[7]Configuration:|[7]Two in parallel,|[7]one standing by|"},
-        {PrintEnergyData, 0,
-         "|*[7]ENERGY DATA: PUMPING SYSTEM|*[6]Energy details:|*[7]Tariff[24]Summer months[46]Winter months|"
-         "[7]Peak rate:[30]R0.90/kW[55]R0.90/kW|"},
-        {PrintEnergyData, 0,
-         "[104]23[108]24|[7]Summer[16]O[20]O[24]O[28]O[32]O[36]O[40]O[44]P[48]P[52]P[56]S"},
-        {PrintEnergyData, 0, "[104]O|[7]Winter[16]O"},
-        {PrintEnergyData, 0, "|[7]Pumping hours per day - 20|[7]Number of summer months - 6 months|"},
-        {PrintRatesData, 0,
-         "|*[7]RATES AND SALES DATA: PUMPING SYSTEM|*[7]Capital cost|[8]Mechanical works - [35]R1,234,567|"
-         "[8]Electrical works - [35]Rnot yet|*[7]Maintenance cost|[8]Pipeline -[35]0.25%|"},
-        {PrintRatesData, 0,
-         "|[7]Staff[25]Annual package (R)[50]Percentage of time (%)|[8]Manager[32]300000[55]20|"},
-        {PrintRatesData, 0, "|[7]Description of expenses[35]Annual ammount (R)|[8]Transport[40]0|"},
-        {PrintRatesData, 0,
-         "|*[7]Rates[52]Income|[8]Escalation rate - [35]6 %[56]Current water sales unit tariff - "
-         "[90]R2.00/m³|"
-         "[8]Discount rate - [35]8 %[56]Water tariff annual increase - [90]5 %|"
-         "[8]Energy escalation rate - [35]7 %|"},
-        {PrintHydraulicAnalysis, 0, "|*[9]Flow rate: 0.108 m³/s[60]Pumping head: 76.500 m[110]Year: 2003|"},
-        {PrintHydraulicAnalysis, 0, "|[5]1[11] 0 [24] 98 [36]176.500[49]78.500[61]Node "},
-        {PrintDemandAndYield, 0,
-         Demand + "[75]Pumping|*[30]supplied[45]shortage[60]demand[75]hours|"
-                  "*[5]2003[15]90.000[30]88.750[45]1.250[60]90.000[75]19.50|"},
-        {PrintDemandAndYield, 0, "|*[15]All units are: l/s|"},
-        {PrintDemandAndYield, 1, Demand + "|*[30]supplied[45]shortage[60]demand|*[5]2030["},
-        {PrintIncomeAndExpenditure, 0, Income + "2002[12]0[28]"},
-        {PrintIncomeAndExpenditure, 0,
-         "|*[5]2003[12]0[28]5,000,000[44]5,000,000[60]0[76]0[92]0|"
-         "*[5]2004[12]1,000[28]2,000[44]0[60]1,000[76]1,000[92]1,000|"},
-        {PrintIncomeAndExpenditure, 0, "|*[15]All units are: R|"},
-        {PrintIncomeAndExpenditure, 1, Income + "2034[12]"},
-        {PrintCostAnalysis, 0,
-         "|*[40]COST ANALYSIS|*[6]Description|[7]Pipeline cost[50]R700,000|[7]Mechanical cost[50]R100,000|"
+    Expect(PrintIncomeAndExpenditure, {"(1)" + Income + "2002[12]0[28]",
+                                       "|*[5]2003[12]0[28]5,000,000[44]5,000,000[60]0[76]0[92]0|"
+                                       "*[5]2004[12]1,000[28]2,000[44]0[60]1,000[76]1,000[92]1,000|",
+                                       "|*[15]All units are: R|", "(2)" + Income + "2034[12]"});
+    Expect(
+        PrintCostAnalysis,
+        {"(1)|*[40]COST ANALYSIS|*[6]Description|[7]Pipeline cost[50]R700,000|[7]Mechanical cost[50]R100,000|"
          "[7]Electrical cost[50]R200,000|[7]Sub total[50]R1,000,000|"
          "[7]Preliminary & General (10%)[50]R100,000|[7]Sub total[50]R1,100,000|"
          "[7]Contingencies (20%)[50]R220,000|[7]Escalation[50]R5,000|[7]Sub total[50]R1,325,000|"
@@ -214,19 +211,18 @@ TEST_F(ReportsTest, PumpingProjectStandsAtItsColumns)
          "[7]Total construction cost[50]R1,500,000|[7]VAT 14%[50]R210,000|"
          "*[6]Total capital cost[47]R1,710,000|[7]Design life:[30]31 years|*[6]Net Present Value|"
          "[7]Expenditure:[30]R045|[7]Income:[30]R1,234,567|*[6]Internal Rate of Return|"
-         "[7]IRR:[30]12.346 %|*[6]Annual cost|[7]Operational cost[45]R1,000  (Escalation rate is 6.00%)|"},
-        {PrintCostAnalysis, 0, "|[7]Energy cost[45]R1,000  (Escalation rate is 7.00%)|"},
-        {PrintDuty, 0,
-         "|*[7]RESULTS: PUMP & SYSTEM CURVE|*[8]Year 2003|*[8]LEGEND:|*[23]- Pump curve[60]- System curve|"},
-        {PrintDuty, 1,
-         "|*[7]RESULTS: DUTY POINTS|*[7]Year[15]Flow rate[30]Pumping head[45]Pump efficiency|"
-         "*[15]m³/s[30]m[45]%|[7]2003[15]"},
-    });
+         "[7]IRR:[30]12.346 %|*[6]Annual cost|[7]Operational cost[45]R1,000  (Escalation rate is 6.00%)|",
+         "|[7]Energy cost[45]R1,000  (Escalation rate is 7.00%)|"});
+    Expect(PrintDuty,
+           {"(1)|*[7]RESULTS: PUMP & SYSTEM CURVE|*[8]Year 2003|*[8]LEGEND:|"
+            "*[23]- Pump curve[60]- System curve|",
+            "(2)|*[7]RESULTS: DUTY POINTS|*[7]Year[15]Flow rate[30]Pumping head[45]Pump efficiency|"
+            "*[15]m³/s[30]m[45]%|[7]2003[15]"});
     frmLCC.optFlowrate.Value = true;
     frmLCC.txtPumpOperatingFlowrate.Text = " 136 ";
-    Expect({{PrintGeneralData, 0,
-             "|[7]Preferred option:[30]Specified operating Flow rate|[9]Operating flow rate:[30]136 m³/h|"
-             "[9]Pump efficiency:[30]70 %|"}});
+    Expect(PrintGeneralData,
+           {"|[7]Preferred option:[30]Specified operating Flow rate|[9]Operating flow rate:[30]136 m³/h|"
+            "[9]Pump efficiency:[30]70 %|"});
     Print(PrintEnergyData);
     for (const PageLine& Line : Body(0))
         for (const TextItem& Each : Line) EXPECT_TRUE(Line[0].Text != "Summer" || Each.Face.Size == 12);
@@ -252,36 +248,34 @@ TEST_F(ReportsTest, GravityProjectStandsAtItsColumns)
     PrintYear = 2;
     Flow[2] = 0.0123456;
     Gradeline(0, 2) = 155.25;
-    const std::string Hydraulic =
-        "|*[40]HYDRAULIC ANALYSIS|*[9]Flow rate: 12.346 l/s[110]Year: 2004|"
-        "*[5]Node[11]Accumulated[24]Elevation[36]Hydraulic[49]Pressure[61]Description|"
-        "*[5]nr[11]length[36]gradeline[49]head|*[11](km)[24](m)[36](m)[49](m)|";
+    Expect(PrintGeneralData,
+           {"|[7]Preferred option:[30]Varying demand|*[7]Year[25]Demand (l/s)|[9]1[30]0|[9]2[30]12.5|"
+            "*[7]Reservoir levels|[9]Top reservoir water level:[40]160 m|"
+            "[9]Bottom reservoir water level:[40]100 m|"});
     const std::string Profile =
         "|*[7]PIPELINE PROFILE DATA: GRAVITY SYSTEM|"
         "*[5]Node[11]Elevation[22]Accumulated[35]Pipe[45]Wall[56]Pipe[65]Secondary[75]Description|"
         "*[5]nr[22]length[35]diameter[45]thickness[56]cost/[65]losses|"
         "*[11](m)[22](km)[35](mm)[46](mm)[56]metre|";
-    Expect({
-        {PrintGeneralData, 0,
-         "|[7]Preferred option:[30]Varying demand|*[7]Year[25]Demand (l/s)|[9]1[30]0|[9]2[30]12.5|"
-         "*[7]Reservoir levels|[9]Top reservoir water level:[40]160 m|"
-         "[9]Bottom reservoir water level:[40]100 m|"},
-        {PrintProfileData, 0,
-         Profile + "[5]1[11]-0.5[22]0[35]400[45]6[56]900[65]0.25[75]Reservoir           |[5]2[11]"},
-        {PrintProfileData, 1, Profile + "[5]28[11]95[22]6000[35]400[45]6[56]900[65]0.25[75]Node "},
-        {PrintProfileData, 2,
-         "|*[7]Pipline characteristics|[8]Lining system - Cement mortar:[40]12.5 mm|"
-         "[8]Roughness of new pipe (Ks):[40]0.1 mm|[8]Roughness of old pipe (Ks):[40]0.6 mm|"
-         "[8]Roughness deterioration years:[40]15 years|*[7]Pipe laying conditions|"
-         "[8]Laying (incl joining)[40]$60/ft|[8]Excavation[40]$90/ft³|[8]Rock excavation[40]$250/ft³|"},
-        {PrintProfileData, 2,
-         "|[8]Backfilling[40]$30/ft³|*[7]Anticipated laying conditions|"
-         "[8]Description[35]Percentage expected|[8]Rock[40]15%|[8]Bedding import[40]50%|"
-         "[8]Blanket import[40]50%|[8]Required cover[40]1 ft|[8]Excavation lower than pipe[40]0.1 ft|"},
-        {PrintHydraulicAnalysis, 0,
-         Hydraulic + "[5]1[11] 0 [24]-0.5 [36]155.250[49]155.750[61]Reservoir           |[5]2[11] "},
-        {PrintHydraulicAnalysis, 1, Hydraulic + "[5]28[11] 6000 [24] 95 [36]"},
-    });
+    Expect(PrintProfileData,
+           {"(1)" + Profile + "[5]1[11]-0.5[22]0[35]400[45]6[56]900[65]0.25[75]Reservoir           |[5]2[11]",
+            "(2)" + Profile + "[5]28[11]95[22]6000[35]400[45]6[56]900[65]0.25[75]Node ",
+            "(3)|*[7]PIPELINE PROFILE DATA: GRAVITY SYSTEM|*[7]Pipline characteristics|[8]Lining system - "
+            "Cement mortar:[40]12.5 mm|"
+            "[8]Roughness of new pipe (Ks):[40]0.1 mm|[8]Roughness of old pipe (Ks):[40]0.6 mm|"
+            "[8]Roughness deterioration years:[40]15 years|*[7]Pipe laying conditions|"
+            "[8]Laying (incl joining)[40]$60/ft|[8]Excavation[40]$90/ft³|[8]Rock excavation[40]$250/ft³|",
+            "|[8]Backfilling[40]$30/ft³|*[7]Anticipated laying conditions|"
+            "[8]Description[35]Percentage expected|[8]Rock[40]15%|[8]Bedding import[40]50%|"
+            "[8]Blanket import[40]50%|[8]Required cover[40]1 ft|[8]Excavation lower than pipe[40]0.1 ft|"});
+    const std::string Hydraulic =
+        "|*[40]HYDRAULIC ANALYSIS|*[9]Flow rate: 12.346 l/s[110]Year: 2004|"
+        "*[5]Node[11]Accumulated[24]Elevation[36]Hydraulic[49]Pressure[61]Description|"
+        "*[5]nr[11]length[36]gradeline[49]head|*[11](km)[24](m)[36](m)[49](m)|";
+    Expect(
+        PrintHydraulicAnalysis,
+        {"(1)" + Hydraulic + "[5]1[11] 0 [24]-0.5 [36]155.250[49]155.750[61]Reservoir           |[5]2[11] ",
+         "(2)" + Hydraulic + "[5]28[11] 6000 [24] 95 [36]"});
     EXPECT_EQ(Body(0).at(1)[0].Ink, PureRed);
     EXPECT_EQ(Body(1).at(1)[0].Ink, Black);
 }
@@ -380,13 +374,13 @@ TEST_F(ReportsTest, FiguresThatCannotBeToldStayEmptyAndThoseThatAreNotThereEndAR
     Record.ElevationUnits = 2;
     Record.Life = 99;
     Analyse(Record);
-    Expect({{PrintHydraulicAnalysis, 0, "|[5]1[11] 0 [24] 150 [61]"}});
+    Expect(PrintHydraulicAnalysis, {"|[5]1[11] 0 [24] 150 [61]"});
     Windows.Pages.clear();
     EXPECT_THROW(PrintIncomeAndExpenditure(), SubscriptFailure);
     PrintYear = 101;
     EXPECT_THROW(PrintHydraulicAnalysis(), SubscriptFailure);
     EXPECT_TRUE(Windows.Pages.empty());
-    Expect({{PrintRatesData, 0, "|*[7]RATES AND SALES DATA: GRAVITY SYSTEM|"}});
+    Expect(PrintRatesData, {"|*[7]RATES AND SALES DATA: GRAVITY SYSTEM|"});
 }
 
 } // namespace

@@ -9,16 +9,10 @@
 namespace velorix {
 namespace {
 
-struct RangeCase {
-    double Least, Most;
-    double Step, Origin;
-    int Intervals;
-};
-
 // Steps are the least of 1, 2, 5 x 10^n not below a tenth of the range; origins and counts by hand.
 TEST(AxisTicksTest, RangesHaveTheirStepsOriginsAndCounts)
 {
-    const RangeCase Cases[] = {
+    const std::tuple<double, double, double, double, int> Cases[] = {
         {0, 100, 10, 0, 10},          {37, 91, 10, 30, 7},  // 61 / 10 rounds to 6, and 60 is below 91
         {-20, 60, 10, -30, 9},                              // a multiple goes one step further down
         {-10, 80, 10, -10, 9},        {-3, 60, 10, -10, 7}, // the step itself, and less than a step
@@ -26,11 +20,11 @@ TEST(AxisTicksTest, RangesHaveTheirStepsOriginsAndCounts)
         {0, 0, 0.001, 0, 0},                                // no range takes the first rung
         {-100, 0, 10, 0, 0},                                // ten steps don't get below it
         {1460, 1559.8, 10, 1460, 11}, {0, 1e7, 1e6, 0, 10}};
-    for (const RangeCase& Each : Cases) {
-        const AxisTicks Found = FindTicks(Each.Least, Each.Most, Ladder::ToMillion);
-        EXPECT_EQ(Found.Step, Single(Each.Step)) << Each.Least << " to " << Each.Most;
-        EXPECT_EQ(Found.Origin, Single(Each.Origin)) << Each.Least << " to " << Each.Most;
-        EXPECT_EQ(Found.Intervals, Each.Intervals) << Each.Least << " to " << Each.Most;
+    for (const auto& [Least, Most, Step, Origin, Intervals] : Cases) {
+        const AxisTicks Found = FindTicks(Least, Most, Ladder::ToMillion);
+        EXPECT_EQ(std::tuple(Found.Step, Found.Origin, Found.Intervals),
+                  std::tuple(Single(Step), Single(Origin), Intervals))
+            << Least << " to " << Most;
     }
 }
 
@@ -65,8 +59,8 @@ TEST(AxisTicksTest, LabelsShowWhatTheStepAndTheRangeAskFor)
         {-12.5, 10, "-12.5", "-12.5"},
         {1234.5678, 99999, "1234.5", "1234.568"}}; // seven significant digits, cut to six behind the blank
     for (const auto& [Value, End, Shown, Whole] : Labels) {
-        EXPECT_EQ(FindXLabel(Value, End).Shown, Shown) << Value;
-        EXPECT_EQ(FindXLabel(Value, End).Whole, Whole) << Value;
+        const XLabel Label = FindXLabel(Value, End);
+        EXPECT_EQ(Label.Shown + " of " + Label.Whole, Shown + std::string(" of ") + Whole);
     }
 }
 
@@ -87,11 +81,8 @@ protected:
 // By hand: x 1020 to 9620 over 100, y 4310 up to 350 over 70.
 TEST_F(ChartFrameTest, ValuesStandBetweenTheAxes)
 {
-    EXPECT_EQ(Frame.X(0), 1020);
-    EXPECT_EQ(Frame.X(100), 9620);
-    EXPECT_EQ(Frame.X(12.5), 2095);
-    EXPECT_EQ(Frame.Y(30), 4310);
-    EXPECT_EQ(Frame.Y(100), 350);
+    EXPECT_EQ(std::vector({Frame.X(0), Frame.X(12.5), Frame.X(100), Frame.Y(30), Frame.Y(100)}),
+              std::vector({1020, 2095, 9620, 4310, 350}));
     EXPECT_EQ(Frame.XTick(X, 1), Frame.X(0));
     EXPECT_EQ(Frame.XTick(X, X.Intervals + 1), Frame.XRight + FrameInset);
     EXPECT_EQ(Frame.YTick(Y, Y.Intervals + 1), Frame.YTop - FrameInset);

