@@ -3,6 +3,7 @@
 
 #include "analysis/AnalyseProject.h"
 #include "analysis/Program.h"
+#include "input/OpenedRecord.h"
 #include "input/Session.h"
 #include "model/SampleRecords.h"
 #include "model/WorkingSet.h"
@@ -22,14 +23,6 @@ protected:
         InstallPlatform(&Windows);
         ResetProgram();
         StartSession();
-    }
-
-    // The record as an opened file's would be loaded.
-    static void Open(const ProjectFields& Record)
-    {
-        ProjectRecord = Record;
-        NewProject = 1;
-        LoadProject();
     }
 
     void Analyse(const ProjectFields& Record)

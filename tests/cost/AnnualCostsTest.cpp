@@ -10,29 +10,6 @@ class AnnualCostsTest : public CostTest {
 protected:
     AnnualCostsTest() { wLife = 3; }
 
-    // A pump that runs 10 hours off-peak, 6 standard and 2 peak at different rates in the two seasons. One kW
-    // costs 10 x 0.25 + 6 x 0.5 + 2 x 1 = 7.5 a summer day and twice that a winter day.
-    static void DescribePump()
-    {
-        wSystemType = 1;
-        wSOffpeak = 0.25;
-        wSStandard = wWOffpeak = 0.5;
-        wSPeak = wWStandard = 1;
-        wWPeak = 2;
-        wSummer = 6;
-        wTRWL = 20;
-        ElevationFactor = 1;
-        wPumpDetails = 1;
-        wPumpEfficiency = 40;
-        for (ByYear* Hours : {&HoursOffpeakS, &HoursOffpeakW}) Hours->Fill(10);
-        for (ByYear* Hours : {&HoursStandardS, &HoursStandardW}) Hours->Fill(6);
-        for (ByYear* Hours : {&HoursPeakS, &HoursPeakW}) Hours->Fill(2);
-        Gradeline.Fill(100);
-        Flow.Fill(0.5);
-        DemandFlow.Fill(0.25);
-        Efficiency.Fill(80);
-    }
-
     // At 2 a unit of half a cubic metre in year 1, and 10 percent more each year; 1 m3/s is 31536000 m3 a
     // year.
     static void ExpectSold(double First, double Second, double Third)
@@ -66,39 +43,28 @@ TEST_F(AnnualCostsTest, TheSmallerOfSupplyAndDemandIsSold)
     ExpectSold(0.0625, 3, 0);
 }
 
-// Works of 1000000 (laid), 200000 and 400000 at 2.5, 4 and 0.5 percent; staff of 40 percent of 300000 and 10
-// percent of 50000, expenses of 15 x 1000. Escalation of 10 percent.
-TEST_F(AnnualCostsTest, MaintenanceAndOperationByHand)
-{
-    LayingCost = 400000;
-    PipeSupplyCost = 600000;
-    wMechanical = 200000;
-    wElectrical = 400000;
-    wMPipeline = 250;
-    wMMechanical = 400;
-    wMElectrical = 50;
-    wEscalation = 10;
-    wStaffPackage[1] = 300000;
-    wStaffTime[1] = 40;
-    wStaffPackage[8] = 50000;
-    wStaffTime[8] = 10;
-    for (int Row = 1; Row <= 5; ++Row) wExpenses[Row] = 1000.0 * Row;
-    ComputeAnnualCosts();
-
-    EXPECT_EQ(MaintPipeline[1], 25000);
-    EXPECT_EQ(MaintMechanical[1], 8000);
-    EXPECT_EQ(MaintElectrical[1], 2000);
-    EXPECT_NEAR(MaintTotal[3], 35000 * 1.21, 0.01);
-    EXPECT_EQ(MaintTotal[4], 0);
-    EXPECT_EQ(OperationalCost[1], 140000);
-    EXPECT_NEAR(OperationalCost[3], 140000 * 1.21, 0.02);
-}
-
-// 80 m x 0.5 m3/s x 9.81 = 392.4 kW of water, by 0.8 x 0.95 = 516.316 kW drawn; a kW costs
+// 80 m x 0.5 m3/s x 9.81 = 392.4 kW of water, by 0.8 x 0.95 = 516.316 kW drawn, 10 hours off-peak, 6 standard
+// and 2 peak. A kW costs 10 x 0.25 + 6 x 0.5 + 2 x 1 = 7.5 a summer day and twice that a winter day, which is
 // 365 x (7.5 + 15) / 2 = 4106.25 a year: 2120121.7.
 TEST_F(AnnualCostsTest, EnergyByHand)
 {
-    DescribePump();
+    wSystemType = 1;
+    wSOffpeak = 0.25;
+    wSStandard = wWOffpeak = 0.5;
+    wSPeak = wWStandard = 1;
+    wWPeak = 2;
+    wSummer = 6;
+    wTRWL = 20;
+    ElevationFactor = 1;
+    wPumpDetails = 1;
+    wPumpEfficiency = 40;
+    for (ByYear* Hours : {&HoursOffpeakS, &HoursOffpeakW}) Hours->Fill(10);
+    for (ByYear* Hours : {&HoursStandardS, &HoursStandardW}) Hours->Fill(6);
+    for (ByYear* Hours : {&HoursPeakS, &HoursPeakW}) Hours->Fill(2);
+    Gradeline.Fill(100);
+    Flow.Fill(0.5);
+    DemandFlow.Fill(0.25);
+    Efficiency.Fill(80);
     wEnergyEscalation = 20;
     wEscalation = 50;
     ComputeAnnualCosts();

@@ -44,6 +44,14 @@ Table TableOf(const std::string& Headings)
     return Found;
 }
 
+// The same without its headings.
+Table LinesOf(const std::string& Headings)
+{
+    Table Found = TableOf(Headings);
+    if (!Found.empty()) Found.erase(Found.begin());
+    return Found;
+}
+
 double NumberIn(std::string Cell)
 {
     std::erase(Cell, ',');
@@ -62,6 +70,13 @@ void ExpectShown(const std::string& Cell, Single Figure, const std::string& What
     EXPECT_EQ(Number, Format(Figure, ("###,###,###,##0" + Decimals).c_str())) << What;
 }
 
+// The cells of a row from First on.
+void ExpectRow(const Row& Cells, std::size_t First, const std::vector<Single>& Figures)
+{
+    ASSERT_EQ(Cells.size(), First + Figures.size()) << Cells[0];
+    for (std::size_t i = 0; i < Figures.size(); ++i) ExpectShown(Cells[First + i], Figures[i], Cells[0]);
+}
+
 class GuideFiguresTest : public testing::Test {
 protected:
     void Analyse(const std::function<void(ProjectFields&)>& Change = {})
@@ -74,35 +89,31 @@ protected:
 
     // Rows that begin with a year.
     static void ExpectYears(const std::string& Headings,
-                            const std::vector<std::function<double(int)>>& Figures)
+                            const std::function<std::vector<Single>(int)>& FiguresOf)
     {
-        Table Found = TableOf(Headings);
-        Found.erase(Found.begin());
-        for (const Row& Each : Found) {
-            ASSERT_EQ(Each.size(), Figures.size() + 1);
-            const int Year = std::stoi(Each[0]) - wSupplyStart + 1;
-            for (std::size_t Column = 0; Column < Figures.size(); ++Column)
-                ExpectShown(Each[Column + 1], Figures[Column](Year), Headings + " " + Each[0]);
-        }
+        SCOPED_TRACE(Headings);
+        for (const Row& Each : LinesOf(Headings))
+            ExpectRow(Each, 1, FiguresOf(std::stoi(Each[0]) - wSupplyStart + 1));
     }
 };
-
-auto Of(const ByYear& Figures)
-{
-    return [&Figures](int Year) { return double(Figures[Year]); };
-}
 
 TEST_F(GuideFiguresTest, YearsAndHeadlines)
 {
     Analyse();
-    ExpectYears("Year | Flow rate", {Of(PumpFlow), Of(PumpHead), Of(PumpEfficiencyByYear)});
-    ExpectYears("Year | Yield",
-                {[](int y) { return Flow[y] * wPumpingHours / 24 / DemandFactor; },
-                 [](int y) { return wDemand[y] - Shortage[y]; }, Of(Shortage), Of(PumpingHours)});
-    ExpectYears("Year | Pumping hours",
-                {Of(PumpingHours), Of(HoursOffpeakS), Of(HoursStandardS), Of(HoursPeakS), Of(EnergyCost)});
-    ExpectYears("Year | Income", {Of(IncomeSeries), [](int y) { return CostSeries[y + ConstructionYears()]; },
-                                  Of(MaintTotal), Of(OperationalCost), Of(EnergyCost)});
+    ExpectYears("Year | Flow rate", [](int y) -> std::vector<Single> {
+        return {PumpFlow[y], PumpHead[y], PumpEfficiencyByYear[y]};
+    });
+    ExpectYears("Year | Yield", [](int y) -> std::vector<Single> {
+        return {Flow[y] * wPumpingHours / 24 / DemandFactor, wDemand[y] - Shortage[y], Shortage[y],
+                PumpingHours[y]};
+    });
+    ExpectYears("Year | Pumping hours", [](int y) -> std::vector<Single> {
+        return {PumpingHours[y], HoursOffpeakS[y], HoursStandardS[y], HoursPeakS[y], EnergyCost[y]};
+    });
+    ExpectYears("Year | Income", [](int y) -> std::vector<Single> {
+        return {IncomeSeries[y], CostSeries[y + ConstructionYears()], MaintTotal[y], OperationalCost[y],
+                EnergyCost[y]};
+    });
 
     const ByYear* const Annual[] = {&OperationalCost, &MaintPipeline, &MaintMechanical, &MaintElectrical,
                                     &EnergyCost};
@@ -113,9 +124,9 @@ TEST_F(GuideFiguresTest, YearsAndHeadlines)
                         Costs[Line][0]);
 
     const Single Figures[] = {Single(wLife), NpvCost, NpvIncome, Irr};
-    const Table Headlines = TableOf("Figure | Value");
-    for (std::size_t Line = 1; Line < Headlines.size(); ++Line)
-        ExpectShown(Headlines[Line][1], Figures[Line - 1], Headlines[Line][0]);
+    const Table Headlines = LinesOf("Figure | Value");
+    for (std::size_t Line = 0; Line < Headlines.size(); ++Line)
+        ExpectRow(Headlines[Line], 1, {Figures[Line]});
 }
 
 // Sums are stored in seven digits, so the guide's lines agree with plain sums to a few units.
@@ -127,40 +138,27 @@ TEST_F(GuideFiguresTest, CapitalCost)
     const double Allowed = (1 + wPG / 100) * Works;
     const double Raised = (1 + wContingencies / 100) * Allowed + EscalationAmount;
     const double All = Raised + ConsultingFees + SupervisionCost;
-    const double Lines[] = {Pipeline,
-                            wMechanical,
-                            wElectrical,
-                            Works,
-                            wPG / 100 * Works,
-                            Allowed,
-                            wContingencies / 100 * Allowed,
-                            EscalationAmount,
-                            Raised,
-                            ConsultingFees,
-                            SupervisionCost,
-                            All,
-                            0.14 * All,
-                            TotalCapitalCost};
-    const Table Found = TableOf("Description | Amount");
-    ASSERT_EQ(Found.size(), std::size(Lines) + 1);
+    // clang-format off
+    const double Lines[] = {
+        Pipeline, wMechanical, wElectrical, Works, wPG / 100 * Works, Allowed, wContingencies / 100 * Allowed,
+        EscalationAmount, Raised, ConsultingFees, SupervisionCost, All, 0.14 * All, TotalCapitalCost};
+    // clang-format on
+    const Table Found = LinesOf("Description | Amount");
+    ASSERT_EQ(Found.size(), std::size(Lines));
     for (std::size_t Line = 0; Line < std::size(Lines); ++Line)
-        EXPECT_NEAR(NumberIn(Found[Line + 1][1]), Lines[Line], 8) << Found[Line + 1][0];
+        EXPECT_NEAR(NumberIn(Found[Line][1]), Lines[Line], 8) << Found[Line][0];
 }
 
 TEST_F(GuideFiguresTest, Alternatives)
 {
-    Table Pipes = TableOf("Pipe (mm)");
-    Pipes.erase(Pipes.begin());
-    for (const Row& Pipe : Pipes) {
+    for (const Row& Pipe : LinesOf("Pipe (mm)")) {
         Analyse([&](ProjectFields& Record) {
             for (int Node = 1; Record.Diameter[Node] == 508; ++Node) {
                 Record.Diameter[Node] = NumberIn(Pipe[0]);
                 Record.PipeCost[Node] = NumberIn(Pipe[1]);
             }
         });
-        const Single Figures[] = {TotalCapitalCost, NpvCost, NpvIncome, Irr, PumpingHours[wLife]};
-        for (std::size_t Column = 0; Column < std::size(Figures); ++Column)
-            ExpectShown(Pipe[Column + 2], Figures[Column], Pipe[0]);
+        ExpectRow(Pipe, 2, {TotalCapitalCost, NpvCost, NpvIncome, Irr, PumpingHours[wLife]});
     }
 
     // In the order of the guide's lines; the number stands in the line.
@@ -174,17 +172,15 @@ TEST_F(GuideFiguresTest, Alternatives)
     const Change Tariff = [](ProjectFields& Record, double To) { Record.WaterSales = To; };
     const Change None = [](ProjectFields&, double) {};
     const Change Changes[] = {None, Rate, Rate, Energy, Energy, Roughness, Roughness, Demand, Tariff};
-    const Table WhatIf = TableOf("Change");
-    ASSERT_EQ(WhatIf.size(), std::size(Changes) + 1);
-    for (std::size_t Line = 1; Line < WhatIf.size(); ++Line) {
-        const Row& Each = WhatIf[Line];
-        const std::size_t Number = Each[0].find_first_of("0123456789");
+    const Table WhatIf = LinesOf("Change");
+    ASSERT_EQ(WhatIf.size(), std::size(Changes));
+    for (std::size_t Line = 0; Line < WhatIf.size(); ++Line) {
+        const std::string& Told = WhatIf[Line][0];
+        const std::size_t Number = Told.find_first_of("0123456789");
         Analyse([&](ProjectFields& Record) {
-            Changes[Line - 1](Record, Number == std::string::npos ? 0 : std::stod(Each[0].substr(Number)));
+            Changes[Line](Record, Number == std::string::npos ? 0 : std::stod(Told.substr(Number)));
         });
-        const Single Figures[] = {NpvCost, NpvIncome, Irr};
-        for (std::size_t Column = 0; Column < std::size(Figures); ++Column)
-            ExpectShown(Each[Column + 1], Figures[Column], Each[0]);
+        ExpectRow(WhatIf[Line], 1, {NpvCost, NpvIncome, Irr});
     }
 }
 

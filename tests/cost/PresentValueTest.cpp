@@ -47,16 +47,6 @@ TEST_F(PresentValueTest, ByConstructionYears)
     }
 }
 
-// From 2^24 on 32 bits count in steps of 2, so each single 1 is lost and the three together wouldn't be.
-TEST_F(PresentValueTest, EachAdditionRounds)
-{
-    wLife = 1;
-    TotalCapitalCost = 16777216;
-    MaintTotal[1] = OperationalCost[1] = EnergyCost[1] = 1;
-    ComputePresentValues();
-    EXPECT_EQ(NpvCost, 16777216);
-}
-
 // Only a power of zero can be divided by: the first construction year stands.
 TEST_F(PresentValueTest, DiscountRateOfMinusHundredFails)
 {

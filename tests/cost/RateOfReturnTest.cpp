@@ -34,47 +34,6 @@ TEST_F(RateOfReturnTest, CrossingOfOnePaymentAndOneIncome)
     EXPECT_EQ(IrrRate[LastRate + 1], 0);
 }
 
-// 1000 (v - v1) (v - v2) with the roots v1 and v2 for 10.502 and 50.502 percent falls at the one and rises at
-// the other. Rounding of the coefficients moves the roots by less than 0.0001 percent.
-TEST_F(RateOfReturnTest, LastCrossingWins)
-{
-    BuildFor(0);
-    wLife = 3;
-    TotalCapitalCost = 0;
-    const double v1 = 1 / 1.10502;
-    const double v2 = 1 / 1.50502;
-    IncomeSeries[1] = 1000 * v1 * v2;
-    OperationalCost[2] = 1000 * (v1 + v2);
-    IncomeSeries[3] = 1000;
-    ScanRateOfReturn();
-    EXPECT_NEAR(Irr, 50.51 - 0.005 - 0.2 * 0.005, 1e-4);
-}
-
-// Without a crossing the return before stays: never enough income, and at 200 percent still more than enough.
-// At 100 percent 2000 in a year is worth 1000 exactly; the rate after that finds no sign to change from.
-TEST_F(RateOfReturnTest, WithoutACrossing)
-{
-    Irr = 7.5;
-    const double Cases[][2] = {{0, 7.5}, {4000, 7.5}, {2000, 100}}; // income, return
-    for (const auto& [Income, Return] : Cases) {
-        IncomeSeries[1] = Income;
-        ScanRateOfReturn();
-        EXPECT_EQ(Irr, Return);
-    }
-}
-
-TEST_F(RateOfReturnTest, SameBitsAsThePlainScan)
-{
-    for (const int ConstructionYears : {0, 1, 4}) {
-        DescribeScheme(37, ConstructionYears);
-        Irr = 3;
-        const ScanResult Plain = PlainScan(Irr);
-        ASSERT_NE(Plain.Return, 3);
-        ScanRateOfReturn();
-        EXPECT_TRUE(SameAsStored(Plain)) << ConstructionYears;
-    }
-}
-
 // After 700 years of construction the power of year 1 overflows from some rate on, in the middle of the scan.
 TEST_F(RateOfReturnTest, OverflowEndsTheScanAtItsRate)
 {
@@ -156,12 +115,17 @@ std::uint64_t ReturnBy(Routine Work)
     return Irr.Bits() + (Failed ? 1ULL << 32 : 0);
 }
 
-TEST_F(RateOfReturnTest, FoundFromBoundsItIsTheReturnOfTheScan)
+// The scan against the plain one, all of it, and the return that is found from bounds against the scan's.
+TEST_F(RateOfReturnTest, RandomSchemesGiveThePlainReturn)
 {
     int Kept = 0;
     for (unsigned Seed = 0; Seed < 1200; ++Seed) {
         const AnyScheme Scheme(Seed);
         const std::uint64_t Scanned = ReturnBy(ScanRateOfReturn);
+        const bool Failed = Scanned >> 32 != 0;
+        if (Seed < 64 && !Failed) {
+            ASSERT_TRUE(SameAsStored(PlainScan(3.25))) << Seed;
+        }
         ASSERT_EQ(ReturnBy(FindRateOfReturn), Scanned) << Seed;
         Kept += Scanned == Single(3.25).Bits();
     }

@@ -8,47 +8,34 @@ namespace {
 
 using YearlySupplyTest = HydraulicsTest;
 
-// 0.5 m3/s for at most 12 of 24 hours carries 0.25 m3/s. A varying demand is converted again, and a given
-// flow becomes the flow of the year.
+// At most 12 of 24 hours. The hours that the demand would take are worked only where it is met. A varying
+// demand is converted again, and a given flow becomes the flow of the year.
 TEST_F(YearlySupplyTest, PumpRunsAsLongAsTheDemandAsks)
 {
-    const double Cases[][3] = {
-        {0.125, 6, 0}, {0.375, 12, 125}, {0.25, 12, 0}}; // demand, hours, shortage (l/s)
+    const double Cases[][4] = {{0.5, 0.125, 6, 0}, // flow, demand, hours, shortage (l/s)
+                               {0.5, 0.375, 12, 125},
+                               {0.5, 0.25, 12, 0},
+                               {1e-38, 1, 12, 1000}};
     wLife = 1;
     wSystemType = 1;
     wPumpDetails = 1;
     wPumpingHours = 12;
     DemandFactor = 0.001;
-    Flow[1] = 0.5;
-    for (const auto& [Demand, Hours, Short] : Cases) {
+    for (const auto& [Pumped, Demand, Hours, Short] : Cases) {
+        Flow[1] = Pumped;
         DemandFlow[1] = Demand;
         SupplyDemand();
         EXPECT_EQ(PumpingHours[1], Hours) << Demand;
-        EXPECT_NEAR(Shortage[1], Short, 1e-5) << Demand;
+        EXPECT_NEAR(Shortage[1], Short, 1e-4) << Demand;
     }
     wVaryingDemand = 1;
     wDemand[1] = 125;
     wPumpDetails = 0;
-    wPumpOperatingFlowrate = 1000;
+    wPumpOperatingFlowrate = 500;
     OperatingFlowFactor = 0.001;
     SupplyDemand();
-    EXPECT_NEAR(PumpingHours[1], 3, 1e-6);
-    EXPECT_EQ(Flow[1], Single(1000 * Single(0.001)));
-}
-
-// The hours that the demand would take are worked only where it is met.
-TEST_F(YearlySupplyTest, ADemandFarBeyondTheFlowIsAShortage)
-{
-    wLife = 1;
-    wSystemType = 1;
-    wPumpDetails = 1;
-    wPumpingHours = 12;
-    DemandFactor = 1;
-    Flow[1] = 1e-38;
-    DemandFlow[1] = 1;
-    SupplyDemand();
-    EXPECT_EQ(Shortage[1], 1);
-    EXPECT_EQ(PumpingHours[1], 12);
+    EXPECT_NEAR(PumpingHours[1], 6, 1e-6);
+    EXPECT_EQ(Flow[1], Single(500 * Single(0.001)));
 }
 
 TEST_F(YearlySupplyTest, GravityComparesInTheDemandsUnit)

@@ -65,7 +65,7 @@ TEST_F(CommitTest, PumpingSystemIsAskedForItsCurvePointByPointOrItsOperatingPoin
     EXPECT_EQ(LastMessage(), "Enter the pump efficiency at the operating point(must be greater than zero) !");
 }
 
-TEST_F(CommitTest, GravitySystemIsNotAskedForPumpAndEnergy)
+TEST_F(CommitTest, GravitySystemIsNotAskedForPumpAndEnergyAndHasNoEnergyEscalation)
 {
     StartUnwritten(0);
     EmptyAllBoxes(); // the lining is a Copon coat
@@ -76,6 +76,7 @@ TEST_F(CommitTest, GravitySystemIsNotAskedForPumpAndEnergy)
                                      &frmLCC.txtWaterSales, &frmLCC.txtWaterIncrease, &frmLCC.txtElectrical,
                                      &frmLCC.txtMechanical, &frmLCC.txtSupervision}));
     EXPECT_EQ(frmLCC.txtDescription.Text.Get(), " ");
+    EXPECT_EQ(ProjectRecord.EnergyEscalation, 0.0);
 }
 
 TEST_F(CommitTest, FailedCheckLeavesTheRecordAndKeepsTheTablesReadBeforeIt)
@@ -130,22 +131,6 @@ TEST_F(CommitTest, TextThatIsNoNumberIsNamedAndNothingOfTheScreenIsTaken)
     EXPECT_EQ(ProjectRecord.PumpCurve[8], 12.5);
     EXPECT_EQ(ProjectRecord.LiningThickness, 0.0);
     EXPECT_EQ(ProjectRecord.LiningThicknessUnits, 0);
-}
-
-// What is copied for which kind of system: see the table of fields.
-TEST_F(CommitTest, GravitySystemHasNoEnergyEscalationAndReadsNoPumpBox)
-{
-    StartUnwritten(1);
-    const auto Curve = ProjectRecord.PumpCurve;
-    StartUnwritten(0);
-    wPumpEfficiency = 55.0;
-    frmLCC.txtH[0].Text = frmLCC.txtSPeak.Text = frmLCC.txtPumpEfficiency.Text = "?";
-    CommitProject();
-    EXPECT_EQ(Committing, 0);
-    EXPECT_EQ(wEnergyEscalation, 0.0);
-    EXPECT_EQ(ProjectRecord.EnergyEscalation, 0.0);
-    EXPECT_EQ(ProjectRecord.PumpEfficiency, 55.0);
-    EXPECT_EQ(ProjectRecord.PumpCurve, Curve);
 }
 
 TEST_F(CommitTest, TextsAreTrimmedCutAndPadded)

@@ -2,6 +2,7 @@
 #include "input/FileCommands.h"
 #include "ProjectTest.h"
 #include "base/Failure.h"
+#include "base/Text.h"
 #include "screens/Dialogs.h"
 #include "screens/Viewers.h"
 
@@ -61,7 +62,15 @@ protected:
         return Names;
     }
 
-    static std::string Title() { return MDIProject.Caption; }
+    // The title, unless the welcome line is to go over it, the file, whether it is up to date, and the
+    // screens.
+    static std::string State()
+    {
+        const std::string File = std::filesystem::path(frmLCC.lblFileName.Caption.Get()).filename();
+        const std::string Project = ProjectOpen == 0 ? "closed" : Saved == 0 ? "unsaved" : "saved";
+        const std::string Title = MDIProject.tmrWelcome.Enabled ? "?" : MDIProject.Caption.Get();
+        return Trim(Title + ", " + File + ", " + Project + ": " + Shown());
+    }
 };
 
 // --- Save and Save As ---
@@ -74,18 +83,15 @@ TEST_F(FileCommandsTest, SaveAsShowsWhatIsStoredUnderTheNewName)
     EXPECT_EQ(Windows.FileDialogs[0].Folder, Folder / "Projects");
     EXPECT_TRUE(std::filesystem::is_directory(Folder / "Projects"));
     EXPECT_TRUE(Windows.FileDialogs[0].OverwritePrompt);
-    EXPECT_EQ(FileName, File.string());
+    EXPECT_EQ(State(), "Velorix (Hill main), first.vlx, saved: input");
     EXPECT_EQ(frmLCC.lblFileName.Caption.Get(), File.string());
-    EXPECT_EQ(SaveAs, 0);
-    EXPECT_EQ(Title(), "  Velorix (Hill main)");
-    EXPECT_FALSE(MDIProject.tmrWelcome.Enabled); // which would write over the title
 
     const std::string Before = ReadFile(File);
     TypeKsNew("0.3");
     Windows.Files = {Folder / "second.vlx"};
     SaveAsCommand();
-    EXPECT_EQ(FileName, (Folder / "second.vlx").string());
-    EXPECT_EQ(KsNewIn(Folder / "second.vlx"), Single(0.3));
+    EXPECT_EQ(State(), "Velorix (Hill main), second.vlx, saved: input");
+    EXPECT_EQ(KsNewIn(FileName), Single(0.3));
     EXPECT_EQ(ReadFile(File), Before);
 }
 
@@ -103,8 +109,7 @@ TEST_F(FileCommandsTest, CancelledSaveAsKeepsTheNextSaveFromWriting)
     SaveCommand();
     EXPECT_EQ(ReadFile(File), Before);
     EXPECT_EQ(ProjectRecord.KsNew, Single(0.4));
-    EXPECT_EQ(Committing, 0);
-    EXPECT_EQ(Saved, 0);
+    EXPECT_EQ(State(), "Velorix (Hill main), main.vlx, unsaved:");
     EXPECT_THAT(Windows.Messages, testing::IsEmpty());
 
     Windows.Files = {File};
@@ -146,10 +151,8 @@ TEST_F(FileCommandsTest, FailingSaveTellsTheReasonAndKeepsTheProject)
     SaveCommand();
     ExpectTold("Can't write \"" + File.string() + "\": the file holds no project to replace");
     EXPECT_EQ(std::filesystem::file_size(File), 8325U);
-    EXPECT_EQ(ProjectOpen, 1);
-    EXPECT_EQ(Saved, 0);
+    EXPECT_EQ(State(), "Velorix (Hill main), main.vlx, unsaved: input");
     EXPECT_EQ(frmLCC.txtKsNew.Text.Get(), "0.3");
-    EXPECT_EQ(Shown(), "input ");
 }
 
 TEST_F(FileCommandsTest, AVanishedFileSuggestsANewOne)
@@ -174,11 +177,9 @@ TEST_F(FileCommandsTest, FailingSaveAsKeepsTheOldName)
     SaveCommand();
     EXPECT_THAT(LastMessage(), HasSubstr("No such file or directory"));
     EXPECT_EQ(FileName, "");
-    EXPECT_EQ(frmLCC.lblFileName.Caption.Get(), NewProjectCaption); // so the next save asks again
-    EXPECT_EQ(SaveAs, 0);                                           // the next save in place writes
-    EXPECT_EQ(Saved, 0);
+    EXPECT_EQ(State(), "Velorix, " + NewProjectCaption + ", unsaved: input"); // the next save asks
+    EXPECT_EQ(SaveAs, 0);                                                     // the next save in place writes
     EXPECT_EQ(frmLCC.txtProject.Text.Get(), "Hill main");
-    EXPECT_EQ(Shown(), "input ");
 }
 
 // --- Open ---
@@ -191,16 +192,12 @@ TEST_F(FileCommandsTest, OpenLoadsTheChosenFile)
     MDIProject.tmrWelcome.Enabled = true;
     Windows.Files = {File};
     OpenProjectCommand();
-    EXPECT_EQ(frmLCC.txtProject.Text.Get(), "Hill main");
-    EXPECT_EQ(Title(), "  Velorix (Hill main)");
-    EXPECT_FALSE(MDIProject.tmrWelcome.Enabled);
+    EXPECT_EQ(State(), "Velorix (Hill main), main.vlx, saved: input");
     EXPECT_EQ(SaveAs, 0);
 
     OpenProjectCommand(); // cancelled
-    EXPECT_EQ(Shown(), "");
-    EXPECT_EQ(Title(), "  Velorix");
+    EXPECT_EQ(State(), "Velorix, main.vlx, saved:");
     EXPECT_EQ(frmLCC.txtProject.Text.Get(), "Hill main");
-    EXPECT_EQ(ProjectOpen, 1);
 }
 
 TEST_F(FileCommandsTest, UnreadableFileKeepsTheOpenProject)
@@ -217,11 +214,9 @@ TEST_F(FileCommandsTest, UnreadableFileKeepsTheOpenProject)
     EXPECT_FALSE(frmView.IsLoaded());
     EXPECT_THAT(LastMessage(), HasSubstr("Is a directory"));
     EXPECT_EQ(FileName, File.string());
-    EXPECT_EQ(frmLCC.lblFileName.Caption.Get(), File.string());
-    EXPECT_EQ(Title(), "  Velorix (Hill main)");
+    EXPECT_EQ(State(), "Velorix (Hill main), main.vlx, unsaved: input");
     EXPECT_EQ(BytesOf(ProjectRecord), Before);
     EXPECT_EQ(frmLCC.txtKsNew.Text.Get(), "0.3");
-    EXPECT_EQ(Shown(), "input ");
 }
 
 TEST_F(FileCommandsTest, ResultsGoWithEverySaveAndLoad)
@@ -297,10 +292,7 @@ TEST_F(FileCommandsTest, NewProjectOffersToSaveTheOpenOne)
     EXPECT_EQ(KsNewIn(File), Single(0.3));
     EXPECT_EQ(wSystemType, 1);
     EXPECT_EQ(frmLCC.txtKsNew.Text.Get(), "0");
-    EXPECT_EQ(frmLCC.lblFileName.Caption.Get(), NewProjectCaption);
-    EXPECT_EQ(Title(), "  Velorix");
-    EXPECT_FALSE(MDIProject.tmrWelcome.Enabled);
-    EXPECT_EQ(Shown(), "input ");
+    EXPECT_EQ(State(), "Velorix, " + NewProjectCaption + ", saved: input");
 }
 
 // --- Delete ---
@@ -323,10 +315,8 @@ TEST_F(FileCommandsTest, DeleteAsksAndRemovesTheFile)
     Delete();
     ExpectTold("The current project was successfully deleted");
     EXPECT_FALSE(std::filesystem::exists(File));
-    EXPECT_EQ(ProjectOpen, 0);
     EXPECT_EQ(Saved, 0);
-    EXPECT_EQ(Title(), "  Velorix");
-    EXPECT_EQ(Shown(), "");
+    EXPECT_EQ(State(), "Velorix, " + NewProjectCaption + ", closed:");
 }
 
 // No file, a folder, and a file whose name is that of another but for a blank.

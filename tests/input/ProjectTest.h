@@ -23,17 +23,21 @@ protected:
     ProjectTest()
     {
         InstallPlatform(&Windows);
-        ResetProjectRecord();
-        ResetWorkingSet();
-        ResetSession();
-        UnloadScreens();
-
+        StartAfresh();
         std::string Template = (std::filesystem::temp_directory_path() / "velorix-test-XXXXXX").string();
         Folder = ::mkdtemp(Template.data());
         Windows.Folder = Folder;
     }
 
     ~ProjectTest() override { std::filesystem::remove_all(Folder); }
+
+    static void StartAfresh()
+    {
+        ResetProjectRecord();
+        ResetWorkingSet();
+        ResetSession();
+        UnloadScreens();
+    }
 
     std::string WriteFile(const std::string& Name, const std::string& Bytes) const
     {
@@ -67,13 +71,6 @@ protected:
         StartNew(SystemType);
         frmLCC.txtProject.Text = "Hill main";
         frmLCC.txtDesigner.Text = "A. Designer";
-    }
-
-    // Loads the record in memory the way an opened file is loaded.
-    void LoadThroughFile()
-    {
-        FileName = WriteFile("project.vlx", BytesOf(ProjectRecord));
-        LoadProject();
     }
 
     // The last message, by default that of a refused command.

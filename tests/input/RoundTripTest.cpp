@@ -206,10 +206,7 @@ TEST_F(RoundTripTest, EveryControlStoresItsFieldAndShowsItAgain)
         ExpectSame(StoredValues(Typed), Typed);
         ExpectSame(ShownValues(), Typed);
 
-        ResetProjectRecord();
-        ResetWorkingSet();
-        ResetSession();
-        UnloadScreens();
+        StartAfresh();
         StartNew(1 - SystemType);
         OpenProjectFile(File);
         ExpectSame(ShownValues(), Typed);

@@ -34,7 +34,8 @@ TEST_F(SessionTest, WhatAControlCannotHoldIsHeldAtItsRangeAndUnknownUnitsStay)
     ProjectRecord.NodeDesc[1] = 500;
     SetText(ProjectRecord.Project, "  Hill main");
     SetText(ProjectRecord.Date, "soon");
-    LoadThroughFile();
+    FileName = WriteFile("project.vlx", BytesOf(ProjectRecord));
+    LoadProject();
     EXPECT_EQ(MDIProject.Caption.Get(), "  Velorix (Hill main)");
     EXPECT_EQ(wLife, 100);
     EXPECT_EQ(frmLCC.lblLife.Caption.Get(), "100");

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "analysis/Program.h"
+#include "input/OpenedRecord.h"
 #include "input/Session.h"
 #include "model/WorkingSet.h"
 #include "platform/ScriptedPlatform.h"
@@ -31,14 +32,6 @@ protected:
         StartProgram();
         Windows.Messages.clear();
         Windows.ModalScreens.clear();
-    }
-
-    // The record as the project that is edited.
-    static void Open(const ProjectFields& Record)
-    {
-        ProjectRecord = Record;
-        NewProject = 1;
-        LoadProject();
     }
 
     void Analyse(const ProjectFields& Record)
