@@ -308,7 +308,11 @@ TEST_F(SessionTest, EnterPressesAButtonAndEscapeClosesWhatStandsOpen)
     Press(Qt::Key_Escape); // takes the typing back
     EXPECT_TRUE(frmLCC.fraLaying.Visible && frmLCC.txtLaying.Visible);
     Press(Qt::Key_Up);
+    frmLCC.msgLaying.Select(1, 1);
+    Type("987\r");
+    EXPECT_EQ(frmLCC.msgLaying.Text(1, 1), "987");
     Press(Qt::Key_Escape);
+    EXPECT_NE(wLaying[1], 987.0); // as Cancel does
     EXPECT_FALSE(frmLCC.fraLaying.Visible || QApplication::activePopupWidget());
     EXPECT_TRUE(List->hasFocus());
 

@@ -65,7 +65,6 @@ protected:
         Analyse(Record);
         FillCombos();
         frmResults.ssoDemandCapacity.Value = true;
-        frmLCC.lblFileName.Caption = std::string(120, 'x');
         for (ProfileViewer* Each : std::initializer_list<ProfileViewer*>{&frmView, &frmViewRoughness}) {
             Each->LoadHidden();
             FillDistances(Each->comBegin, Each->comEnd);
@@ -123,8 +122,11 @@ TEST_F(GraphPagesTest, EachPictureStandsInItsPlaceUnderItsTitleAndHidesNothing)
                     {PrintRoughnessProfileGraph, frmViewRoughness.picGraph, "PROFILE PLOT:", 50, 55, 215, 98},
                     {PrintIrrGraph, frmIRRView.picIRR, "IRR GRAPH:", 50, 55, 190, 100},
                     {PrintSystemGraph, frmResults.picSystem, "Demand & Capacity", 10, 57, 97 * 17 / 9.0, 97}};
-    for (const auto& [Page, Surface, Title, X, Y, Width, Height] : Expected) {
+    for (int Case = 0; Case < 2 * std::ssize(Expected); ++Case) {
+        const auto& [Page, Surface, Title, X, Y, Width, Height] = Expected[Case / 2];
         SCOPED_TRACE(Surface.ToolTip);
+        FileName = std::string(Case % 2 == 0 ? 120 : 520, 'x'); // on two lines, on as many as there may be
+        frmLCC.lblFileName.Caption = FileName;
         const PlacedDrawing Graph = Print(Page).Drawings[0];
         EXPECT_EQ(Graph.Drawn, Surface.Image());
         EXPECT_GT(Graph.Drawn.Items.size(), 20U);

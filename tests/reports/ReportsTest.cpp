@@ -318,6 +318,7 @@ TEST_F(ReportsTest, TablesBreakBehindToldRows)
 TEST_F(ReportsTest, LongNamesGoOnBelow)
 {
     Open(GravityRecord());
+    wProject = "Mašemola ž œ ÿ é ÷ ß";
     const std::string Seventy(70, 'n');
     const auto HeadOf = [&](const std::string& Name, const std::string& Description) {
         FileName = Name;
@@ -326,6 +327,7 @@ TEST_F(ReportsTest, LongNamesGoOnBelow)
         return Lines(0);
     };
     const auto Short = HeadOf(Seventy, Seventy);
+    EXPECT_EQ(Shown(Short.at(1)), "*[7]MAŠEMOLA Ž Œ Ÿ É ÷ ß");
     EXPECT_EQ(Shown(Short.at(3)), "*[7]Filename :[22]" + Seventy);
     EXPECT_EQ(Shown(Short.at(4)), "*[7]Date : [22]3 March 2005");
     const auto Long = HeadOf(Seventy + "Z", "Überlauf" + Seventy);

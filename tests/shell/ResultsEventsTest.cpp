@@ -135,6 +135,12 @@ TEST_F(ResultsEventsTest, TheHydraulicTableFollowsTheYearOfTheBar)
     EXPECT_EQ(frmResults.msgHydraulic.Text(0, 3), "Hydraulic gradeline (m)");
     EXPECT_EQ(frmResults.msgHydraulic.Text(1, 3), "160.000"); // the level of the upstream reservoir
     EXPECT_EQ(frmResults.msgHydraulic.Text(1, 4), "10.000");
+    PlotYear = 1; // which all profile plots share
+    HideGradeline = 1;
+    MDIProject.mnuResults.Click();
+    frmResults.sscViewHydraulicTable.Click();
+    EXPECT_EQ(frmResults.lblYear1.Caption.Get(), "Year: " + std::to_string(wSupplyStart));
+    EXPECT_TRUE(frmResults.hscYears.Value == 1 && !frmResults.chkGradeline.Value);
 }
 
 TEST_F(ResultsEventsTest, TheGraphOfRatesComesAndGoes)

@@ -72,6 +72,8 @@ TEST_F(RoughnessScreenTest, WhatIsMeasuredGivesTheRoughnessBetweenThePoints)
               "Karman Prandtl (ks in mm)388.00; 0.381; ");
     EXPECT_EQ(Results.Text(7, 1).substr(0, 5), "12953");
     EXPECT_EQ(Column(Results, 2), "; ; ; ; ; ; ; ");
+    MDIProject.mnuRoughness.Click(); // which shows the screen that stands
+    EXPECT_EQ(Results.Text(5, 1), "388.00");
 
     MoveTo(2);
     EXPECT_EQ(frmRoughness.lblScenario.Caption.Get() + frmRoughness.fraScenario.Caption.Get() +
@@ -191,9 +193,13 @@ TEST_F(RoughnessScreenTest, TheGraphShowsTheMeasuredStretchesOverTheProfile)
     frmRoughness.sscViewGraph.Click();
     MDIProject.mnuRoughness.Click();
     EXPECT_TRUE(frmRoughness.Visible && !frmViewRoughness.IsLoaded());
-    frmRoughness.sscPrevious.Click(); // the profile view follows year and gradeline, in its picture too
+    frmRoughness.sscPrevious.Click(); // the profile view follows the gradeline, in its picture too
     EXPECT_EQ(frmView.lblYear.Caption.Get(), std::to_string(wSupplyStart + 5));
     EXPECT_TRUE(frmView.hscYears.Value == 6 && ProfileYearDrawn == 6 && !frmView.chkHydraulic.Value);
+    frmView.hscYears.Value = 8;
+    MDIProject.mnuRoughness.Click();
+    frmRoughness.sscPrevious.Click();
+    EXPECT_TRUE(frmView.hscYears.Value == 8 && ProfileYearDrawn == 6); // until the view is asked for
     MDIProject.mnuGeneral.Click();
     EXPECT_FALSE(frmRoughness.Visible || frmView.IsLoaded() || MDIProject.mnuRoughness.Visible);
     EXPECT_EQ(Readings[3][AtPressure][3], 30.0);
